@@ -1,0 +1,51 @@
+#include "frame/process.hpp"
+
+#include <cpuid.h>
+
+#include "platform/platform.hpp"
+#include "simd/dispatch.hpp"
+#include "tessaro/tessaro.h"
+
+namespace tessaro {
+
+namespace {
+
+int32_t cpu_level = 0;     // what GetCpuID reports
+int32_t cached_level = 0;  // 0 = not yet computed
+int32_t wide_switch = 0;   // the value last given to MMX
+
+uint32_t feature_flags() {
+  unsigned a = 0, b = 0, c = 0, d = 0;
+  return __get_cpuid(1, &a, &b, &c, &d) ? d : 0;
+}
+
+}  // namespace
+
+int32_t cpu_level_of(uint32_t flags) {
+  const auto bit = [flags](int n) { return static_cast<int32_t>(flags >> n & 1); };
+  if (!bit(23)) return 2 + bit(15);
+  return (bit(25) ? 12 : 4) + 16 * bit(26);
+}
+
+int32_t lazy_cpu_level() {
+  if (cached_level == 0) cached_level = cpu_level_of(feature_flags());
+  return cached_level;
+}
+
+void on_load() {
+  cpu_level = lazy_cpu_level();
+  choose_backend();
+  seed_random(platform::tick_count());
+}
+
+void on_unload() { unhook_all(); }
+
+}  // namespace tessaro
+
+extern "C" {
+
+int32_t TESSARO_CALL GetCpuID(void) { return tessaro::cpu_level; }
+
+int32_t TESSARO_CALL MMX(int32_t flag) { return tessaro::wide_switch = flag; }
+
+}  // extern "C"

@@ -1,0 +1,25 @@
+// Load and unload of the library, and the processor level.
+#pragma once
+
+#include <cstdint>
+
+namespace tessaro {
+
+// Run once when a process attaches the library and once when it lets go of it.
+void on_load();
+void on_unload();
+
+// The processor level, computed on the first call: 2 or 3 without packed integers, 4 with MMX, plus 8 with
+// SSE and 16 with SSE2.
+int32_t lazy_cpu_level();
+// The level for the feature flags that the processor reports in EDX.
+int32_t cpu_level_of(uint32_t flags);
+
+// Restores every window that is still hooked.
+int32_t unhook_all();
+
+// Seeds the generator behind GetRandom; draws a tempered word.
+void seed_random(uint32_t seed);
+uint32_t draw_random();
+
+}  // namespace tessaro

@@ -1,0 +1,99 @@
+// Scalar exports for hosts whose language lacks them.
+#include <cstddef>
+#include <cstring>
+
+#include "frame/numbers.hpp"
+#include "tessaro/tessaro.h"
+
+using namespace tessaro;
+
+namespace {
+
+template <class T>
+uint8_t* element(const void* base, int32_t index) {
+  return const_cast<uint8_t*>(static_cast<const uint8_t*>(base)) +
+         static_cast<ptrdiff_t>(index) * static_cast<ptrdiff_t>(sizeof(T));
+}
+
+// The two string hashes mix their state alike, with different masks and factors.
+struct HashState {
+  uint32_t h1, h2;
+  void take(uint32_t ch, uint32_t mask, uint32_t factor) {
+    h2 &= mask;
+    h1 = (h1 & mask) + (h2 >> 1) + ch + 520 * h2;
+    h2 += ch + factor * h1;
+  }
+  uint32_t result() const { return h1 << 16 ^ h2; }
+};
+
+}  // namespace
+
+extern "C" {
+
+int32_t TESSARO_CALL BBI(int32_t x) { return x; }
+
+uint32_t TESSARO_CALL SHR(uint32_t value, uint32_t count) { return value >> (count & 31); }
+int32_t TESSARO_CALL SAR(int32_t value, uint32_t count) { return value >> (count & 31); }
+uint32_t TESSARO_CALL SHL(uint32_t value, uint32_t count) { return value << (count & 31); }
+
+uint16_t TESSARO_CALL GetWORD(const void* base, int32_t index) {
+  return load<uint16_t>(element<uint16_t>(base, index));
+}
+uint16_t TESSARO_CALL SetWORD(void* base, int32_t index, uint32_t value) {
+  store(element<uint16_t>(base, index), static_cast<uint16_t>(value));
+  return static_cast<uint16_t>(value);
+}
+uint32_t TESSARO_CALL GetDWORD(const void* base, int32_t index) {
+  return load<uint32_t>(element<uint32_t>(base, index));
+}
+uint32_t TESSARO_CALL SetDWORD(void* base, int32_t index, uint32_t value) {
+  store(element<uint32_t>(base, index), value);
+  return value;
+}
+
+int32_t TESSARO_CALL dllComp(const void* a, const void* b, int32_t count) {
+  return count >= 1 && std::memcmp(a, b, static_cast<size_t>(count)) != 0;
+}
+
+int32_t TESSARO_CALL CopyMemoryEx(void* dst, const void* src, int32_t words, int32_t rows, int32_t pitch) {
+  auto* d = static_cast<uint8_t*>(dst);
+  const auto* s = static_cast<const uint8_t*>(src);
+  if (words < 1) return 0;
+  for (; rows >= 1; --rows, d += pitch, s += pitch)
+    for (ptrdiff_t i = 0; i < words; ++i)
+      store(d + 4 * i, load<uint32_t>(d + 4 * i) ^ load<uint32_t>(s + 4 * i));
+  return 0;
+}
+
+uint32_t TESSARO_CALL hash32A(const void* text) {
+  const auto* at = static_cast<const uint8_t*>(text);
+  HashState state{0x22A83D, 0x1476E5};
+  for (int i = 0; i < 64 && at[i] != 0; ++i) state.take(at[i], 0x3FFFFF, 162);
+  return state.result();
+}
+
+uint32_t TESSARO_CALL hash32W(const void* bytes, int32_t length) {
+  const auto* at = static_cast<const uint8_t*>(bytes);
+  HashState state{0x12A83D, 0x1476E5};
+  for (int32_t i = 0; i < length; ++i)
+    if (at[i] != 0) state.take(at[i], 0x1FFFFF, 38);
+  return state.result();
+}
+
+uint32_t TESSARO_CALL dwColorBlend(uint32_t colour0, uint32_t colour1, float factor) {
+  if (!(factor >= 0.0f)) factor = 0.0f;
+  if (factor > 1.0f) factor = 1.0f;
+  const auto k = static_cast<uint32_t>(trunc32(factor * 256.0f));
+  const uint32_t j = 256 - k, lanes = 0x00FF00FF;
+  const uint32_t blue_red = ((colour0 & lanes) * j + (colour1 & lanes) * k) >> 8 & lanes;
+  const uint32_t green_alpha = ((colour0 >> 8 & lanes) * j + (colour1 >> 8 & lanes) * k) & ~lanes;
+  return blue_red | green_alpha;
+}
+
+intptr_t TESSARO_CALL dllMethod1(TessaroMethod1 fn, intptr_t a) { return fn(a); }
+intptr_t TESSARO_CALL dllMethod4(TessaroMethod4 fn, intptr_t a, intptr_t b, intptr_t c, intptr_t d) {
+  return fn(a, b, c, d);
+}
+intptr_t TESSARO_CALL StdCallBack(TessaroCallback2 fn, intptr_t a, intptr_t b) { return fn(a, b); }
+
+}  // extern "C"

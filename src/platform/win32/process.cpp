@@ -1,0 +1,16 @@
+#include <windows.h>
+
+#include "frame/process.hpp"
+#include "platform/platform.hpp"
+
+namespace tessaro::platform {
+
+uint32_t tick_count() { return GetTickCount(); }
+
+}  // namespace tessaro::platform
+
+extern "C" BOOL WINAPI DllMain(HINSTANCE, DWORD reason, LPVOID) {
+  if (reason == DLL_PROCESS_ATTACH) tessaro::on_load();
+  if (reason == DLL_PROCESS_DETACH) tessaro::on_unload();
+  return TRUE;
+}

@@ -1,0 +1,111 @@
+// Eight pixels in a 256-bit register.
+#pragma once
+
+#define TESSARO_PX
+#include <immintrin.h>
+
+#include "simd/scalar.hpp"
+
+namespace {
+
+struct Px {
+  static constexpr size_t lanes = 8;
+  using Mask = __m256i;  // all ones in a chosen pixel
+  struct Half {
+    __m256i v;
+    TESSARO_INLINE static Half splat(uint32_t x) { return {_mm256_set1_epi16(static_cast<short>(x))}; }
+  };
+  __m256i v;
+  // The first n pixels: masked-off lanes neither fault nor write.
+  TESSARO_INLINE static __m256i first(size_t n) {
+    return _mm256_cmpgt_epi32(_mm256_set1_epi32(static_cast<int>(n)),
+                              _mm256_setr_epi32(0, 1, 2, 3, 4, 5, 6, 7));
+  }
+  TESSARO_INLINE static Px load(const void* p) {
+    return {_mm256_loadu_si256(static_cast<const __m256i*>(p))};
+  }
+  TESSARO_INLINE static Px load(const void* p, size_t n) {
+    return {_mm256_maskload_epi32(static_cast<const int*>(p), first(n))};
+  }
+  TESSARO_INLINE void store(void* p) const { _mm256_storeu_si256(static_cast<__m256i*>(p), v); }
+  TESSARO_INLINE void store(void* p, size_t n) const {
+    _mm256_maskstore_epi32(static_cast<int*>(p), first(n), v);
+  }
+  TESSARO_INLINE static Px splat(uint32_t x) { return {_mm256_set1_epi32(static_cast<int>(x))}; }
+};
+
+TESSARO_INLINE Px add_sat(Px a, Px b) { return {_mm256_adds_epu8(a.v, b.v)}; }
+TESSARO_INLINE Px sub_sat(Px a, Px b) { return {_mm256_subs_epu8(a.v, b.v)}; }
+TESSARO_INLINE Px add(Px a, Px b) { return {_mm256_add_epi8(a.v, b.v)}; }
+TESSARO_INLINE Px sub(Px a, Px b) { return {_mm256_sub_epi8(a.v, b.v)}; }
+TESSARO_INLINE Px min(Px a, Px b) { return {_mm256_min_epu8(a.v, b.v)}; }
+TESSARO_INLINE Px max(Px a, Px b) { return {_mm256_max_epu8(a.v, b.v)}; }
+TESSARO_INLINE Px difference(Px a, Px b) {
+  return {_mm256_or_si256(_mm256_subs_epu8(a.v, b.v), _mm256_subs_epu8(b.v, a.v))};
+}
+TESSARO_INLINE Px operator&(Px a, Px b) { return {_mm256_and_si256(a.v, b.v)}; }
+TESSARO_INLINE Px operator|(Px a, Px b) { return {_mm256_or_si256(a.v, b.v)}; }
+TESSARO_INLINE Px operator^(Px a, Px b) { return {_mm256_xor_si256(a.v, b.v)}; }
+TESSARO_INLINE Px operator~(Px a) { return {_mm256_xor_si256(a.v, _mm256_set1_epi32(-1))}; }
+TESSARO_INLINE Px and_not(Px a, Px b) { return {_mm256_andnot_si256(b.v, a.v)}; }
+template <int k>
+TESSARO_INLINE Px shl(Px a) {
+  return {_mm256_slli_epi32(a.v, k)};
+}
+template <int k>
+TESSARO_INLINE Px shr(Px a) {
+  return {_mm256_srli_epi32(a.v, k)};
+}
+TESSARO_INLINE Px alphas(Px a) {
+  const __m256i from = _mm256_setr_epi8(3, 3, 3, 3, 7, 7, 7, 7, 11, 11, 11, 11, 15, 15, 15, 15,  //
+                                        3, 3, 3, 3, 7, 7, 7, 7, 11, 11, 11, 11, 15, 15, 15, 15);
+  return {_mm256_shuffle_epi8(a.v, from)};
+}
+TESSARO_INLINE Px::Half alpha_halves(Px a) {
+  const __m256i from = _mm256_setr_epi8(3, -1, 3, -1, 7, -1, 7, -1, 11, -1, 11, -1, 15, -1, 15, -1,  //
+                                        3, -1, 3, -1, 7, -1, 7, -1, 11, -1, 11, -1, 15, -1, 15, -1);
+  return {_mm256_shuffle_epi8(a.v, from)};
+}
+TESSARO_INLINE Px select(__m256i mask, Px yes, Px no) { return {_mm256_blendv_epi8(no.v, yes.v, mask)}; }
+TESSARO_INLINE Px with_alpha(Px colour, Px a) {
+  return select(_mm256_set1_epi32(static_cast<int>(0xFF000000)), a, colour);
+}
+TESSARO_INLINE __m256i equal(Px a, Px b) { return _mm256_cmpeq_epi32(a.v, b.v); }
+TESSARO_INLINE __m256i above(Px a, Px b) {
+  const __m256i sign = _mm256_set1_epi32(INT32_MIN);
+  return _mm256_cmpgt_epi32(_mm256_xor_si256(a.v, sign), _mm256_xor_si256(b.v, sign));
+}
+
+TESSARO_INLINE Px::Half even(Px a) { return {_mm256_and_si256(a.v, _mm256_set1_epi16(255))}; }
+TESSARO_INLINE Px::Half odd(Px a) { return {_mm256_srli_epi16(a.v, 8)}; }
+TESSARO_INLINE Px join(Px::Half e, Px::Half o) { return {_mm256_or_si256(e.v, _mm256_slli_epi16(o.v, 8))}; }
+TESSARO_INLINE Px join_high(Px::Half e, Px::Half o) {
+  return {_mm256_or_si256(_mm256_srli_epi16(e.v, 8), _mm256_andnot_si256(_mm256_set1_epi16(255), o.v))};
+}
+TESSARO_INLINE Px::Half operator+(Px::Half a, Px::Half b) { return {_mm256_add_epi16(a.v, b.v)}; }
+TESSARO_INLINE Px::Half operator-(Px::Half a, Px::Half b) { return {_mm256_sub_epi16(a.v, b.v)}; }
+TESSARO_INLINE Px::Half operator*(Px::Half a, Px::Half b) { return {_mm256_mullo_epi16(a.v, b.v)}; }
+TESSARO_INLINE Px::Half min(Px::Half a, Px::Half b) { return {_mm256_min_epi16(a.v, b.v)}; }
+TESSARO_INLINE Px::Half max(Px::Half a, Px::Half b) { return {_mm256_max_epi16(a.v, b.v)}; }
+template <int k>
+TESSARO_INLINE Px::Half shl(Px::Half a) {
+  return {_mm256_slli_epi16(a.v, k)};
+}
+template <int k>
+TESSARO_INLINE Px::Half shr(Px::Half a) {
+  return {_mm256_srli_epi16(a.v, k)};
+}
+TESSARO_INLINE Px::Half lookup_alpha(Px a, const uint32_t* table) {
+  const __m256i t =
+      _mm256_i32gather_epi32(reinterpret_cast<const int*>(table), _mm256_srli_epi32(a.v, 24), 4);
+  return {_mm256_or_si256(t, _mm256_slli_epi32(t, 16))};
+}
+TESSARO_INLINE Px::Half scaled_alpha(Px a, uint32_t m) {
+  const __m256i t = _mm256_srli_epi32(
+      _mm256_madd_epi16(_mm256_srli_epi32(a.v, 24), _mm256_set1_epi32(static_cast<int>(m))), 14);
+  return {_mm256_or_si256(t, _mm256_slli_epi32(t, 16))};
+}
+
+static_assert(PixelVector<Px>);
+
+}  // namespace

@@ -1,0 +1,99 @@
+// Sixteen pixels in a 512-bit register; masks have registers of their own.
+#pragma once
+
+#define TESSARO_PX
+#include <immintrin.h>
+
+#include "simd/scalar.hpp"
+
+namespace {
+
+struct Px {
+  static constexpr size_t lanes = 16;
+  using Mask = __mmask16;
+  struct Half {
+    __m512i v;
+    TESSARO_INLINE static Half splat(uint32_t x) { return {_mm512_set1_epi16(static_cast<short>(x))}; }
+  };
+  __m512i v;
+  TESSARO_INLINE static __mmask16 first(size_t n) { return static_cast<__mmask16>((1u << n) - 1); }
+  TESSARO_INLINE static Px load(const void* p) { return {_mm512_loadu_si512(p)}; }
+  TESSARO_INLINE static Px load(const void* p, size_t n) { return {_mm512_maskz_loadu_epi32(first(n), p)}; }
+  TESSARO_INLINE void store(void* p) const { _mm512_storeu_si512(p, v); }
+  TESSARO_INLINE void store(void* p, size_t n) const { _mm512_mask_storeu_epi32(p, first(n), v); }
+  TESSARO_INLINE static Px splat(uint32_t x) { return {_mm512_set1_epi32(static_cast<int>(x))}; }
+};
+
+TESSARO_INLINE Px add_sat(Px a, Px b) { return {_mm512_adds_epu8(a.v, b.v)}; }
+TESSARO_INLINE Px sub_sat(Px a, Px b) { return {_mm512_subs_epu8(a.v, b.v)}; }
+TESSARO_INLINE Px add(Px a, Px b) { return {_mm512_add_epi8(a.v, b.v)}; }
+TESSARO_INLINE Px sub(Px a, Px b) { return {_mm512_sub_epi8(a.v, b.v)}; }
+TESSARO_INLINE Px min(Px a, Px b) { return {_mm512_min_epu8(a.v, b.v)}; }
+TESSARO_INLINE Px max(Px a, Px b) { return {_mm512_max_epu8(a.v, b.v)}; }
+TESSARO_INLINE Px difference(Px a, Px b) {
+  return {_mm512_or_si512(_mm512_subs_epu8(a.v, b.v), _mm512_subs_epu8(b.v, a.v))};
+}
+TESSARO_INLINE Px operator&(Px a, Px b) { return {_mm512_and_si512(a.v, b.v)}; }
+TESSARO_INLINE Px operator|(Px a, Px b) { return {_mm512_or_si512(a.v, b.v)}; }
+TESSARO_INLINE Px operator^(Px a, Px b) { return {_mm512_xor_si512(a.v, b.v)}; }
+TESSARO_INLINE Px operator~(Px a) { return {_mm512_xor_si512(a.v, _mm512_set1_epi32(-1))}; }
+TESSARO_INLINE Px and_not(Px a, Px b) { return {_mm512_andnot_si512(b.v, a.v)}; }
+template <int k>
+TESSARO_INLINE Px shl(Px a) {
+  return {_mm512_slli_epi32(a.v, k)};
+}
+template <int k>
+TESSARO_INLINE Px shr(Px a) {
+  return {_mm512_srli_epi32(a.v, k)};
+}
+TESSARO_INLINE Px alphas(Px a) {
+  const __m512i from = _mm512_set4_epi32(0x0F0F0F0F, 0x0B0B0B0B, 0x07070707, 0x03030303);
+  return {_mm512_shuffle_epi8(a.v, from)};
+}
+TESSARO_INLINE Px::Half alpha_halves(Px a) {
+  const __m512i from = _mm512_set4_epi32(static_cast<int>(0x800F800F), static_cast<int>(0x800B800B),
+                                         static_cast<int>(0x80078007), static_cast<int>(0x80038003));
+  return {_mm512_shuffle_epi8(a.v, from)};
+}
+TESSARO_INLINE Px select(__mmask16 mask, Px yes, Px no) {
+  return {_mm512_mask_blend_epi32(mask, no.v, yes.v)};
+}
+TESSARO_INLINE Px with_alpha(Px colour, Px a) {
+  // Bitwise choice by the third operand.
+  return {_mm512_ternarylogic_epi32(a.v, colour.v, _mm512_set1_epi32(static_cast<int>(0xFF000000)), 0xE4)};
+}
+TESSARO_INLINE __mmask16 equal(Px a, Px b) { return _mm512_cmpeq_epi32_mask(a.v, b.v); }
+TESSARO_INLINE __mmask16 above(Px a, Px b) { return _mm512_cmpgt_epu32_mask(a.v, b.v); }
+
+TESSARO_INLINE Px::Half even(Px a) { return {_mm512_and_si512(a.v, _mm512_set1_epi16(255))}; }
+TESSARO_INLINE Px::Half odd(Px a) { return {_mm512_srli_epi16(a.v, 8)}; }
+TESSARO_INLINE Px join(Px::Half e, Px::Half o) { return {_mm512_or_si512(e.v, _mm512_slli_epi16(o.v, 8))}; }
+TESSARO_INLINE Px join_high(Px::Half e, Px::Half o) {
+  return {_mm512_ternarylogic_epi32(_mm512_srli_epi16(e.v, 8), o.v, _mm512_set1_epi16(255), 0xE4)};
+}
+TESSARO_INLINE Px::Half operator+(Px::Half a, Px::Half b) { return {_mm512_add_epi16(a.v, b.v)}; }
+TESSARO_INLINE Px::Half operator-(Px::Half a, Px::Half b) { return {_mm512_sub_epi16(a.v, b.v)}; }
+TESSARO_INLINE Px::Half operator*(Px::Half a, Px::Half b) { return {_mm512_mullo_epi16(a.v, b.v)}; }
+TESSARO_INLINE Px::Half min(Px::Half a, Px::Half b) { return {_mm512_min_epi16(a.v, b.v)}; }
+TESSARO_INLINE Px::Half max(Px::Half a, Px::Half b) { return {_mm512_max_epi16(a.v, b.v)}; }
+template <int k>
+TESSARO_INLINE Px::Half shl(Px::Half a) {
+  return {_mm512_slli_epi16(a.v, k)};
+}
+template <int k>
+TESSARO_INLINE Px::Half shr(Px::Half a) {
+  return {_mm512_srli_epi16(a.v, k)};
+}
+TESSARO_INLINE Px::Half lookup_alpha(Px a, const uint32_t* table) {
+  const __m512i t = _mm512_i32gather_epi32(_mm512_srli_epi32(a.v, 24), table, 4);
+  return {_mm512_or_si512(t, _mm512_slli_epi32(t, 16))};
+}
+TESSARO_INLINE Px::Half scaled_alpha(Px a, uint32_t m) {
+  const __m512i t = _mm512_srli_epi32(
+      _mm512_madd_epi16(_mm512_srli_epi32(a.v, 24), _mm512_set1_epi32(static_cast<int>(m))), 14);
+  return {_mm512_or_si512(t, _mm512_slli_epi32(t, 16))};
+}
+
+static_assert(PixelVector<Px>);
+
+}  // namespace

@@ -1,0 +1,26 @@
+#include "simd/dispatch.hpp"
+
+namespace tessaro {
+
+constinit Backend active_backend = Backend::sse2;
+
+Backend best_backend() {
+  __builtin_cpu_init();
+  if (__builtin_cpu_supports("avx512f") && __builtin_cpu_supports("avx512bw") &&
+      __builtin_cpu_supports("avx512vl") && __builtin_cpu_supports("avx512dq") &&
+      __builtin_cpu_supports("bmi") && __builtin_cpu_supports("bmi2"))
+    return Backend::avx512;
+  if (__builtin_cpu_supports("avx2") && __builtin_cpu_supports("bmi") && __builtin_cpu_supports("bmi2") &&
+      __builtin_cpu_supports("popcnt"))
+    return Backend::avx2;
+  return Backend::sse2;
+}
+
+void choose_backend() { active_backend = best_backend(); }
+
+const char* name_of(Backend backend) {
+  static constexpr const char* names[backend_count] = {"scalar", "sse2", "avx2", "avx512"};
+  return names[static_cast<size_t>(backend)];
+}
+
+}  // namespace tessaro

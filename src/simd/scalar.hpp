@@ -1,0 +1,124 @@
+// One pixel at a time: the definition of the vocabulary, and the form that every back end takes where
+// overlapping memory demands one pixel after another.
+#pragma once
+
+#include "simd/vocabulary.hpp"
+
+namespace {
+
+struct One {
+  static constexpr size_t lanes = 1;
+  using Mask = bool;
+  struct Half {
+    uint32_t v;  // two lanes of 16 bits
+    TESSARO_INLINE static Half splat(uint32_t x) { return {(x & 0xFFFF) * 0x10001}; }
+  };
+  uint32_t v;
+  TESSARO_INLINE static One load(const void* p) {
+    One a;
+    std::memcpy(&a.v, p, 4);
+    return a;
+  }
+  TESSARO_INLINE static One load(const void* p, size_t) { return load(p); }
+  TESSARO_INLINE void store(void* p) const { std::memcpy(p, &v, 4); }
+  TESSARO_INLINE void store(void* p, size_t) const { store(p); }
+  TESSARO_INLINE static One splat(uint32_t x) { return {x}; }
+};
+
+template <class F>
+TESSARO_INLINE One per_byte(One a, One b, F f) {
+  uint32_t v = 0;
+  for (unsigned at = 0; at < 32; at += 8)
+    v |=
+        (static_cast<uint32_t>(f(static_cast<int>(a.v >> at & 255), static_cast<int>(b.v >> at & 255))) & 255)
+        << at;
+  return {v};
+}
+TESSARO_INLINE One add_sat(One a, One b) {
+  return per_byte(a, b, [](int x, int y) { return x + y > 255 ? 255 : x + y; });
+}
+TESSARO_INLINE One sub_sat(One a, One b) {
+  return per_byte(a, b, [](int x, int y) { return x < y ? 0 : x - y; });
+}
+TESSARO_INLINE One add(One a, One b) {
+  return per_byte(a, b, [](int x, int y) { return x + y; });
+}
+TESSARO_INLINE One sub(One a, One b) {
+  return per_byte(a, b, [](int x, int y) { return x - y; });
+}
+TESSARO_INLINE One min(One a, One b) {
+  return per_byte(a, b, [](int x, int y) { return x < y ? x : y; });
+}
+TESSARO_INLINE One max(One a, One b) {
+  return per_byte(a, b, [](int x, int y) { return x > y ? x : y; });
+}
+TESSARO_INLINE One difference(One a, One b) {
+  return per_byte(a, b, [](int x, int y) { return x > y ? x - y : y - x; });
+}
+TESSARO_INLINE One operator&(One a, One b) { return {a.v & b.v}; }
+TESSARO_INLINE One operator|(One a, One b) { return {a.v | b.v}; }
+TESSARO_INLINE One operator^(One a, One b) { return {a.v ^ b.v}; }
+TESSARO_INLINE One operator~(One a) { return {~a.v}; }
+TESSARO_INLINE One and_not(One a, One b) { return {a.v & ~b.v}; }
+template <int k>
+TESSARO_INLINE One shl(One a) {
+  return {a.v << k};
+}
+template <int k>
+TESSARO_INLINE One shr(One a) {
+  return {a.v >> k};
+}
+TESSARO_INLINE One alphas(One a) { return {(a.v >> 24) * 0x01010101u}; }
+TESSARO_INLINE One with_alpha(One colour, One a) { return {(colour.v & 0x00FFFFFF) | (a.v & 0xFF000000)}; }
+TESSARO_INLINE bool equal(One a, One b) { return a.v == b.v; }
+TESSARO_INLINE bool above(One a, One b) { return a.v > b.v; }
+TESSARO_INLINE One select(bool mask, One yes, One no) { return mask ? yes : no; }
+
+TESSARO_INLINE One::Half even(One a) { return {a.v & 0x00FF00FF}; }
+TESSARO_INLINE One::Half odd(One a) { return {a.v >> 8 & 0x00FF00FF}; }
+TESSARO_INLINE One join(One::Half e, One::Half o) { return {e.v | o.v << 8}; }
+TESSARO_INLINE One join_high(One::Half e, One::Half o) {
+  return {(e.v >> 8 & 0x00FF00FF) | (o.v & 0xFF00FF00)};
+}
+TESSARO_INLINE One::Half alpha_halves(One a) { return One::Half::splat(a.v >> 24); }
+TESSARO_INLINE One::Half lookup_alpha(One a, const uint32_t* table) {
+  return One::Half::splat(table[a.v >> 24]);
+}
+TESSARO_INLINE One::Half scaled_alpha(One a, uint32_t m) { return One::Half::splat((a.v >> 24) * m >> 14); }
+template <class F>
+TESSARO_INLINE One::Half per_lane(One::Half a, One::Half b, F f) {
+  return {(f(a.v & 0xFFFF, b.v & 0xFFFF) & 0xFFFF) | f(a.v >> 16, b.v >> 16) << 16};
+}
+TESSARO_INLINE One::Half operator+(One::Half a, One::Half b) {
+  return per_lane(a, b, [](uint32_t x, uint32_t y) { return x + y; });
+}
+TESSARO_INLINE One::Half operator-(One::Half a, One::Half b) {
+  return per_lane(a, b, [](uint32_t x, uint32_t y) { return x - y; });
+}
+TESSARO_INLINE One::Half operator*(One::Half a, One::Half b) {
+  return per_lane(a, b, [](uint32_t x, uint32_t y) { return x * y; });
+}
+TESSARO_INLINE One::Half min(One::Half a, One::Half b) {
+  return per_lane(
+      a, b, [](uint32_t x, uint32_t y) { return static_cast<int16_t>(x) < static_cast<int16_t>(y) ? x : y; });
+}
+TESSARO_INLINE One::Half max(One::Half a, One::Half b) {
+  return per_lane(
+      a, b, [](uint32_t x, uint32_t y) { return static_cast<int16_t>(x) > static_cast<int16_t>(y) ? x : y; });
+}
+template <int k>
+TESSARO_INLINE One::Half shl(One::Half a) {
+  return per_lane(a, a, [](uint32_t x, uint32_t) { return x << k; });
+}
+template <int k>
+TESSARO_INLINE One::Half shr(One::Half a) {
+  return per_lane(a, a, [](uint32_t x, uint32_t) { return x >> k; });
+}
+
+#ifndef TESSARO_PX
+#define TESSARO_PX
+using Px = One;
+#endif
+static_assert(PixelVector<One>);
+
+}  // namespace

@@ -1,0 +1,124 @@
+// Four pixels in a 128-bit register, SSE2 only: no byte shuffle, no blend.
+#pragma once
+
+#define TESSARO_PX
+#include <emmintrin.h>
+
+#include "simd/scalar.hpp"
+
+namespace {
+
+struct Px {
+  static constexpr size_t lanes = 4;
+  using Mask = __m128i;  // all ones in a chosen pixel
+  struct Half {
+    __m128i v;
+    TESSARO_INLINE static Half splat(uint32_t x) { return {_mm_set1_epi16(static_cast<short>(x))}; }
+  };
+  __m128i v;
+  TESSARO_INLINE static Px load(const void* p) { return {_mm_loadu_si128(static_cast<const __m128i*>(p))}; }
+  TESSARO_INLINE static Px load(const void* p, size_t n) {
+    const auto* at = static_cast<const char*>(p);
+    __m128i a = _mm_setzero_si128();
+    if (n & 1) {
+      int last;
+      std::memcpy(&last, at + 4 * (n & 2), 4);
+      a = _mm_cvtsi32_si128(last);
+    }
+    if (n & 2) a = _mm_unpacklo_epi64(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(at)), a);
+    return {a};
+  }
+  TESSARO_INLINE void store(void* p) const { _mm_storeu_si128(static_cast<__m128i*>(p), v); }
+  TESSARO_INLINE void store(void* p, size_t n) const {
+    auto* at = static_cast<char*>(p);
+    __m128i a = v;
+    if (n & 2) {
+      _mm_storel_epi64(reinterpret_cast<__m128i*>(at), a);
+      a = _mm_unpackhi_epi64(a, a);
+    }
+    if (n & 1) {
+      const int last = _mm_cvtsi128_si32(a);
+      std::memcpy(at + 4 * (n & 2), &last, 4);
+    }
+  }
+  TESSARO_INLINE static Px splat(uint32_t x) { return {_mm_set1_epi32(static_cast<int>(x))}; }
+};
+
+TESSARO_INLINE Px add_sat(Px a, Px b) { return {_mm_adds_epu8(a.v, b.v)}; }
+TESSARO_INLINE Px sub_sat(Px a, Px b) { return {_mm_subs_epu8(a.v, b.v)}; }
+TESSARO_INLINE Px add(Px a, Px b) { return {_mm_add_epi8(a.v, b.v)}; }
+TESSARO_INLINE Px sub(Px a, Px b) { return {_mm_sub_epi8(a.v, b.v)}; }
+TESSARO_INLINE Px min(Px a, Px b) { return {_mm_min_epu8(a.v, b.v)}; }
+TESSARO_INLINE Px max(Px a, Px b) { return {_mm_max_epu8(a.v, b.v)}; }
+TESSARO_INLINE Px difference(Px a, Px b) {
+  return {_mm_or_si128(_mm_subs_epu8(a.v, b.v), _mm_subs_epu8(b.v, a.v))};
+}
+TESSARO_INLINE Px operator&(Px a, Px b) { return {_mm_and_si128(a.v, b.v)}; }
+TESSARO_INLINE Px operator|(Px a, Px b) { return {_mm_or_si128(a.v, b.v)}; }
+TESSARO_INLINE Px operator^(Px a, Px b) { return {_mm_xor_si128(a.v, b.v)}; }
+TESSARO_INLINE Px operator~(Px a) { return {_mm_xor_si128(a.v, _mm_set1_epi32(-1))}; }
+TESSARO_INLINE Px and_not(Px a, Px b) { return {_mm_andnot_si128(b.v, a.v)}; }
+template <int k>
+TESSARO_INLINE Px shl(Px a) {
+  return {_mm_slli_epi32(a.v, k)};
+}
+template <int k>
+TESSARO_INLINE Px shr(Px a) {
+  return {_mm_srli_epi32(a.v, k)};
+}
+TESSARO_INLINE Px::Half alpha_halves(Px a) {
+  const __m128i t = _mm_srli_epi32(a.v, 24);
+  return {_mm_or_si128(t, _mm_slli_epi32(t, 16))};
+}
+TESSARO_INLINE Px alphas(Px a) {
+  const __m128i t = alpha_halves(a).v;
+  return {_mm_or_si128(t, _mm_slli_epi32(t, 8))};
+}
+TESSARO_INLINE Px select(__m128i mask, Px yes, Px no) {
+  return {_mm_or_si128(_mm_and_si128(mask, yes.v), _mm_andnot_si128(mask, no.v))};
+}
+TESSARO_INLINE Px with_alpha(Px colour, Px a) {
+  return select(_mm_set1_epi32(static_cast<int>(0xFF000000)), a, colour);
+}
+TESSARO_INLINE __m128i equal(Px a, Px b) { return _mm_cmpeq_epi32(a.v, b.v); }
+TESSARO_INLINE __m128i above(Px a, Px b) {
+  const __m128i sign = _mm_set1_epi32(INT32_MIN);
+  return _mm_cmpgt_epi32(_mm_xor_si128(a.v, sign), _mm_xor_si128(b.v, sign));
+}
+
+TESSARO_INLINE Px::Half even(Px a) { return {_mm_and_si128(a.v, _mm_set1_epi16(255))}; }
+TESSARO_INLINE Px::Half odd(Px a) { return {_mm_srli_epi16(a.v, 8)}; }
+TESSARO_INLINE Px join(Px::Half e, Px::Half o) { return {_mm_or_si128(e.v, _mm_slli_epi16(o.v, 8))}; }
+TESSARO_INLINE Px join_high(Px::Half e, Px::Half o) {
+  return {_mm_or_si128(_mm_srli_epi16(e.v, 8), _mm_andnot_si128(_mm_set1_epi16(255), o.v))};
+}
+TESSARO_INLINE Px::Half operator+(Px::Half a, Px::Half b) { return {_mm_add_epi16(a.v, b.v)}; }
+TESSARO_INLINE Px::Half operator-(Px::Half a, Px::Half b) { return {_mm_sub_epi16(a.v, b.v)}; }
+TESSARO_INLINE Px::Half operator*(Px::Half a, Px::Half b) { return {_mm_mullo_epi16(a.v, b.v)}; }
+TESSARO_INLINE Px::Half min(Px::Half a, Px::Half b) { return {_mm_min_epi16(a.v, b.v)}; }
+TESSARO_INLINE Px::Half max(Px::Half a, Px::Half b) { return {_mm_max_epi16(a.v, b.v)}; }
+template <int k>
+TESSARO_INLINE Px::Half shl(Px::Half a) {
+  return {_mm_slli_epi16(a.v, k)};
+}
+template <int k>
+TESSARO_INLINE Px::Half shr(Px::Half a) {
+  return {_mm_srli_epi16(a.v, k)};
+}
+TESSARO_INLINE Px::Half lookup_alpha(Px a, const uint32_t* table) {
+  const __m128i i = _mm_srli_epi32(a.v, 24);
+  const auto entry = [table](int at) { return _mm_cvtsi32_si128(static_cast<int>(table[at])); };
+  const __m128i t =
+      _mm_unpacklo_epi64(_mm_unpacklo_epi32(entry(_mm_extract_epi16(i, 0)), entry(_mm_extract_epi16(i, 2))),
+                         _mm_unpacklo_epi32(entry(_mm_extract_epi16(i, 4)), entry(_mm_extract_epi16(i, 6))));
+  return {_mm_or_si128(t, _mm_slli_epi32(t, 16))};
+}
+TESSARO_INLINE Px::Half scaled_alpha(Px a, uint32_t m) {
+  const __m128i t =
+      _mm_srli_epi32(_mm_madd_epi16(_mm_srli_epi32(a.v, 24), _mm_set1_epi32(static_cast<int>(m))), 14);
+  return {_mm_or_si128(t, _mm_slli_epi32(t, 16))};
+}
+
+static_assert(PixelVector<Px>);
+
+}  // namespace
