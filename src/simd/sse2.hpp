@@ -114,9 +114,9 @@ TESSARO_INLINE Px::Half lookup_alpha(Px a, const uint32_t* table) {
   return {_mm_or_si128(t, _mm_slli_epi32(t, 16))};
 }
 TESSARO_INLINE Px::Half scaled_alpha(Px a, uint32_t m) {
-  const __m128i t =
-      _mm_srli_epi32(_mm_madd_epi16(_mm_srli_epi32(a.v, 24), _mm_set1_epi32(static_cast<int>(m))), 14);
-  return {_mm_or_si128(t, _mm_slli_epi32(t, 16))};
+  const Px::Half alpha = alpha_halves(a);
+  const __m128i t = _mm_madd_epi16(alpha.v, _mm_set1_epi32(scale_pair(m)));
+  return alpha + Px::Half{_mm_shufflehi_epi16(_mm_shufflelo_epi16(t, 0xF5), 0xF5)};
 }
 
 static_assert(PixelVector<Px>);

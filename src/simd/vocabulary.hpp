@@ -17,7 +17,7 @@
 //   join_high(e, o)              back to bytes from the upper halves, that is shifted right by 8
 //   alpha_halves(a)              the alpha in both lanes of each pixel
 //   lookup_alpha(a, table)       table[alpha] in both lanes; table has 256 32-bit entries below 65536
-//   scaled_alpha(a, m)           (alpha * m) >> 14 in both lanes; m below 32768
+//   scaled_alpha(a, m)           (alpha * m) >> 16 in both lanes; m at most 65794
 //   P::Half::splat(v)  + - *     modulo 65536;  shl<k> shr<k> (logical);  min max (signed)
 #pragma once
 

@@ -1,0 +1,35 @@
+// Weights by alpha: the `AlphaWeightTable` of a call with an opacity.
+#pragma once
+
+#include <cstdint>
+
+#include "frame/numbers.hpp"
+
+namespace tessaro {
+
+// The weight, 0..256, of a pixel with this alpha (0..255) under an opacity of 0..1. The factor is a little
+// above 1 / 255, so that full opacity gives 256 for alpha 255, and the alpha itself below it.
+inline uint32_t alpha_weight(uint32_t alpha, float opacity) {
+  return static_cast<uint32_t>(trunc32(static_cast<double>(alpha) * static_cast<double>(opacity) *
+                                       static_cast<double>(0.003921569f) * 256.0));
+}
+
+// The multiplier m with which alpha * m >> 16 is alpha_weight(alpha, opacity) for every alpha; at most 65794.
+// No table needs to be built and no vector has to gather: use scaled_alpha(pixel, m) in rules.
+//
+// It always exists. The weights are floor(alpha * s), s = opacity * 256 / 255, so m must lie in
+// [max(w / alpha), min((w + 1) / alpha)) * 65536; the ends are different fractions with denominators of at
+// most 255, hence more than 1 / 65536 apart, and s lies between them: m is one of the integers beside s *
+// 65536. (Rounding of the double product never breaks this: checked for every single-precision opacity.) Only
+// alphas from 128 up can tell the two apart, because a smaller alpha has a multiple there with the same or a
+// narrower bound.
+inline uint32_t alpha_factor(float opacity) {
+  if (opacity == 1.0f) return 65794;
+  const double slope = static_cast<double>(opacity) * static_cast<double>(0.003921569f) * 256.0;
+  const auto below = static_cast<uint32_t>(trunc32(slope * 65536.0));
+  for (uint32_t alpha = 128; alpha < 256; ++alpha)
+    if (alpha * below >> 16 != alpha_weight(alpha, opacity)) return below + 1;
+  return below;
+}
+
+}  // namespace tessaro
