@@ -58,6 +58,18 @@ int32_t ClipScaledBlit(const ImageView& dst, const ImageView& src, ScaledBlit& b
   return b.dw == 0 || b.dh == 0 || b.sw == 0 || b.sh == 0 ? status_nothing : status_done;
 }
 
+bool share_memory(const Area& a, const Area& b) {
+  const auto first = [](const Area& n) {
+    return reinterpret_cast<uintptr_t>(n.at) +
+           static_cast<uintptr_t>(n.pitch < 0 ? n.pitch * (n.height - 1) : 0);
+  };
+  const auto end = [](const Area& n) {
+    return reinterpret_cast<uintptr_t>(n.at) +
+           static_cast<uintptr_t>((n.pitch > 0 ? n.pitch * (n.height - 1) : 0) + 4 * n.width);
+  };
+  return first(a) < end(b) && first(b) < end(a);
+}
+
 bool clip_one(const ImageRecord* image, int32_t x, int32_t y, int32_t w, int32_t h, Area& area) {
   const ImageView view = ImageView::of(image);
   int64_t ax = x, ay = y, aw = w, ah = h, ignored_x = 0, ignored_y = 0;

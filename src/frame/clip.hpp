@@ -42,6 +42,13 @@ struct AreaPair {
   ptrdiff_t width, height;
 };
 
+// True where the spans of memory that two areas cover meet. Where they do not, any order of work gives the same.
+bool share_memory(const Area& a, const Area& b);
+inline Area dst_of(const AreaPair& n) { return {n.dst, n.dst_pitch, n.width, n.height}; }
+inline Area src_of(const AreaPair& n) {
+  return {const_cast<uint8_t*>(n.src), n.src_pitch, n.width, n.height};
+}
+
 // The clip of every one-image operation; false when nothing is left.
 bool clip_one(const ImageRecord* image, int32_t x, int32_t y, int32_t w, int32_t h, Area& area);
 // All of an image, for operations without a rectangle.

@@ -56,6 +56,14 @@ template <int k>
 TESSARO_INLINE Px shr(Px a) {
   return {_mm256_srli_epi32(a.v, k)};
 }
+TESSARO_INLINE Px shl(Px a, int k) { return {_mm256_sll_epi32(a.v, _mm_cvtsi32_si128(k))}; }
+TESSARO_INLINE Px shr(Px a, int k) { return {_mm256_srl_epi32(a.v, _mm_cvtsi32_si128(k))}; }
+TESSARO_INLINE Unzipped<Px> unzip(Px a, Px b) {
+  // Within 128 bits first, then the four 64-bit quarters into order.
+  const __m256 x = _mm256_castsi256_ps(a.v), y = _mm256_castsi256_ps(b.v);
+  return {{_mm256_permute4x64_epi64(_mm256_castps_si256(_mm256_shuffle_ps(x, y, 0x88)), 0xD8)},
+          {_mm256_permute4x64_epi64(_mm256_castps_si256(_mm256_shuffle_ps(x, y, 0xDD)), 0xD8)}};
+}
 TESSARO_INLINE Px alphas(Px a) {
   const __m256i from = _mm256_setr_epi8(3, 3, 3, 3, 7, 7, 7, 7, 11, 11, 11, 11, 15, 15, 15, 15,  //
                                         3, 3, 3, 3, 7, 7, 7, 7, 11, 11, 11, 11, 15, 15, 15, 15);
@@ -85,6 +93,7 @@ TESSARO_INLINE Px join_high(Px::Half e, Px::Half o) {
 TESSARO_INLINE Px::Half operator+(Px::Half a, Px::Half b) { return {_mm256_add_epi16(a.v, b.v)}; }
 TESSARO_INLINE Px::Half operator-(Px::Half a, Px::Half b) { return {_mm256_sub_epi16(a.v, b.v)}; }
 TESSARO_INLINE Px::Half operator*(Px::Half a, Px::Half b) { return {_mm256_mullo_epi16(a.v, b.v)}; }
+TESSARO_INLINE Px::Half mul_high(Px::Half a, Px::Half b) { return {_mm256_mulhi_epu16(a.v, b.v)}; }
 TESSARO_INLINE Px::Half min(Px::Half a, Px::Half b) { return {_mm256_min_epi16(a.v, b.v)}; }
 TESSARO_INLINE Px::Half max(Px::Half a, Px::Half b) { return {_mm256_max_epi16(a.v, b.v)}; }
 template <int k>

@@ -46,6 +46,13 @@ template <int k>
 TESSARO_INLINE Px shr(Px a) {
   return {_mm512_srli_epi32(a.v, k)};
 }
+TESSARO_INLINE Px shl(Px a, int k) { return {_mm512_sll_epi32(a.v, _mm_cvtsi32_si128(k))}; }
+TESSARO_INLINE Px shr(Px a, int k) { return {_mm512_srl_epi32(a.v, _mm_cvtsi32_si128(k))}; }
+TESSARO_INLINE Unzipped<Px> unzip(Px a, Px b) {
+  const __m512i even = _mm512_set_epi32(30, 28, 26, 24, 22, 20, 18, 16, 14, 12, 10, 8, 6, 4, 2, 0);
+  const __m512i odd = _mm512_add_epi32(even, _mm512_set1_epi32(1));
+  return {{_mm512_permutex2var_epi32(a.v, even, b.v)}, {_mm512_permutex2var_epi32(a.v, odd, b.v)}};
+}
 TESSARO_INLINE Px alphas(Px a) {
   const __m512i from = _mm512_set4_epi32(0x0F0F0F0F, 0x0B0B0B0B, 0x07070707, 0x03030303);
   return {_mm512_shuffle_epi8(a.v, from)};
@@ -74,6 +81,7 @@ TESSARO_INLINE Px join_high(Px::Half e, Px::Half o) {
 TESSARO_INLINE Px::Half operator+(Px::Half a, Px::Half b) { return {_mm512_add_epi16(a.v, b.v)}; }
 TESSARO_INLINE Px::Half operator-(Px::Half a, Px::Half b) { return {_mm512_sub_epi16(a.v, b.v)}; }
 TESSARO_INLINE Px::Half operator*(Px::Half a, Px::Half b) { return {_mm512_mullo_epi16(a.v, b.v)}; }
+TESSARO_INLINE Px::Half mul_high(Px::Half a, Px::Half b) { return {_mm512_mulhi_epu16(a.v, b.v)}; }
 TESSARO_INLINE Px::Half min(Px::Half a, Px::Half b) { return {_mm512_min_epi16(a.v, b.v)}; }
 TESSARO_INLINE Px::Half max(Px::Half a, Px::Half b) { return {_mm512_max_epi16(a.v, b.v)}; }
 template <int k>

@@ -68,6 +68,9 @@ template <int k>
 TESSARO_INLINE One shr(One a) {
   return {a.v >> k};
 }
+TESSARO_INLINE One shl(One a, int k) { return {a.v << k}; }
+TESSARO_INLINE One shr(One a, int k) { return {a.v >> k}; }
+TESSARO_INLINE Unzipped<One> unzip(One a, One b) { return {a, b}; }
 TESSARO_INLINE One alphas(One a) { return {(a.v >> 24) * 0x01010101u}; }
 TESSARO_INLINE One with_alpha(One colour, One a) { return {(colour.v & 0x00FFFFFF) | (a.v & 0xFF000000)}; }
 TESSARO_INLINE bool equal(One a, One b) { return a.v == b.v; }
@@ -104,6 +107,9 @@ TESSARO_INLINE One::Half operator-(One::Half a, One::Half b) {
 }
 TESSARO_INLINE One::Half operator*(One::Half a, One::Half b) {
   return per_lane(a, b, [](uint32_t x, uint32_t y) { return x * y; });
+}
+TESSARO_INLINE One::Half mul_high(One::Half a, One::Half b) {
+  return per_lane(a, b, [](uint32_t x, uint32_t y) { return x * y >> 16; });
 }
 TESSARO_INLINE One::Half min(One::Half a, One::Half b) {
   return per_lane(

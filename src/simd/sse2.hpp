@@ -66,6 +66,12 @@ template <int k>
 TESSARO_INLINE Px shr(Px a) {
   return {_mm_srli_epi32(a.v, k)};
 }
+TESSARO_INLINE Px shl(Px a, int k) { return {_mm_sll_epi32(a.v, _mm_cvtsi32_si128(k))}; }
+TESSARO_INLINE Px shr(Px a, int k) { return {_mm_srl_epi32(a.v, _mm_cvtsi32_si128(k))}; }
+TESSARO_INLINE Unzipped<Px> unzip(Px a, Px b) {
+  const __m128 x = _mm_castsi128_ps(a.v), y = _mm_castsi128_ps(b.v);
+  return {{_mm_castps_si128(_mm_shuffle_ps(x, y, 0x88))}, {_mm_castps_si128(_mm_shuffle_ps(x, y, 0xDD))}};
+}
 TESSARO_INLINE Px::Half alpha_halves(Px a) {
   const __m128i t = _mm_srli_epi32(a.v, 24);
   return {_mm_or_si128(t, _mm_slli_epi32(t, 16))};
@@ -95,6 +101,7 @@ TESSARO_INLINE Px join_high(Px::Half e, Px::Half o) {
 TESSARO_INLINE Px::Half operator+(Px::Half a, Px::Half b) { return {_mm_add_epi16(a.v, b.v)}; }
 TESSARO_INLINE Px::Half operator-(Px::Half a, Px::Half b) { return {_mm_sub_epi16(a.v, b.v)}; }
 TESSARO_INLINE Px::Half operator*(Px::Half a, Px::Half b) { return {_mm_mullo_epi16(a.v, b.v)}; }
+TESSARO_INLINE Px::Half mul_high(Px::Half a, Px::Half b) { return {_mm_mulhi_epu16(a.v, b.v)}; }
 TESSARO_INLINE Px::Half min(Px::Half a, Px::Half b) { return {_mm_min_epi16(a.v, b.v)}; }
 TESSARO_INLINE Px::Half max(Px::Half a, Px::Half b) { return {_mm_max_epi16(a.v, b.v)}; }
 template <int k>

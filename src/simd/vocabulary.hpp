@@ -1,15 +1,19 @@
-// The operations that per-pixel rules are written in. Each back end defines them on a value of a few pixels;
-// the scalar one is their definition. Everything here and in the back ends has internal linkage and is always
+// The operations that per-pixel rules are written in. Each back end defines them on a value of a few pixels; the
+// scalar one is their definition. Everything here and in the back ends has internal linkage and is always
 // inlined: nothing compiled for a newer processor may be picked by the linker for an older one.
 //
 //   P::lanes                     pixels in a value
-//   P::load(p) P::load(p, n)     from any alignment; n < lanes reads n pixels and no byte more, the others
-//   are 0 a.store(p) a.store(p, n) P::splat(word)               the same pixel in every lane add_sat sub_sat
-//   add sub      per byte; the first two saturate, the others wrap min max difference           per unsigned
-//   byte & | ^ ~                      bitwise; and_not(a, b) = a & ~b shl<k> shr<k>                per 32-bit
-//   pixel, logical alphas(a)                    the alpha byte in all four bytes with_alpha(colour, a) the
-//   colours of one and the alpha of the other equal(a, b) above(a, b)      per unsigned 32-bit pixel, a
-//   P::Mask; select(mask, yes, no)
+//   P::load(p) P::load(p, n)     from any alignment; n < lanes reads n pixels and no byte more, the others are 0
+//   a.store(p) a.store(p, n)
+//   P::splat(word)               the same pixel in every lane
+//   add_sat sub_sat add sub      per byte; the first two saturate, the others wrap
+//   min max difference           per unsigned byte
+//   & | ^ ~                      bitwise; and_not(a, b) = a & ~b
+//   shl<k> shr<k>                per 32-bit pixel, logical; shl(a, k) shr(a, k) where k is known at run time
+//   unzip(a, b)                  of the 2 * lanes pixels a, b: .even every other one from the first, .odd the rest
+//   alphas(a)                    the alpha byte in all four bytes
+//   with_alpha(colour, a)        the colours of one and the alpha of the other
+//   equal(a, b) above(a, b)      per unsigned 32-bit pixel, a P::Mask; select(mask, yes, no)
 //
 // Products need 16 bits: a P::Half has two 16-bit lanes per pixel.
 //   even(a) odd(a)               bytes 0 and 2 (blue, red); bytes 1 and 3 (green, alpha)
@@ -19,6 +23,7 @@
 //   lookup_alpha(a, table)       table[alpha] in both lanes; table has 256 32-bit entries below 65536
 //   scaled_alpha(a, m)           (alpha * m) >> 16 in both lanes; m at most 65794
 //   P::Half::splat(v)  + - *     modulo 65536;  shl<k> shr<k> (logical);  min max (signed)
+//   mul_high(a, b)               (a * b) >> 16, unsigned
 #pragma once
 
 #include <concepts>
@@ -29,6 +34,11 @@
 #define TESSARO_INLINE [[gnu::always_inline]] inline
 
 namespace {
+
+template <class P>
+struct Unzipped {
+  P even, odd;
+};
 
 template <class P>
 concept PixelVector = requires(P a, typename P::Half h, const void* in, void* out, size_t n,
@@ -48,6 +58,8 @@ concept PixelVector = requires(P a, typename P::Half h, const void* in, void* ou
   { (a & a) | (a ^ ~a) } -> std::same_as<P>;
   { and_not(a, a) } -> std::same_as<P>;
   { shl<8>(shr<8>(a)) } -> std::same_as<P>;
+  { shl(shr(a, 8), 8) } -> std::same_as<P>;
+  { unzip(a, a).even } -> std::convertible_to<P>;
   { alphas(a) } -> std::same_as<P>;
   { with_alpha(a, a) } -> std::same_as<P>;
   { select(equal(a, a), a, a) } -> std::same_as<P>;
@@ -59,6 +71,7 @@ concept PixelVector = requires(P a, typename P::Half h, const void* in, void* ou
   { scaled_alpha(a, 1u) } -> std::same_as<typename P::Half>;
   { (h + h) - (h * h) } -> std::same_as<typename P::Half>;
   { min(max(h, h), P::Half::splat(1)) } -> std::same_as<typename P::Half>;
+  { mul_high(h, h) } -> std::same_as<typename P::Half>;
   { shl<1>(shr<1>(h)) } -> std::same_as<typename P::Half>;
 };
 
