@@ -8,6 +8,48 @@
 extern "C" {
 #endif
 
+/* ---- Depth and flip
+ *
+ * Combine a w x h rectangle of src at (sx, sy) with dst at (dx, dy), in pixels. The rectangle is clipped
+ * against dst first and src second; 1 is returned and nothing changes when nothing is left of it, otherwise
+ * 0. dst and src may be one image: rows go top to bottom and pixels left to right without a copy, so where
+ * the areas overlap later pixels see what earlier ones wrote.
+ *
+ * The weighted mix of d and s with a weight of 0..256 is (d * (256 - weight) + s * weight) >> 8 in each of
+ * the four channels, alpha included. */
+
+/* Cross-fade: the mix of d and s with the weight trunc(opacity * 256). An opacity above 1 counts as 1; one
+ * that is negative or not a number returns 1. */
+TESSARO_API int32_t TESSARO_CALL BBIFlip(ImageRecord* dst, const ImageRecord* src, int32_t dx, int32_t dy,
+                                         int32_t w, int32_t h, int32_t sx, int32_t sy, float opacity);
+
+/* The mix of d and s with a weight from the alpha a of s: trunc(a * opacity * 256 / 255), which is a at
+ * opacity 1, but 256 for a = 255 (s replaces d exactly). The divisor is a hair below 255 so that 255 and an
+ * opacity of 0.5 give 128. Opacity as for BBIFlip. */
+TESSARO_API int32_t TESSARO_CALL BBIFlipBlend(ImageRecord* dst, const ImageRecord* src, int32_t dx,
+                                              int32_t dy, int32_t w, int32_t h, int32_t sx, int32_t sy,
+                                              float opacity);
+
+/* Alpha as depth: s replaces d where the alpha of s is greater; on equal alpha d stays. */
+TESSARO_API int32_t TESSARO_CALL BBIDepth(ImageRecord* dst, const ImageRecord* src, int32_t dx, int32_t dy,
+                                          int32_t w, int32_t h, int32_t sx, int32_t sy);
+
+/* The same, but the bits of keep_mask stay those of d: (d & keep_mask) | (s & ~keep_mask). */
+TESSARO_API int32_t TESSARO_CALL BBIDepthMask(ImageRecord* dst, const ImageRecord* src, int32_t dx,
+                                              int32_t dy, int32_t w, int32_t h, int32_t sx, int32_t sy,
+                                              uint32_t keep_mask);
+
+/* Fills length pixels from (x, y) to the right with color; the run is cut to the image. Returns 1 when y lies
+ * outside the image or nothing is left, otherwise 0. */
+TESSARO_API int32_t TESSARO_CALL BBIFlipLineX(ImageRecord* image, int32_t x, int32_t y, int32_t length,
+                                              uint32_t color);
+
+/* The same downward; returns 1 when x lies outside the image. From the first pixel on, rows are stepped by
+ * the pitch rounded down to a multiple of 4: with another pitch the line drifts to the left by up to 3 bytes
+ * a row, and it ends where it would leave the memory of the image. */
+TESSARO_API int32_t TESSARO_CALL BBIFlipLineY(ImageRecord* image, int32_t x, int32_t y, int32_t length,
+                                              uint32_t color);
+
 #ifdef __cplusplus
 }
 #endif

@@ -1,0 +1,43 @@
+// kernels: FlipKernels for scalar sse2 avx2 avx512
+#include "simd/rules.hpp"
+#include "simd/walk.hpp"
+#include "transform/flip.hpp"
+
+namespace {
+
+using tessaro::AreaPair;
+
+template <class P>
+struct Blend {
+  uint32_t factor;
+  TESSARO_INLINE explicit Blend(uint32_t f) : factor(f) {}
+  TESSARO_INLINE P operator()(P d, P s) const { return mix(d, s, scaled_alpha(s, factor)); }
+};
+
+// The source lies in front where its alpha is the greater one.
+template <class P>
+TESSARO_INLINE typename P::Mask in_front(P s, P d) {
+  return above(s, d | P::splat(0x00FFFFFF));
+}
+
+template <class P>
+struct Depth {
+  TESSARO_INLINE P operator()(P d, P s) const { return select(in_front(s, d), s, d); }
+};
+
+template <class P>
+struct DepthMask {
+  P keep;
+  TESSARO_INLINE explicit DepthMask(uint32_t k) : keep(P::splat(k)) {}
+  TESSARO_INLINE P operator()(P d, P s) const {
+    return select(in_front(s, d), (d & keep) | and_not(s, keep), d);
+  }
+};
+
+}  // namespace
+
+TESSARO_KERNELS(FlipKernels){
+    .blend = [](const AreaPair& n, uint32_t factor) { walk2<Blend>(n, factor); },
+    .depth = [](const AreaPair& n) { walk2<Depth>(n); },
+    .depth_mask = [](const AreaPair& n, uint32_t keep) { walk2<DepthMask>(n, keep); },
+};
