@@ -50,6 +50,45 @@ TESSARO_API int32_t TESSARO_CALL BBIFlipLineX(ImageRecord* image, int32_t x, int
 TESSARO_API int32_t TESSARO_CALL BBIFlipLineY(ImageRecord* image, int32_t x, int32_t y, int32_t length,
                                               uint32_t color);
 
+/* ---- Blur and one-axis scaling
+ *
+ * Filters along the rows (U) or the columns (V) of a w x h rectangle, in pixels, clipped against dst first and src
+ * second; nothing outside the clipped source rectangle is read. Returns 1 when nothing is left, otherwise 0. The four
+ * channels, alpha included, are filtered each for itself, and means are truncated. */
+
+/* Box blurs: the mean of the pixels from radius before to radius behind. At the ends of a row (column) the window is
+ * cut, never padded. The radius is lowered to half the length minus 1, and to 127; below 1 the rectangle is copied as
+ * by BBIBlt. dst and src may be one image and one rectangle. Cost does not depend on the radius. */
+TESSARO_API int32_t TESSARO_CALL BBIBltUBlur(ImageRecord* dst, const ImageRecord* src, int32_t dx, int32_t dy,
+                                             int32_t w, int32_t h, int32_t sx, int32_t sy, int32_t radius);
+TESSARO_API int32_t TESSARO_CALL BBIBltVBlur(ImageRecord* dst, const ImageRecord* src, int32_t dx, int32_t dy,
+                                             int32_t w, int32_t h, int32_t sx, int32_t sy, int32_t radius);
+
+/* The same with a window that wraps round the ends, for images that tile. They read again what they began with: the
+ * destination must not overlap the source. */
+TESSARO_API int32_t TESSARO_CALL BBIBltUBlurLoop(ImageRecord* dst, const ImageRecord* src, int32_t dx,
+                                                 int32_t dy, int32_t w, int32_t h, int32_t sx, int32_t sy,
+                                                 int32_t radius);
+TESSARO_API int32_t TESSARO_CALL BBIBltVBlurLoop(ImageRecord* dst, const ImageRecord* src, int32_t dx,
+                                                 int32_t dy, int32_t w, int32_t h, int32_t sx, int32_t sy,
+                                                 int32_t radius);
+
+/* Box-filtered rescaling of every row (column) by num / den within the same length n. Both are lowered to 128; 1 is
+ * returned when one of them is below 1. Shrinking (num < den) starts at the first pixel, and the tail beyond n * num / den
+ * repeats the last source pixel. Enlarging (and num = den) starts at the last destination pixel and shows the first
+ * n * den / num source pixels; what is left over at the start repeats pixel 0. dst and src may be one rectangle. */
+TESSARO_API int32_t TESSARO_CALL BBIBltUScale(ImageRecord* dst, const ImageRecord* src, int32_t dx,
+                                              int32_t dy, int32_t w, int32_t h, int32_t sx, int32_t sy,
+                                              int32_t num, int32_t den);
+TESSARO_API int32_t TESSARO_CALL BBIBltVScale(ImageRecord* dst, const ImageRecord* src, int32_t dx,
+                                              int32_t dy, int32_t w, int32_t h, int32_t sx, int32_t sy,
+                                              int32_t num, int32_t den);
+
+/* Halves a 2w x 2h rectangle of src to w x h in dst: the truncated mean of 2 x 2 pixels. Not clipped: returns 1 and
+ * changes nothing unless both rectangles lie inside their images and w and h are at least 1. */
+TESSARO_API int32_t TESSARO_CALL BBIBltHalfSize(ImageRecord* dst, const ImageRecord* src, int32_t dx,
+                                                int32_t dy, int32_t w, int32_t h, int32_t sx, int32_t sy);
+
 #ifdef __cplusplus
 }
 #endif
