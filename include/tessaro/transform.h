@@ -89,6 +89,37 @@ TESSARO_API int32_t TESSARO_CALL BBIBltVScale(ImageRecord* dst, const ImageRecor
 TESSARO_API int32_t TESSARO_CALL BBIBltHalfSize(ImageRecord* dst, const ImageRecord* src, int32_t dx,
                                                 int32_t dy, int32_t w, int32_t h, int32_t sx, int32_t sy);
 
+/* ---- Colour reduction and channel routing */
+
+/* Reduces blue, green and red of a whole image in place, with ordered dithering by the pixel's position, so that a later
+ * conversion to 1555, 4444 or 1-bit channels shows no bands; alpha stays. A byte of 0 stays 0. 1555 and 4444 drop the
+ * low 3 or 4 bits or carry them up to the next level (at most 255); 1111 gives 0 or 255. At positions with threshold 0
+ * a byte other than 0 always moves up. Returns 1 for an image without pixels, otherwise 0. */
+TESSARO_API int32_t TESSARO_CALL BBIColorCutDown1555(ImageRecord* image);
+TESSARO_API int32_t TESSARO_CALL BBIColorCutDown4444(ImageRecord* image);
+TESSARO_API int32_t TESSARO_CALL BBIColorCutDown1111(ImageRecord* image);
+
+/* Builds each pixel of dst from channels of src or of dst itself, over the part that both images have, both anchored at
+ * (0, 0). Returns 1 when there is none, otherwise 0.
+ *   colorFrom   bit value 2: from dst, else from src; value 1: a grey of that pixel's alpha, else its colour
+ *   alphaFrom   bit value 2: from dst, else from src; value 1: that pixel's alpha, else the brightness of its colour:
+ *     BBIChooseCA    (red + green + blue) / 3, truncated
+ *     BBIChooseCATR  green * 0.7154 + blue * 0.0721 + red * 0.2125, truncated
+ *     BBIChooseCATS  the same with the weights given, in double precision; the low 8 bits of the integer are taken, so
+ *                    that 256 gives 0; a sum that fits no 32-bit integer, or is not a number, gives 0 */
+TESSARO_API int32_t TESSARO_CALL BBIChooseCA(ImageRecord* dst, const ImageRecord* src, int32_t colorFrom,
+                                             int32_t alphaFrom);
+TESSARO_API int32_t TESSARO_CALL BBIChooseCATR(ImageRecord* dst, const ImageRecord* src, int32_t colorFrom,
+                                               int32_t alphaFrom);
+TESSARO_API int32_t TESSARO_CALL BBIChooseCATS(ImageRecord* dst, const ImageRecord* src, int32_t colorFrom,
+                                               int32_t alphaFrom, float redWeight, float greenWeight,
+                                               float blueWeight);
+
+/* Each output channel is a copy of the one that its selector names: bits 0 and 1: 0 red, 1 green, 2 blue, 3 alpha; bit 2
+ * (value 4): of dst, else of src. Area and result as for BBIChooseCA. */
+TESSARO_API int32_t TESSARO_CALL BBIChooseRGBA(ImageRecord* dst, const ImageRecord* src, int32_t redFrom,
+                                               int32_t greenFrom, int32_t blueFrom, int32_t alphaFrom);
+
 #ifdef __cplusplus
 }
 #endif

@@ -1,0 +1,107 @@
+#include "transform/reduce.hpp"
+
+#include "tessaro/tessaro.h"
+
+using namespace tessaro;
+
+namespace {
+
+constexpr uint8_t matrix_1555[] = {0, 4, 1, 5,  //
+                                   6, 2, 7, 3,  //
+                                   1, 5, 0, 4,  //
+                                   7, 3, 6, 2};
+constexpr uint8_t matrix_4444[] = {0,  8,  2,  10,  //
+                                   12, 4,  14, 6,   //
+                                   3,  11, 1,  9,   //
+                                   15, 7,  13, 5};
+// A clustered pattern: its smallest values lie in the middle. Complemented before use.
+constexpr uint8_t matrix_1111[] = {60, 52, 40, 32, 39, 51, 59, 63,  //
+                                   53, 41, 24, 12, 23, 31, 50, 58,  //
+                                   42, 25, 13, 4,  11, 22, 30, 49,  //
+                                   33, 14, 5,  0,  3,  10, 21, 38,  //
+                                   34, 15, 6,  1,  2,  9,  20, 37,  //
+                                   43, 26, 16, 7,  8,  19, 29, 48,  //
+                                   54, 44, 27, 17, 18, 28, 47, 57,  //
+                                   61, 55, 45, 35, 36, 46, 56, 62};
+
+using Dither = void (*)(uint8_t*, size_t, const DitherRow&);
+
+int32_t cut_down(const ImageRecord* image, const uint8_t* matrix, uint32_t side, uint32_t flip,
+                 Dither dither) {
+  Area n;
+  if (!clip_whole(image, n)) return status_nothing;
+  DitherRow rows[8];
+  for (uint32_t y = 0; y < side; ++y)
+    for (uint32_t x = 0; x < 24; ++x) rows[y].at[x] = (matrix[y * side + x % side] ^ flip) * 0x010101u;
+  for (ptrdiff_t y = 0; y < n.height; ++y)
+    dither(n.at + y * n.pitch, static_cast<size_t>(n.width), rows[static_cast<size_t>(y) % side]);
+  return status_done;
+}
+
+// The part that both images have, anchored at the top left of both.
+bool clip_common(const ImageRecord* dst, const ImageRecord* src, AreaPair& areas) {
+  const ImageView s = ImageView::of(src);
+  return clip_two(dst, src, 0, 0, s.width, s.height, 0, 0, areas);
+}
+
+constexpr int32_t from_destination = 2, other_kind = 1;  // bits of the selectors
+
+int32_t choose(ImageRecord* dst, const ImageRecord* src, int32_t colour_from, int32_t alpha_from,
+               AlphaFrom brightness, double green = 0, double blue = 0, double red = 0) {
+  AreaPair n;
+  if (!clip_common(dst, src, n)) return status_nothing;
+  const Choice choice{(colour_from & other_kind) != 0,
+                      alpha_from & other_kind ? AlphaFrom::alpha : brightness, green, blue, red};
+  const ReduceKernels& k = kernels<ReduceKernels>();
+  for (; n.height > 0; --n.height, n.dst += n.dst_pitch, n.src += n.src_pitch) {
+    const auto row = [&](int32_t from) { return from & from_destination ? n.dst : n.src; };
+    k.choose({n.dst, row(colour_from), row(alpha_from)}, static_cast<size_t>(n.width), choice);
+  }
+  return status_done;
+}
+
+}  // namespace
+
+extern "C" {
+
+int32_t TESSARO_CALL BBIColorCutDown1555(ImageRecord* image) {
+  return cut_down(image, matrix_1555, 4, 0, kernels<ReduceKernels>().to_1555);
+}
+int32_t TESSARO_CALL BBIColorCutDown4444(ImageRecord* image) {
+  return cut_down(image, matrix_4444, 4, 0, kernels<ReduceKernels>().to_4444);
+}
+int32_t TESSARO_CALL BBIColorCutDown1111(ImageRecord* image) {
+  return cut_down(image, matrix_1111, 8, 63, kernels<ReduceKernels>().to_1111);
+}
+
+int32_t TESSARO_CALL BBIChooseCA(ImageRecord* dst, const ImageRecord* src, int32_t colorFrom,
+                                 int32_t alphaFrom) {
+  return choose(dst, src, colorFrom, alphaFrom, AlphaFrom::mean);
+}
+int32_t TESSARO_CALL BBIChooseCATR(ImageRecord* dst, const ImageRecord* src, int32_t colorFrom,
+                                   int32_t alphaFrom) {
+  return choose(dst, src, colorFrom, alphaFrom, AlphaFrom::weights, 0.7154, 0.0721, 0.2125);
+}
+int32_t TESSARO_CALL BBIChooseCATS(ImageRecord* dst, const ImageRecord* src, int32_t colorFrom,
+                                   int32_t alphaFrom, float redWeight, float greenWeight, float blueWeight) {
+  return choose(dst, src, colorFrom, alphaFrom, AlphaFrom::weights, static_cast<double>(greenWeight),
+                static_cast<double>(blueWeight), static_cast<double>(redWeight));
+}
+
+int32_t TESSARO_CALL BBIChooseRGBA(ImageRecord* dst, const ImageRecord* src, int32_t redFrom,
+                                   int32_t greenFrom, int32_t blueFrom, int32_t alphaFrom) {
+  AreaPair n;
+  if (!clip_common(dst, src, n)) return status_nothing;
+  const int32_t selectors[] = {blueFrom, greenFrom, redFrom, alphaFrom};
+  constexpr int shift_of[] = {16, 8, 0, 24};  // selectors count red, green, blue, alpha
+  Routing routing{};
+  for (int i = 0; i < 4; ++i) {
+    routing.from_dest[i] = (selectors[i] & 4) != 0;
+    routing.shift[i] = shift_of[selectors[i] & 3];
+  }
+  for (; n.height > 0; --n.height, n.dst += n.dst_pitch, n.src += n.src_pitch)
+    kernels<ReduceKernels>().route(n.dst, n.src, static_cast<size_t>(n.width), routing);
+  return status_done;
+}
+
+}  // extern "C"

@@ -1,0 +1,44 @@
+// Colour reduction with ordered dithering, and routing of channels between two images.
+#pragma once
+
+#include <cstdint>
+
+#include "frame/clip.hpp"
+#include "simd/dispatch.hpp"
+
+namespace tessaro {
+
+// Thresholds of one row, repeated in blue, green and red; 16 more than the longest pattern, so that a vector may
+// start at any of its first 8 columns.
+struct DitherRow {
+  uint32_t at[24];
+};
+
+// Where the colour and the alpha of a pixel come from.
+struct ChooseRows {
+  uint8_t* dst;
+  const uint8_t* colour;
+  const uint8_t* alpha;
+};
+enum class AlphaFrom { alpha, mean, weights };
+struct Choice {
+  bool grey;  // the colour is the alpha of its pixel
+  AlphaFrom alpha;
+  double green, blue, red;  // for AlphaFrom::weights
+};
+// For each output byte, blue first: the image, and by how much the word is shifted right to bring the channel down.
+struct Routing {
+  bool from_dest[4];
+  int shift[4];
+};
+
+struct ReduceKernels {
+  void (*to_1555)(uint8_t* row, size_t width, const DitherRow&);
+  void (*to_4444)(uint8_t* row, size_t width, const DitherRow&);
+  void (*to_1111)(uint8_t* row, size_t width, const DitherRow&);
+  void (*choose)(ChooseRows, size_t width, const Choice&);
+  void (*route)(uint8_t* dst, const uint8_t* src, size_t width, const Routing&);
+};
+TESSARO_DECLARE_KERNELS(ReduceKernels);
+
+}  // namespace tessaro
