@@ -10,6 +10,8 @@
 #include <string>
 #include <vector>
 
+#include "tessaro/tessaro.h"
+
 namespace tessaro::bench {
 
 struct Contender {
@@ -34,7 +36,7 @@ inline constexpr int image_sizes[] = {512, 4096};
 class Picture {
  public:
   Picture(int width, int height, uint32_t seed = 1);
-  struct ImageRecord* record() const;
+  ImageRecord* record() const;
   uint8_t* pixels() const;
   int width() const;
   int height() const;
