@@ -120,6 +120,31 @@ TESSARO_API int32_t TESSARO_CALL BBIChooseCATS(ImageRecord* dst, const ImageReco
 TESSARO_API int32_t TESSARO_CALL BBIChooseRGBA(ImageRecord* dst, const ImageRecord* src, int32_t redFrom,
                                                int32_t greenFrom, int32_t blueFrom, int32_t alphaFrom);
 
+/* ---- Region paint */
+
+/* Runs one of eleven operations on a whole image in place. key is an exact pixel word, alpha included. Neighbours are the
+ * pixels left, right, above and below inside the image.
+ *    0  key pixels become color; result 0
+ *    1  all others become color; result 0
+ *    2  pixels that are not key become color, those of them next to a key pixel x, and key pixels next to one that is not
+ *       key become y; result 0
+ *    3  key pixels next to one that is not become color; result 0
+ *    4  pixels next to a key pixel become color, unless they are key; result 0
+ *    5  connected regions of key pixels with at most x (signed) pixels become color; result: their number
+ *    6  key pixels take the colour that most of their neighbours have, not counting key and color; the earlier of left,
+ *       right, above, below on a tie; result: key pixels left without a colour
+ *    7  grey pixels (equal red, green, blue) with a blue of the low byte of color to the low byte of key are filled in the
+ *       same way from neighbours that are not grey or were filled before, again and again until nothing changes;
+ *       result: pixels left
+ *    8  pixels that are not grey become color, whatever their alpha; result: their number
+ *    9  as 6, with the average of the neighbours: of one or two truncated, of three or four rounded
+ *   10  pixels p with (p & x) == key become color; result 0
+ * 6, 7 and 9 visit even rows before odd ones and in both even columns before odd ones; a pixel counts as a neighbour with
+ * its new colour as soon as it has one. Any other op, an image without pixels and a lack of working memory do nothing and
+ * return 0. */
+TESSARO_API int32_t TESSARO_CALL BBIPaintChoose(ImageRecord* image, uint32_t op, uint32_t color, uint32_t key,
+                                                uint32_t x, uint32_t y);
+
 #ifdef __cplusplus
 }
 #endif
