@@ -8,24 +8,96 @@
 extern "C" {
 #endif
 
+/* Conventions of this header. Rectangles are in pixels. dst and src may be one image: rows go top to bottom and pixels left
+ * to right without a copy, and each source pixel is read when its turn comes, so where the areas overlap later pixels see
+ * what earlier ones wrote.
+ *
+ * The weighted mix of d and s with a weight of 0..256 is (d * (256 - weight) + s * weight) >> 8 in each of the four
+ * channels, alpha included. The constant weight of an opacity is trunc(opacity * 256); the alpha weight of a pixel with
+ * alpha a is trunc(a * opacity * 256 / 255), which is a at opacity 1, but 256 for a = 255 (s replaces d exactly). The divisor
+ * is a hair below 255, so that 255 and an opacity of 0.5 give 128.
+ *
+ * Unless stated otherwise, exports return 0 when they ran, and 1 when an argument was unusable or clipping left nothing, in
+ * which case no pixel has changed. */
+
+/* ---- Scaled blits
+ *
+ * Stretch the source rectangle (sx, sy, sw, sh) onto the destination rectangle (dx, dy, dw, dh) by nearest sample: after
+ * clipping, destination pixel (dx + j, dy + i) takes source pixel (sx + floor(j * sw / dw), sy + floor(i * sh / dh)), without
+ * filtering. The source rectangle is clipped against src first, which shrinks the destination rectangle in proportion, then
+ * the destination rectangle against dst, which shrinks the source rectangle; each product is truncated. A rectangle without
+ * width or height, before or after, or of negative size, gives 1. Rectangles are not mirrored.
+ *
+ * An opacity above 1 counts as 1; one that is negative or not a number returns 1 (except in BBIExpandChooseBlt). */
+
+/* The mix of d and s with the constant weight; at opacity 1 a copy. */
+TESSARO_API int32_t TESSARO_CALL BBIExpandBlt(ImageRecord* dst, const ImageRecord* src, int32_t dx,
+                                              int32_t dy, int32_t dw, int32_t dh, int32_t sx, int32_t sy,
+                                              int32_t sw, int32_t sh, float opacity);
+
+/* The mix of d and s with the alpha weight of s. */
+TESSARO_API int32_t TESSARO_CALL BBIExpandBlendBlt(ImageRecord* dst, const ImageRecord* src, int32_t dx,
+                                                   int32_t dy, int32_t dw, int32_t dh, int32_t sx, int32_t sy,
+                                                   int32_t sw, int32_t sh, float opacity);
+
+/* Replaces bits of each sample by a gradient between four corner colours, then mixes it into the destination.
+ *   mask               the bits of the sample that stay; the others become the gradient's: s = (s & mask) | (G & ~mask)
+ *   color_...          the gradient's colours at the corners of the clipped destination rectangle. Row i of it has the left
+ *                      colour mix(top_left, bottom_left, w) with w = trunc(i / (dh - 1) * 256), the right one likewise, and
+ *                      column j has G = mix(left, right, trunc(j / (dw - 1) * 256)). The quotients are single precision; a
+ *                      single row or column counts as the first.
+ *   use_source_alpha   nonzero: the weight is the alpha weight of s as replaced; 0: the constant weight
+ *   keep_mask          the bits of the destination that stay: (d & keep_mask) | (mixed & ~keep_mask)
+ * Returns 1 also when there is no memory for the weights of a row. */
+TESSARO_API int32_t TESSARO_CALL BBIExpandColorBlt(ImageRecord* dst, const ImageRecord* src, int32_t dx,
+                                                   int32_t dy, int32_t dw, int32_t dh, int32_t sx, int32_t sy,
+                                                   int32_t sw, int32_t sh, float opacity, uint32_t keep_mask,
+                                                   uint32_t mask, uint32_t color_top_left,
+                                                   uint32_t color_top_right, uint32_t color_bottom_left,
+                                                   uint32_t color_bottom_right, int32_t use_source_alpha);
+
+/* The general stretched blit. An opacity that is negative or not a number counts as 0; opacity 0 (or below 1 / 256) with
+ * source_is_base off returns 1.
+ *
+ * For each destination pixel d, in this order:
+ *   base = d, or with source_is_base the sample as read
+ *   mask               unless 0xFFFFFFFF: s = (s & mask) | (((~s & invert_bits) | color) & ~mask)
+ *   saturation         unless 1: with k = trunc(saturation * 1024), m = (1024 - k) / 3 truncated and g = (r + g + b) * m >> 10,
+ *                      each colour becomes (colour * k >> 10) + g, clamped to 0..255. 0 is grey. Below 0 and not a number
+ *                      count as 0, above 256 as 256.
+ *   level_low, level_high   unless 0 and 0x00FFFFFF (all 32 bits compared): each colour v with its bytes lo and hi of the two
+ *                      words becomes 0 for v <= lo, 255 for v >= hi, between them 255 * (v - lo) / (hi - lo) truncated. Where
+ *                      lo = hi, v = lo becomes 255 - lo; where lo > hi, what lies above lo becomes 255.
+ *   weight             use_source_alpha: the alpha weight of s as it is now; else the constant weight
+ *   mix                s = mix(base, s, weight). With add_color the colours are scaled instead, s * weight >> 8, and then
+ *                      added to the base's, at most 255; with add_alpha the same for alpha. Each works for itself.
+ *   keep_mask          s = (base & keep_mask) | (s & ~keep_mask)
+ * and s is stored. Returns 2.
+ *
+ * Simpler calls, with saturation 1, levels 0 and 0xFFFFFF in their lower three bytes, and the last three flags 0, go to other
+ * routines, and have their results and their arithmetic. By the clipped sizes:
+ *   different, mask 0xFFFFFFFF, keep_mask 0     BBIExpandBlt; with use_source_alpha BBIExpandBlendBlt: 0
+ *   equal, mask 0xFFFFFFFF, keep_mask 0         BBIFlip or BBIFlipBlend; at opacity 1 BBIBlt or BBIBltBlend without wide: 0
+ *   equal, mask 0xFF000000, keep_mask 0, invert_bits 0   fills: d = mix(d, color, weight), the alpha byte of color included,
+ *                                               where the weight may come from the alpha of the source pixel: 0x201
+ *   otherwise                                   the mask, weight, mix and keep_mask steps above: 0 */
+TESSARO_API int32_t TESSARO_CALL BBIExpandChooseBlt(
+    ImageRecord* dst, const ImageRecord* src, int32_t dx, int32_t dy, int32_t dw, int32_t dh, int32_t sx,
+    int32_t sy, int32_t sw, int32_t sh, float opacity, float saturation, uint32_t level_low,
+    uint32_t level_high, uint32_t keep_mask, uint32_t mask, uint32_t color, uint32_t invert_bits,
+    int32_t use_source_alpha, int32_t add_color, int32_t add_alpha, int32_t source_is_base);
+
 /* ---- Depth and flip
  *
- * Combine a w x h rectangle of src at (sx, sy) with dst at (dx, dy), in pixels. The rectangle is clipped
- * against dst first and src second; 1 is returned and nothing changes when nothing is left of it, otherwise
- * 0. dst and src may be one image: rows go top to bottom and pixels left to right without a copy, so where
- * the areas overlap later pixels see what earlier ones wrote.
- *
- * The weighted mix of d and s with a weight of 0..256 is (d * (256 - weight) + s * weight) >> 8 in each of
- * the four channels, alpha included. */
+ * Combine a w x h rectangle of src at (sx, sy) with dst at (dx, dy), of the same size. The rectangle is clipped against dst
+ * first and src second. */
 
-/* Cross-fade: the mix of d and s with the weight trunc(opacity * 256). An opacity above 1 counts as 1; one
+/* Cross-fade: the mix of d and s with the constant weight. An opacity above 1 counts as 1; one
  * that is negative or not a number returns 1. */
 TESSARO_API int32_t TESSARO_CALL BBIFlip(ImageRecord* dst, const ImageRecord* src, int32_t dx, int32_t dy,
                                          int32_t w, int32_t h, int32_t sx, int32_t sy, float opacity);
 
-/* The mix of d and s with a weight from the alpha a of s: trunc(a * opacity * 256 / 255), which is a at
- * opacity 1, but 256 for a = 255 (s replaces d exactly). The divisor is a hair below 255 so that 255 and an
- * opacity of 0.5 give 128. Opacity as for BBIFlip. */
+/* The mix of d and s with the alpha weight of s. Opacity as for BBIFlip. */
 TESSARO_API int32_t TESSARO_CALL BBIFlipBlend(ImageRecord* dst, const ImageRecord* src, int32_t dx,
                                               int32_t dy, int32_t w, int32_t h, int32_t sx, int32_t sy,
                                               float opacity);

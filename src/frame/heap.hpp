@@ -28,4 +28,25 @@ class HeapArray {
   T* at_ = nullptr;
 };
 
+// The same, but small counts stay off the heap.
+template <class T, size_t small>
+class ScratchArray {
+ public:
+  explicit ScratchArray(size_t count)
+      : at_(count <= small ? room_ : static_cast<T*>(std::malloc(count * sizeof(T)))) {}
+  ScratchArray(const ScratchArray&) = delete;
+  ScratchArray& operator=(const ScratchArray&) = delete;
+  ~ScratchArray() {
+    if (at_ != room_) std::free(at_);
+  }
+
+  explicit operator bool() const { return at_ != nullptr; }
+  T* data() { return at_; }
+  T& operator[](size_t i) { return at_[i]; }
+
+ private:
+  T room_[small];
+  T* at_;
+};
+
 }  // namespace tessaro

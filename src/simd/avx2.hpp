@@ -104,6 +104,12 @@ template <int k>
 TESSARO_INLINE Px::Half shr(Px::Half a) {
   return {_mm256_srli_epi16(a.v, k)};
 }
+TESSARO_INLINE Px::Half halves(Px a) { return {a.v}; }
+TESSARO_INLINE Px::Half colour_sums(Px a) {
+  const __m256i t =
+      _mm256_madd_epi16(_mm256_maddubs_epi16(a.v, _mm256_set1_epi32(0x010101)), _mm256_set1_epi16(1));
+  return {_mm256_or_si256(t, _mm256_slli_epi32(t, 16))};
+}
 TESSARO_INLINE Px::Half lookup_alpha(Px a, const uint32_t* table) {
   const __m256i t =
       _mm256_i32gather_epi32(reinterpret_cast<const int*>(table), _mm256_srli_epi32(a.v, 24), 4);

@@ -92,6 +92,12 @@ template <int k>
 TESSARO_INLINE Px::Half shr(Px::Half a) {
   return {_mm512_srli_epi16(a.v, k)};
 }
+TESSARO_INLINE Px::Half halves(Px a) { return {a.v}; }
+TESSARO_INLINE Px::Half colour_sums(Px a) {
+  const __m512i t =
+      _mm512_madd_epi16(_mm512_maddubs_epi16(a.v, _mm512_set1_epi32(0x010101)), _mm512_set1_epi16(1));
+  return {_mm512_or_si512(t, _mm512_slli_epi32(t, 16))};
+}
 TESSARO_INLINE Px::Half lookup_alpha(Px a, const uint32_t* table) {
   const __m512i t = _mm512_i32gather_epi32(_mm512_srli_epi32(a.v, 24), table, 4);
   return {_mm512_or_si512(t, _mm512_slli_epi32(t, 16))};

@@ -84,6 +84,10 @@ TESSARO_INLINE One join_high(One::Half e, One::Half o) {
   return {(e.v >> 8 & 0x00FF00FF) | (o.v & 0xFF00FF00)};
 }
 TESSARO_INLINE One::Half alpha_halves(One a) { return One::Half::splat(a.v >> 24); }
+TESSARO_INLINE One::Half halves(One a) { return {a.v}; }
+TESSARO_INLINE One::Half colour_sums(One a) {
+  return One::Half::splat((a.v & 255) + (a.v >> 8 & 255) + (a.v >> 16 & 255));
+}
 TESSARO_INLINE One::Half lookup_alpha(One a, const uint32_t* table) {
   return One::Half::splat(table[a.v >> 24]);
 }

@@ -112,6 +112,12 @@ template <int k>
 TESSARO_INLINE Px::Half shr(Px::Half a) {
   return {_mm_srli_epi16(a.v, k)};
 }
+TESSARO_INLINE Px::Half halves(Px a) { return {a.v}; }
+TESSARO_INLINE Px::Half colour_sums(Px a) {
+  const __m128i t = _mm_add_epi32(_mm_madd_epi16(even(a).v, _mm_set1_epi16(1)),
+                                  _mm_and_si128(odd(a).v, _mm_set1_epi32(255)));
+  return {_mm_or_si128(t, _mm_slli_epi32(t, 16))};
+}
 TESSARO_INLINE Px::Half lookup_alpha(Px a, const uint32_t* table) {
   const __m128i i = _mm_srli_epi32(a.v, 24);
   const auto entry = [table](int at) { return _mm_cvtsi32_si128(static_cast<int>(table[at])); };

@@ -19,7 +19,9 @@
 //   even(a) odd(a)               bytes 0 and 2 (blue, red); bytes 1 and 3 (green, alpha)
 //   join(e, o)                   back to bytes; both at most 255
 //   join_high(e, o)              back to bytes from the upper halves, that is shifted right by 8
+//   halves(a)                    the lower and the upper 16 bits of a pixel as they are
 //   alpha_halves(a)              the alpha in both lanes of each pixel
+//   colour_sums(a)               blue + green + red in both lanes
 //   lookup_alpha(a, table)       table[alpha] in both lanes; table has 256 32-bit entries below 65536
 //   scaled_alpha(a, m)           (alpha * m) >> 16 in both lanes; m at most 65794
 //   P::Half::splat(v)  + - *     modulo 65536;  shl<k> shr<k> (logical);  min max (signed)
@@ -66,7 +68,9 @@ concept PixelVector = requires(P a, typename P::Half h, const void* in, void* ou
   { select(above(a, a), a, a) } -> std::same_as<P>;
   { join(even(a), odd(a)) } -> std::same_as<P>;
   { join_high(even(a), odd(a)) } -> std::same_as<P>;
+  { halves(a) } -> std::same_as<typename P::Half>;
   { alpha_halves(a) } -> std::same_as<typename P::Half>;
+  { colour_sums(a) } -> std::same_as<typename P::Half>;
   { lookup_alpha(a, table) } -> std::same_as<typename P::Half>;
   { scaled_alpha(a, 1u) } -> std::same_as<typename P::Half>;
   { (h + h) - (h * h) } -> std::same_as<typename P::Half>;

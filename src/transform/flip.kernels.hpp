@@ -1,18 +1,11 @@
 // kernels: FlipKernels for scalar sse2 avx2 avx512
-#include "simd/rules.hpp"
 #include "simd/walk.hpp"
 #include "transform/flip.hpp"
+#include "transform/rules.hpp"
 
 namespace {
 
 using tessaro::AreaPair;
-
-template <class P>
-struct Blend {
-  uint32_t factor;
-  TESSARO_INLINE explicit Blend(uint32_t f) : factor(f) {}
-  TESSARO_INLINE P operator()(P d, P s) const { return mix(d, s, scaled_alpha(s, factor)); }
-};
 
 // The source lies in front where its alpha is the greater one.
 template <class P>
@@ -37,7 +30,7 @@ struct DepthMask {
 }  // namespace
 
 TESSARO_KERNELS(FlipKernels){
-    .blend = [](const AreaPair& n, uint32_t factor) { walk2<Blend>(n, factor); },
+    .blend = [](const AreaPair& n, uint32_t factor) { walk2<AlphaMix>(n, factor); },
     .depth = [](const AreaPair& n) { walk2<Depth>(n); },
     .depth_mask = [](const AreaPair& n, uint32_t keep) { walk2<DepthMask>(n, keep); },
 };
