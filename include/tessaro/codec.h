@@ -8,6 +8,36 @@
 extern "C" {
 #endif
 
+/* ---- Stream formats ----
+ *
+ * Lossless codecs for blocks of bytes, most of them made for 32-bit pixels. A stream is bytes without a head:
+ * the host keeps the name of the format and the length of the source beside it. docs/formats.md describes every
+ * format.
+ *
+ * <name>Encoder codes `length` bytes of source. The result is 0 when the stream is complete and shorter than the
+ * format's limit, the source length less a margin; *written is then its length in bytes. The result is 1 when the
+ * data does not compress: *written is untouched when the source is shorter than the format's minimum, otherwise
+ * destination holds the first *written bytes of a stream that was given up, and the host keeps the source instead.
+ * destination has room for `length` bytes; nothing behind the written bytes is changed.
+ *
+ * <name>Decoder makes `count` bytes, the length of the source: 0 = done, 1 = count is 0, nothing done. It trusts the
+ * stream and reads exactly the bytes that it needs; only what the same format's encoder made may be given to it,
+ * with its own length.
+ *
+ * <name>DecoderSafe is for streams from elsewhere. It takes the stream's size in bytes and makes the same bytes,
+ * or returns 1 when the stream ends before count bytes are made (destination then begins with those that were made)
+ * or when count is 0. Whatever the stream holds, nothing is read behind it and nothing written behind count bytes.
+ *
+ * Buffers need no alignment; source and destination must not overlap. */
+
+/* io: pixels that repeat the pixel before them. Minimum length 65, margin 64. A group of four bytes that equals the
+ * one before costs one bit, any other 33. */
+TESSARO_API int32_t TESSARO_CALL ioEncoder(const void* source, void* destination, uint32_t length,
+                                           uint32_t* written);
+TESSARO_API int32_t TESSARO_CALL ioDecoder(const void* stream, void* destination, uint32_t count);
+TESSARO_API int32_t TESSARO_CALL ioDecoderSafe(const void* stream, void* destination, uint32_t stream_size,
+                                               uint32_t count);
+
 /* c2f: blocks of eight 32-bit pixels; the bytes of a pixel (blue, green, red or alpha) that do not change
  * within a block against the pixel before it are left out. For pixels with a constant alpha and flat areas.
  *

@@ -1,0 +1,136 @@
+// Bit streams, most significant bit first: one writer and one reader under every format that has bit fields.
+//
+// Both keep 64 bits at hand and move up to 8 bytes at once, but only where that touches nothing else: a writer never
+// changes a byte behind the stream's end, and a reader never reads one that the format does not make it need.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+#include "frame/numbers.hpp"
+
+namespace tessaro {
+
+inline uint64_t load_big_endian64(const uint8_t* at) { return __builtin_bswap64(load<uint64_t>(at)); }
+
+class BitWriter {
+ public:
+  explicit BitWriter(uint8_t* out) : begin_(out), at_(out) {}
+
+  // Appends the low n bits of a value that has no bits above them, n <= 32; whole bytes leave at once.
+  void put(uint32_t bits, unsigned n) {
+    pending_ = pending_ << n | bits;
+    held_ += n;
+    while (held_ >= 8) {
+      held_ -= 8;
+      *at_++ = static_cast<uint8_t>(pending_ >> held_);
+    }
+  }
+  // The same for n <= 56 in one 8-byte store. It may also change the 7 bytes after the stream so far, so it is only
+  // for places where at least 7 more bytes are sure to follow.
+  void put_ahead(uint64_t bits, unsigned n) {
+    pending_ = pending_ << n | bits;
+    held_ += n;
+    // held_ is 0 only with nothing pending or appended; then any shift stores bytes that will be written again.
+    store(at_, __builtin_bswap64(pending_ << ((64 - held_) & 63)));
+    at_ += held_ >> 3;
+    held_ &= 7;
+  }
+  // Ends the stream: the last partial byte padded with zeros, or one zero byte where nothing is pending.
+  void flush() { put(0, 8); }
+
+  uint32_t written() const { return static_cast<uint32_t>(at_ - begin_); }
+
+ private:
+  uint8_t* begin_;
+  uint8_t* at_;
+  uint64_t pending_ = 0;  // the low held_ bits are still to leave; those above have left
+  unsigned held_ = 0;     // below 8 between calls
+};
+
+// Where a decoder's bytes come from. A classic decoder is not told how long its stream is.
+struct Trusted {
+  explicit Trusted(const void* stream) : at(static_cast<const uint8_t*>(stream)) {}
+  const uint8_t* at;
+
+  // Whether the next n bytes exist.
+  static constexpr bool has(size_t) { return true; }
+  // Whether 8 bytes may be read at once, when the rest of the stream is known to be at least `bytes` long.
+  static constexpr bool has_8(uint64_t bytes) { return bytes >= 8; }
+};
+struct Bounded {
+  Bounded(const void* stream, uint32_t size) : at(static_cast<const uint8_t*>(stream)), end(at + size) {}
+  const uint8_t *at, *end;
+
+  bool has(size_t n) const { return static_cast<size_t>(end - at) >= n; }
+  bool has_8(uint64_t) const { return has(8); }
+};
+
+template <class Source>
+class BitReader {
+ public:
+  explicit BitReader(Source source) : source_(source), begin_(source.at) {}
+
+  // Makes at least n bits available, n <= 56, reading no byte beyond the one that holds the last of them. Where the
+  // stream ends before, zeros take the place of what is missing and ran_out() is true from then on.
+  void need(unsigned n) {
+    if (held_ >= n) return;
+    unsigned bytes = (n - held_ + 7) >> 3;
+    if (!source_.has(bytes)) [[unlikely]] {
+      ran_out_ = true;
+      held_ = 64;
+      return;
+    }
+    if (source_.at - begin_ + static_cast<ptrdiff_t>(bytes) >= 8) [[likely]] {
+      // The eight bytes that end with the last one needed: the first of them have been read before.
+      source_.at += bytes;
+      bits_ |= load_big_endian64(source_.at - 8) << (64 - 8 * bytes) >> held_;
+      held_ += 8 * bytes;
+    } else {
+      for (; bytes; --bytes, held_ += 8) bits_ |= static_cast<uint64_t>(*source_.at++) << (56 - held_);
+    }
+  }
+
+  // Whether refill() may be called, when the format makes the decoder read at least `sure` more bits.
+  bool can_refill(uint64_t sure) const { return source_.has_8((sure - (sure < held_ ? sure : held_)) >> 3); }
+  // Makes at least 56 bits available in one 8-byte read.
+  void refill() {
+    bits_ |= load_big_endian64(source_.at) >> held_;
+    source_.at += (63 - held_) >> 3;
+    held_ |= 56;
+  }
+
+  // The available bits, the next one on top; below them stands nothing or the bits that follow in the stream.
+  uint64_t window() const { return bits_; }
+  unsigned held() const { return held_; }
+  void skip(unsigned n) {
+    bits_ <<= n;
+    held_ -= n;
+  }
+  // The next n bits, 1 <= n <= 32, which are available.
+  uint32_t take(unsigned n) {
+    const auto value = static_cast<uint32_t>(bits_ >> (64 - n));
+    skip(n);
+    return value;
+  }
+  uint32_t read(unsigned n) {
+    need(n);
+    return take(n);
+  }
+  // Counts the one bits up to a zero, which is taken too, or up to `most` of them.
+  unsigned read_ones(unsigned most) {
+    unsigned ones = 0;
+    while (ones < most && read(1) != 0) ++ones;
+    return ones;
+  }
+  bool ran_out() const { return ran_out_; }
+
+ private:
+  Source source_;
+  const uint8_t* begin_;
+  uint64_t bits_ = 0;
+  unsigned held_ = 0;  // at most 64
+  bool ran_out_ = false;
+};
+
+}  // namespace tessaro

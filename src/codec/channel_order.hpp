@@ -1,0 +1,30 @@
+// The inverse rules of the transforms, for decoders that apply them in the same pass.
+#pragma once
+
+#include <cstdint>
+
+namespace tessaro {
+
+// Differences are folded so that small ones of either sign become small codes: 0, -1, 1, -2 become 0, 1, 2, 3.
+constexpr uint8_t unfold(uint8_t code) { return static_cast<uint8_t>(code >> 1 ^ (0 - (code & 1))); }
+
+// The positions of `count` interleaved bytes, one channel of four after another: 0, 4, 8, ..., 1, 5, ..., 2, ..., 3, ...
+class ChannelOrder {
+ public:
+  explicit ChannelOrder(uint32_t count) : count_(count) {}
+  uint64_t position() const { return at_; }
+  // Moves on; false behind the last one.
+  bool next() {
+    at_ += 4;
+    if (at_ < count_) [[likely]]
+      return true;
+    at_ = (at_ & 3) + 1;
+    return at_ < 4 && at_ < count_;
+  }
+
+ private:
+  uint64_t at_ = 0;
+  uint32_t count_;
+};
+
+}  // namespace tessaro

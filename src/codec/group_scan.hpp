@@ -1,0 +1,76 @@
+// Groups of 4 * 2^k bytes that are all sent with the same number of bits: how an encoder finds them, and their heads.
+#pragma once
+
+#include <cstdint>
+
+#include "codec/bits.hpp"
+
+namespace tessaro {
+
+// What is sent of a byte that follows another: all of it, its low 5 bits, its low 3 bits, or nothing. A class is
+// written as that many ones and, below 3, a zero.
+inline constexpr unsigned class_width[] = {8, 5, 3, 0};
+inline constexpr uint8_t class_keep[] = {0x00, 0xE0, 0xF8, 0xFF};  // what stays of the byte before
+inline constexpr unsigned repeats = 3;
+
+struct BitField {
+  uint32_t bits;
+  unsigned width;
+};
+inline constexpr BitField class_mark[] = {{0b0, 1}, {0b10, 2}, {0b110, 3}, {0b111, 3}};
+
+template <class Source>
+inline unsigned read_class(BitReader<Source>& in) {
+  return in.read_ones(repeats);
+}
+
+struct Group {
+  uint32_t size;   // 4 * 2^level; the last group of a stream may be longer than what is left to code
+  unsigned level;  // sent as that many ones and a zero
+  unsigned kind;   // the class of all its bytes
+};
+
+// The class of four bytes in a row, the first of which follows `last`: of the least similar one.
+inline unsigned class_of_unit(uint32_t unit, uint8_t last) {
+  const uint32_t changed = unit ^ (unit << 8 | last);
+  return changed == 0 ? 3 : (changed & 0xF8F8F8F8) == 0 ? 2 : (changed & 0xE0E0E0E0) == 0 ? 1 : 0;
+}
+
+// The group that starts at byte `start` of the source, which has at least 5 bytes; `last` is the byte before it, 0 at
+// the beginning. The unit that holds the last byte of the source never extends a group. Where it has fewer than four
+// bytes, the bytes of the unit before stand in the other places.
+inline Group scan_group(const uint8_t* source, uint32_t length, uint32_t start) {
+  const auto last_before = [&](uint64_t at) { return at ? source[at - 1] : uint8_t{0}; };
+  uint32_t unit;
+  if (length - start >= 4) {
+    unit = load<uint32_t>(source + start);
+  } else {
+    const unsigned short_by = 8 * (4 - (length - start));
+    // The four bytes that end the source hold, on top, those of the short unit.
+    unit = load<uint32_t>(source + length - 4) >> short_by;
+    unit |= load<uint32_t>(source + start - 4) >> (32 - short_by) << (32 - short_by);
+  }
+  Group group{4, 0, class_of_unit(unit, last_before(start))};
+  for (uint64_t next = uint64_t{start} + 4; next + 4 < length; next += 4) {
+    if (class_of_unit(load<uint32_t>(source + next), source[next - 1]) != group.kind) break;
+    if (next + 4 - start == uint64_t{2} * group.size) {
+      group.size *= 2;
+      ++group.level;
+    }
+  }
+  return group;
+}
+
+// Reads the head of a group. A damaged stream may ask for any level; sizes end at 2^32.
+struct GroupHead {
+  uint64_t size;
+  unsigned kind;
+};
+template <class Source>
+inline GroupHead read_group_head(BitReader<Source>& in) {
+  unsigned level = 0;
+  while (in.read(1) != 0) ++level;
+  return {uint64_t{4} << (level < 30 ? level : 30), read_class(in)};
+}
+
+}  // namespace tessaro
