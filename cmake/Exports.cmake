@@ -27,8 +27,10 @@ function(tessaro_export_table target)
     target_link_options(${target} PRIVATE -Wl,--enable-stdcall-fixup)
   else()
     # Without --no-undefined-version GNU ld passes over a listed name that does not exist.
-    target_link_options(${target} PRIVATE -Wl,--version-script=${out}/tessaro.map -Wl,--no-undefined-version
-                        -Wl,--no-undefined)
+    target_link_options(${target} PRIVATE -Wl,--version-script=${out}/tessaro.map -Wl,--no-undefined-version)
+    if(NOT TESSARO_SANITIZE)  # a sanitizer's functions come from the program
+      target_link_options(${target} PRIVATE -Wl,--no-undefined)
+    endif()
     set_target_properties(${target} PROPERTIES LINK_DEPENDS ${out}/tessaro.map)
   endif()
 endfunction()
