@@ -93,6 +93,9 @@ TESSARO_INLINE Px join_high(Px::Half e, Px::Half o) {
 TESSARO_INLINE Px::Half operator+(Px::Half a, Px::Half b) { return {_mm256_add_epi16(a.v, b.v)}; }
 TESSARO_INLINE Px::Half operator-(Px::Half a, Px::Half b) { return {_mm256_sub_epi16(a.v, b.v)}; }
 TESSARO_INLINE Px::Half operator*(Px::Half a, Px::Half b) { return {_mm256_mullo_epi16(a.v, b.v)}; }
+TESSARO_INLINE Px::Half plus_equal(Px::Half a, Px::Half b) {
+  return {_mm256_sub_epi16(a.v, _mm256_cmpeq_epi16(a.v, b.v))};
+}
 TESSARO_INLINE Px::Half mul_high(Px::Half a, Px::Half b) { return {_mm256_mulhi_epu16(a.v, b.v)}; }
 TESSARO_INLINE Px::Half min(Px::Half a, Px::Half b) { return {_mm256_min_epi16(a.v, b.v)}; }
 TESSARO_INLINE Px::Half max(Px::Half a, Px::Half b) { return {_mm256_max_epi16(a.v, b.v)}; }

@@ -81,6 +81,9 @@ TESSARO_INLINE Px join_high(Px::Half e, Px::Half o) {
 TESSARO_INLINE Px::Half operator+(Px::Half a, Px::Half b) { return {_mm512_add_epi16(a.v, b.v)}; }
 TESSARO_INLINE Px::Half operator-(Px::Half a, Px::Half b) { return {_mm512_sub_epi16(a.v, b.v)}; }
 TESSARO_INLINE Px::Half operator*(Px::Half a, Px::Half b) { return {_mm512_mullo_epi16(a.v, b.v)}; }
+TESSARO_INLINE Px::Half plus_equal(Px::Half a, Px::Half b) {
+  return {_mm512_mask_add_epi16(a.v, _mm512_cmpeq_epi16_mask(a.v, b.v), a.v, _mm512_set1_epi16(1))};
+}
 TESSARO_INLINE Px::Half mul_high(Px::Half a, Px::Half b) { return {_mm512_mulhi_epu16(a.v, b.v)}; }
 TESSARO_INLINE Px::Half min(Px::Half a, Px::Half b) { return {_mm512_min_epi16(a.v, b.v)}; }
 TESSARO_INLINE Px::Half max(Px::Half a, Px::Half b) { return {_mm512_max_epi16(a.v, b.v)}; }

@@ -15,12 +15,6 @@ TESSARO_INLINE P mix(P d, P s, typename P::Half w) {
   return mix(d, s, w, P::Half::splat(256) - w);
 }
 
-// 0..255 as it is, but 255 becomes 256.
-template <class H>
-TESSARO_INLINE H full_to_256(H a) {
-  return a + shr<8>(a + H::splat(1));
-}
-
 // (v >> 1) of every byte.
 template <class P>
 TESSARO_INLINE P half_bytes(P a) {

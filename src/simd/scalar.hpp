@@ -112,6 +112,9 @@ TESSARO_INLINE One::Half operator-(One::Half a, One::Half b) {
 TESSARO_INLINE One::Half operator*(One::Half a, One::Half b) {
   return per_lane(a, b, [](uint32_t x, uint32_t y) { return x * y; });
 }
+TESSARO_INLINE One::Half plus_equal(One::Half a, One::Half b) {
+  return per_lane(a, b, [](uint32_t x, uint32_t y) { return x + (x == y); });
+}
 TESSARO_INLINE One::Half mul_high(One::Half a, One::Half b) {
   return per_lane(a, b, [](uint32_t x, uint32_t y) { return x * y >> 16; });
 }

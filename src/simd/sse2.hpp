@@ -101,6 +101,9 @@ TESSARO_INLINE Px join_high(Px::Half e, Px::Half o) {
 TESSARO_INLINE Px::Half operator+(Px::Half a, Px::Half b) { return {_mm_add_epi16(a.v, b.v)}; }
 TESSARO_INLINE Px::Half operator-(Px::Half a, Px::Half b) { return {_mm_sub_epi16(a.v, b.v)}; }
 TESSARO_INLINE Px::Half operator*(Px::Half a, Px::Half b) { return {_mm_mullo_epi16(a.v, b.v)}; }
+TESSARO_INLINE Px::Half plus_equal(Px::Half a, Px::Half b) {
+  return {_mm_sub_epi16(a.v, _mm_cmpeq_epi16(a.v, b.v))};
+}
 TESSARO_INLINE Px::Half mul_high(Px::Half a, Px::Half b) { return {_mm_mulhi_epu16(a.v, b.v)}; }
 TESSARO_INLINE Px::Half min(Px::Half a, Px::Half b) { return {_mm_min_epi16(a.v, b.v)}; }
 TESSARO_INLINE Px::Half max(Px::Half a, Px::Half b) { return {_mm_max_epi16(a.v, b.v)}; }

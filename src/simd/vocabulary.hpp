@@ -26,6 +26,7 @@
 //   scaled_alpha(a, m)           (alpha * m) >> 16 in both lanes; m at most 65794
 //   P::Half::splat(v)  + - *     modulo 65536;  shl<k> shr<k> (logical);  min max (signed)
 //   mul_high(a, b)               (a * b) >> 16, unsigned
+//   plus_equal(a, b)             a + 1 where a == b, else a
 #pragma once
 
 #include <concepts>
@@ -75,6 +76,7 @@ concept PixelVector = requires(P a, typename P::Half h, const void* in, void* ou
   { scaled_alpha(a, 1u) } -> std::same_as<typename P::Half>;
   { (h + h) - (h * h) } -> std::same_as<typename P::Half>;
   { min(max(h, h), P::Half::splat(1)) } -> std::same_as<typename P::Half>;
+  { plus_equal(h, h) } -> std::same_as<typename P::Half>;
   { mul_high(h, h) } -> std::same_as<typename P::Half>;
   { shl<1>(shr<1>(h)) } -> std::same_as<typename P::Half>;
 };

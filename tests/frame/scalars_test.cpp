@@ -1,0 +1,165 @@
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <limits>
+#include <vector>
+
+#include "frame/numbers.hpp"
+#include "frame/process.hpp"
+#include "tessaro/tessaro.h"
+
+namespace tessaro {
+namespace {
+
+TEST(Scalars, ShiftsTakeTheCountModulo32) {
+  EXPECT_EQ(SHL(1, 33), 2u);
+  EXPECT_EQ(SAR(-8, 1), -4);
+  EXPECT_EQ(SAR(INT32_MIN, 63), -1);
+  EXPECT_EQ(SHR(0xFFFFFFF8, 1), 0x7FFFFFFCu);
+  EXPECT_EQ(SHR(5, 0xFFFFFFE0), 5u);
+}
+
+TEST(Scalars, PeeksAndPokesTakeAnyAlignmentAndNegativeIndices) {
+  uint8_t bytes[16] = {};
+  uint8_t* base = bytes + 7;
+  EXPECT_EQ(SetWORD(base, -2, 0xABCD1234), 0x1234);
+  EXPECT_EQ(bytes[3], 0x34);
+  EXPECT_EQ(GetWORD(base, -2), 0x1234);
+  EXPECT_EQ(SetDWORD(base, 1, 0x89ABCDEF), 0x89ABCDEFu);
+  EXPECT_EQ(GetDWORD(base, 1), 0x89ABCDEFu);
+  EXPECT_EQ(bytes[14], 0x89);
+  EXPECT_EQ(BBI(-5), -5);
+}
+
+TEST(Scalars, CompareAndExclusiveOr) {
+  const char a[] = "abcdef", b[] = "abcdeg";
+  EXPECT_EQ(dllComp(a, b, 5), 0);
+  EXPECT_EQ(dllComp(a, b, 6), 1);
+  EXPECT_EQ(dllComp(a, b, 0), 0);
+  EXPECT_EQ(dllComp(nullptr, nullptr, INT32_MIN), 0);
+  std::vector<uint8_t> d(64), s(64);
+  for (size_t i = 0; i < 64; ++i) {
+    d[i] = static_cast<uint8_t>(i);
+    s[i] = static_cast<uint8_t>(i * 37 + 1);
+  }
+  const auto before = d;
+  EXPECT_EQ(CopyMemoryEx(d.data() + 43, s.data() + 43, 2, 3, -21), 0);
+  for (size_t i = 0; i < 64; ++i) {
+    const bool inside = (i >= 1 && i < 9) || (i >= 22 && i < 30) || (i >= 43 && i < 51);
+    EXPECT_EQ(d[i], inside ? before[i] ^ s[i] : before[i]) << i;
+  }
+  EXPECT_EQ(CopyMemoryEx(d.data() + 43, s.data() + 43, 2, 3, -21), 0);
+  EXPECT_EQ(d, before);
+  EXPECT_EQ(CopyMemoryEx(nullptr, nullptr, INT32_MIN, INT32_MAX, 1), 0);
+  EXPECT_EQ(CopyMemoryEx(nullptr, nullptr, 5, 0, 1), 0);
+}
+
+// The two hashes written a second time, in 64 bits with explicit truncation.
+uint32_t hash_model(const std::string& text, uint64_t h1, uint64_t mask, uint64_t factor) {
+  uint64_t h2 = 0x1476E5;
+  for (const char c : text) {
+    const auto ch = static_cast<unsigned char>(c);
+    h2 = h2 & mask;
+    h1 = ((h1 & mask) + h2 / 2 + ch + 520 * h2) % 0x100000000;
+    h2 = (h2 + ch + factor * h1) % 0x100000000;
+  }
+  return static_cast<uint32_t>((h1 << 16 ^ h2) % 0x100000000);
+}
+
+TEST(Scalars, Hashes) {
+  EXPECT_EQ(hash32A(""), 0xA82976E5u);
+  EXPECT_EQ(hash32W(nullptr, 0), 0xA82976E5u);
+  EXPECT_EQ(hash32W(nullptr, INT32_MIN), 0xA82976E5u);
+  std::string text;
+  for (int length = 1; length <= 64; ++length) {
+    text += static_cast<char>(length * 59 + 1) ? static_cast<char>(length * 59 + 1) : 'x';
+    EXPECT_EQ(hash32A(text.c_str()), hash_model(text, 0x22A83D, 0x3FFFFF, 162));
+    EXPECT_EQ(hash32W(text.data(), length), hash_model(text, 0x12A83D, 0x1FFFFF, 38));
+  }
+  // The 65th byte does not exist for it, not even as an end.
+  const std::vector<char> exact(text.begin(), text.end());
+  EXPECT_EQ(hash32A(exact.data()), hash32A(text.c_str()));
+  EXPECT_EQ(hash32W("a\0b", 3), hash32W("ab", 2));
+}
+
+TEST(Scalars, ColourBlend) {
+  EXPECT_EQ(dwColorBlend(0x10FF2003, 0xF0010507, 0.5f), 0x80801205u);
+  EXPECT_EQ(dwColorBlend(0x10FF2003, 0xF0010507, -1.0f), 0x10FF2003u);
+  EXPECT_EQ(dwColorBlend(0x10FF2003, 0xF0010507, std::numeric_limits<float>::quiet_NaN()), 0x10FF2003u);
+  EXPECT_EQ(dwColorBlend(0x10FF2003, 0xF0010507, 7.0f), 0xF0010507u);
+  EXPECT_EQ(dwColorBlend(0xFFFFFFFF, 0xFFFFFFFF, 0.3f), 0xFFFFFFFFu);
+}
+
+TEST(Scalars, CallsThroughPointers) {
+  EXPECT_EQ(dllMethod1([](intptr_t a) -> intptr_t { return ~a; }, INTPTR_MIN), INTPTR_MAX);
+  EXPECT_EQ(dllMethod4([](intptr_t a, intptr_t b, intptr_t c,
+                          intptr_t d) -> intptr_t { return a + 10 * b + 100 * c + 1000 * d; },
+                       1, 2, 3, 4),
+            4321);
+  struct Host {
+    static intptr_t TESSARO_CALL minus(intptr_t a, intptr_t b) { return a - b; }
+  };
+  EXPECT_EQ(StdCallBack(Host::minus, 5, 12), -7);
+}
+
+TEST(Generator, DrawsTheTwisterWithItsFirstSeeding) {
+  // The generator once more, word by word as it was published.
+  std::vector<uint32_t> mt(624);
+  uint32_t s = 4357;
+  for (uint32_t& word : mt) {
+    word = s & 0xFFFF0000;
+    s = 69069 * s + 1;
+    word |= (s & 0xFFFF0000) >> 16;
+    s = 69069 * s + 1;
+  }
+  seed_random(4357);
+  for (int round = 0; round < 3; ++round) {
+    size_t k = 0;
+    const auto twist = [&](size_t a, size_t b, size_t m) {
+      const uint32_t y = (mt[a] & 0x80000000) | (mt[b] & 0x7FFFFFFF);
+      mt[a] = mt[m] ^ y >> 1 ^ (y & 1 ? 0x9908B0DF : 0);
+    };
+    for (; k < 624 - 397; ++k) twist(k, k + 1, k + 397);
+    for (; k < 623; ++k) twist(k, k + 1, k - (624 - 397));
+    twist(623, 0, 396);
+    for (uint32_t y : mt) {
+      y ^= y >> 11;
+      y ^= y << 7 & 0x9D2C5680;
+      y ^= y << 15 & 0xEFC60000;
+      y ^= y >> 18;
+      ASSERT_EQ(GetRandom(0xFFFFFFFF), y % 0xFFFFFFFF);
+    }
+  }
+  // A modulus of 1 says nothing but moves on.
+  seed_random(1);
+  const uint32_t first = GetRandom(1u << 31), second = GetRandom(1u << 31);
+  seed_random(1);
+  EXPECT_EQ(GetRandom(1), 0u);
+  EXPECT_EQ(GetRandom(1u << 31), second);
+  EXPECT_NE(first, second);
+}
+
+TEST(Processor, Levels) {
+  constexpr uint32_t cmov = 1u << 15, mmx = 1u << 23, sse = 1u << 25, sse2 = 1u << 26;
+  EXPECT_EQ(cpu_level_of(0), 2);
+  EXPECT_EQ(cpu_level_of(cmov | sse | sse2), 3);
+  EXPECT_EQ(cpu_level_of(mmx), 4);
+  EXPECT_EQ(cpu_level_of(mmx | sse | cmov), 12);
+  EXPECT_EQ(cpu_level_of(mmx | sse2), 20);
+  EXPECT_EQ(cpu_level_of(mmx | sse | sse2), 28);
+  EXPECT_EQ(GetCpuID(), lazy_cpu_level());
+  EXPECT_EQ(GetCpuID(), 28);  // every processor that the vector code runs on
+}
+
+TEST(Numbers, TruncationOfWhatDoesNotFitGivesTheSmallestInteger) {
+  EXPECT_EQ(trunc32(2147483647.5), INT32_MAX);
+  EXPECT_EQ(trunc32(-2147483648.9), INT32_MIN);
+  for (const double v :
+       {2147483648.0, -2147483649.0, 1e300, -1e300, std::numeric_limits<double>::quiet_NaN()})
+    EXPECT_EQ(trunc32(v), INT32_MIN);
+  EXPECT_EQ(trunc32(-0.9f), 0);
+  EXPECT_EQ(trunc32(2147483648.0f), INT32_MIN);
+}
+
+}  // namespace
+}  // namespace tessaro
