@@ -1,0 +1,193 @@
+#include "draw/boxes.hpp"
+
+#include "draw/pen.hpp"
+#include "draw/run.hpp"
+#include "frame/overlap.hpp"
+#include "tessaro/tessaro.h"
+
+using namespace tessaro;
+
+namespace {
+
+// The clip of the boxes that are given by position and size: against the image, with the whole image as the
+// source that is scaled along. False when nothing is left.
+bool clip_box(const ImageView& image, int32_t x, int32_t y, int32_t w, int32_t h, ScaledBlit& box) {
+  box = {x, y, w, h, 0, 0, image.width, image.height};
+  return !ClipScaledBlit(image, image, box) && box.dw >= 1 && box.dh >= 1;
+}
+
+// What is not a number counts as 0.
+template <class Float>
+int32_t weight_of(Float v) {
+  return v > 0 ? (v < 1 ? trunc32(v * 256) : 256) : 0;
+}
+
+// A box between two corner points, and the pattern image that colours it.
+struct CornerBox {
+  ImageView image, pattern;
+  Run x, y;
+
+  CornerBox(const ImageRecord* record, const ImageRecord* colours, int32_t x0, int32_t y0, int32_t x1,
+            int32_t y1)
+      : image(ImageView::of(record)),
+        pattern(ImageView::of(colours)),
+        x(x0, x1, image.width),
+        y(y0, y1, image.height) {}
+  bool usable() const { return pattern.width >= 2 && pattern.height >= 2; }
+  bool empty() const { return x.empty() || y.empty(); }
+  template <class Draw>
+  void strips(Draw draw) const {
+    each_strip(image, x.lowest(), y.lowest(), x.count(), y.count(), draw);
+  }
+};
+
+// The boxes that combine a colour chosen along x with one chosen along y.
+template <class Rule>
+int32_t line_box(const CornerBox& box, void (*kernel)(uint8_t*, const uint32_t*, size_t, uint32_t),
+                 Rule rule) {
+  if (!box.usable()) return status_nothing;
+  if (box.empty()) return status_done;
+  const double columns = box.pattern.width - 1;
+  const auto column_colour = [&](int64_t x) {
+    return box.pattern.get(trunc32(box.x.fraction(x) * columns), 0);
+  };
+  const auto row_colour = [&](int64_t y) { return box.pattern.get(trunc32(box.y.fraction(y) * columns), 1); };
+
+  const auto written =
+      ByteRange::of(box.image.at(box.x.lowest(), box.y.lowest()), box.image.pitch,
+                    static_cast<ptrdiff_t>(box.x.count()), static_cast<ptrdiff_t>(box.y.count()));
+  if (written.meets(ByteRange::of(box.pattern.pixels, box.pattern.pitch, box.pattern.width, 2))) {
+    // The pattern is being drawn over: each colour is read where the walk stands.
+    for (int64_t j = box.y.first; j <= box.y.last; ++j) {
+      const uint32_t b = row_colour(box.y.at(j));
+      for (int64_t i = box.x.first; i <= box.x.last; ++i) {
+        const uint32_t a = column_colour(box.x.at(i));
+        uint32_t pixel = 0;
+        for (int k = 0; k < 32; k += 8) pixel |= rule(a >> k & 255, b >> k & 255) << k;
+        box.image.set(box.x.at(i), box.y.at(j), pixel);
+      }
+    }
+    return status_done;
+  }
+  box.strips([&](int64_t done, Area area) {
+    uint32_t colours[strip_width];
+    for (ptrdiff_t i = 0; i < area.width; ++i) colours[i] = column_colour(box.x.lowest() + done + i);
+    for (ptrdiff_t j = 0; j < area.height; ++j)
+      kernel(area.at + j * area.pitch, colours, static_cast<size_t>(area.width),
+             row_colour(box.y.lowest() + j));
+  });
+  return status_done;
+}
+
+}  // namespace
+
+extern "C" {
+
+int32_t TESSARO_CALL BBIDrawColorFill(ImageRecord* image, int32_t x, int32_t y, int32_t width, int32_t height,
+                                      uint32_t mask, uint32_t colour) {
+  const ImageView view = ImageView::of(image);
+  ScaledBlit box;
+  if (!clip_box(view, x, y, width, height, box)) return status_nothing;
+  fill({view.at(box.dx, box.dy), view.pitch, static_cast<ptrdiff_t>(box.dw), static_cast<ptrdiff_t>(box.dh)},
+       mask, colour);
+  return status_done;
+}
+
+int32_t TESSARO_CALL BBIDrawColorTile(ImageRecord* image, int32_t x, int32_t y, int32_t width, int32_t height,
+                                      uint32_t mask, int32_t tile_width, int32_t tile_height,
+                                      uint32_t colour0, uint32_t colour1, uint32_t colour2,
+                                      uint32_t colour3) {
+  const ImageView view = ImageView::of(image);
+  ScaledBlit box;
+  if (!clip_box(view, x, y, width, height, box)) return status_nothing;
+  const int64_t tw = tile_width < 1 ? 1 : tile_width, th = tile_height < 1 ? 1 : tile_height;
+  const int64_t left_in_band = th - box.dy % th;
+  const bool starts_odd = box.dy / th % 2 != 0, both = box.dh > left_in_band;
+  each_strip(view, box.dx, box.dy, box.dw, box.dh, [&](int64_t done, Area area) {
+    uint32_t even[strip_width], odd[strip_width];
+    const auto lay = [&](uint32_t* row, uint32_t c0, uint32_t c1) {
+      const int64_t at = box.dx + done;
+      bool second = at / tw % 2 != 0;
+      int64_t left = tw - at % tw;
+      for (int64_t i = 0; i < area.width; left = tw, second = !second) {
+        const uint32_t colour = (second ? c1 : c0) & ~mask;
+        for (const int64_t end = i + left < area.width ? i + left : area.width; i < end; ++i) row[i] = colour;
+      }
+    };
+    if (both || !starts_odd) lay(even, colour0, colour1);
+    if (both || starts_odd) lay(odd, colour2, colour3);
+    kernels<BoxKernels>().tiles(area, even, odd, box.dy, th, mask);
+  });
+  return status_done;
+}
+
+int32_t TESSARO_CALL BBIDrawBox(ImageRecord* image, int32_t x, int32_t y, int32_t width, int32_t height,
+                                uint32_t mask, uint32_t top_left, uint32_t top_right, uint32_t bottom_left,
+                                uint32_t bottom_right) {
+  const ImageView view = ImageView::of(image);
+  ScaledBlit box;
+  if (!clip_box(view, x, y, width, height, box)) return status_nothing;
+  // What is visible of the unclipped box, as fractions of it.
+  const auto part = [](int64_t v, int64_t whole) {
+    return static_cast<float>(static_cast<double>(v) / static_cast<double>(whole));
+  };
+  const double u_start = part(box.sx, view.width), u_end = part(box.sx + box.sw, view.width);
+  const double v_start = part(box.sy, view.height), v_end = part(box.sy + box.sh, view.height);
+  // One column or one row makes 0 / 0, which counts as the left or the top.
+  const auto between = [](int64_t i, int64_t n, double start, double end) {
+    const double f = static_cast<double>(i) / static_cast<double>(n - 1);
+    return (1.0 - f) * start + f * end;
+  };
+  each_strip(view, box.dx, box.dy, box.dw, box.dh, [&](int64_t done, Area area) {
+    uint32_t weights[strip_width];
+    for (ptrdiff_t i = 0; i < area.width; ++i)
+      weights[i] = static_cast<uint32_t>(weight_of(between(done + i, box.dw, u_start, u_end))) * 0x10001u;
+    for (ptrdiff_t j = 0; j < area.height; ++j) {
+      const auto a = static_cast<uint32_t>(weight_of(static_cast<float>(between(j, box.dh, v_start, v_end))));
+      kernels<BoxKernels>().gradient(area.at + j * area.pitch, weights, static_cast<size_t>(area.width),
+                                     mixed(top_left, bottom_left, a), mixed(top_right, bottom_right, a),
+                                     mask);
+    }
+  });
+  return status_done;
+}
+
+int32_t TESSARO_CALL BBIDrawGradationBox(ImageRecord* image, const ImageRecord* pattern, int32_t x0,
+                                         int32_t y0, int32_t x1, int32_t y1) {
+  const CornerBox box(image, pattern, x0, y0, x1, y1);
+  if (!box.usable()) return status_nothing;
+  if (box.empty()) return status_done;
+  float corner[2][2][4];
+  for (int row = 0; row < 2; ++row)
+    for (int column = 0; column < 2; ++column)
+      for (int k = 0; k < 4; ++k) corner[row][column][k] = box.pattern.at(column, row)[k];
+  box.strips([&](int64_t done, Area area) {
+    double u[strip_width];
+    for (ptrdiff_t i = 0; i < area.width; ++i) u[i] = box.x.fraction(box.x.lowest() + done + i);
+    for (ptrdiff_t j = 0; j < area.height; ++j) {
+      const double v = box.y.fraction(box.y.lowest() + j);
+      float side[2][4];
+      for (int column = 0; column < 2; ++column)
+        for (int k = 0; k < 4; ++k)
+          side[column][k] = static_cast<float>(v * static_cast<double>(corner[1][column][k]) +
+                                               (1.0 - v) * static_cast<double>(corner[0][column][k]));
+      kernels<BoxKernels>().corners(area.at + j * area.pitch, u, static_cast<size_t>(area.width), side[0],
+                                    side[1]);
+    }
+  });
+  return status_done;
+}
+
+int32_t TESSARO_CALL BBIDrawMultiplyLineBox(ImageRecord* image, const ImageRecord* pattern, int32_t x0,
+                                            int32_t y0, int32_t x1, int32_t y1) {
+  return line_box(CornerBox(image, pattern, x0, y0, x1, y1), kernels<BoxKernels>().multiply,
+                  [](uint32_t a, uint32_t b) { return a * b / 255; });
+}
+
+int32_t TESSARO_CALL BBIDrawExclusiveLineBox(ImageRecord* image, const ImageRecord* pattern, int32_t x0,
+                                             int32_t y0, int32_t x1, int32_t y1) {
+  return line_box(CornerBox(image, pattern, x0, y0, x1, y1), kernels<BoxKernels>().exclusive,
+                  [](uint32_t a, uint32_t b) { return a + b > 255 ? 510 - (a + b) : a + b; });
+}
+
+}  // extern "C"

@@ -1,0 +1,28 @@
+// Row kernels of the boxes.
+#pragma once
+
+#include <cstdint>
+
+#include "frame/clip.hpp"
+#include "simd/dispatch.hpp"
+
+namespace tessaro {
+
+struct BoxKernels {
+  // Rows from y on, tile_height of them from the one pattern row, as many from the other. With a mask, the
+  // patterns' bits inside it are clear.
+  void (*tiles)(const Area&, const uint32_t* even, const uint32_t* odd, int64_t y, int64_t tile_height,
+                uint32_t mask);
+  // Mixes from left to right; weights are 0..256 in both halves of a word.
+  void (*gradient)(uint8_t* row, const uint32_t* weights, size_t width, uint32_t left, uint32_t right,
+                   uint32_t mask);
+  // (1 - u) * left + u * right of each of four bytes, truncated.
+  void (*corners)(uint8_t* row, const double* u, size_t width, const float (&left)[4],
+                  const float (&right)[4]);
+  // The colours of the columns combined with the one of the row.
+  void (*multiply)(uint8_t* row, const uint32_t* columns, size_t width, uint32_t colour);
+  void (*exclusive)(uint8_t* row, const uint32_t* columns, size_t width, uint32_t colour);
+};
+TESSARO_DECLARE_KERNELS(BoxKernels);
+
+}  // namespace tessaro

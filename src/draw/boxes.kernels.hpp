@@ -1,0 +1,114 @@
+// kernels: BoxKernels for scalar sse2 avx2 avx512
+#include "draw/boxes.hpp"
+#include "simd/walk.hpp"
+
+namespace {
+
+using tessaro::Area;
+
+template <class P>
+struct Tile {
+  TESSARO_INLINE P operator()(P, P pattern) const { return pattern; }
+};
+template <class P>
+struct MaskedTile {
+  P mask;
+  TESSARO_INLINE P operator()(P d, P pattern) const { return (d & mask) | pattern; }
+};
+
+template <class Rule>
+TESSARO_INLINE void tile_rows(Area n, const uint32_t* even, const uint32_t* odd, int64_t y,
+                              int64_t tile_height, const Rule& rule) {
+  bool in_odd = y / tile_height % 2 != 0;
+  int64_t left = tile_height - y % tile_height;
+  for (; n.height > 0; --n.height, n.at += n.pitch) {
+    row2<Px>(n.at, reinterpret_cast<const uint8_t*>(in_odd ? odd : even), static_cast<size_t>(n.width), rule);
+    if (--left == 0) left = tile_height, in_odd = !in_odd;
+  }
+}
+void tiles(const Area& n, const uint32_t* even, const uint32_t* odd, int64_t y, int64_t tile_height,
+           uint32_t mask) {
+  if (mask == 0)
+    tile_rows(n, even, odd, y, tile_height, Tile<Px>{});
+  else
+    tile_rows(n, even, odd, y, tile_height, MaskedTile<Px>{Px::splat(mask)});
+}
+
+// (right * w + left * (256 - w)) >> 8. Modulo 65536 that is left * 256 + (right - left) * w: one product less.
+template <class P, bool masked>
+struct Gradient {
+  using Half = typename P::Half;
+  Half even_base, even_rise, odd_base, odd_rise;
+  P mask;
+  Gradient(uint32_t left, uint32_t right, uint32_t m)
+      : even_base(shl<8>(even(P::splat(left)))),
+        even_rise(even(P::splat(right)) - even(P::splat(left))),
+        odd_base(shl<8>(odd(P::splat(left)))),
+        odd_rise(odd(P::splat(right)) - odd(P::splat(left))),
+        mask(P::splat(m)) {}
+  TESSARO_INLINE P operator()([[maybe_unused]] P d, P weights) const {
+    const Half w{weights.v};
+    const P colour = join_high(even_base + even_rise * w, odd_base + odd_rise * w);
+    if constexpr (masked)
+      return (d & mask) | and_not(colour, mask);
+    else
+      return colour;
+  }
+};
+void gradient(uint8_t* row, const uint32_t* weights, size_t width, uint32_t left, uint32_t right,
+              uint32_t mask) {
+  const auto* w = reinterpret_cast<const uint8_t*>(weights);
+  if (mask == 0)
+    row2<Px>(row, w, width, Gradient<Px, false>(left, right, mask));
+  else
+    row2<Px>(row, w, width, Gradient<Px, true>(left, right, mask));
+}
+
+void corners(uint8_t* row, const double* u, size_t width, const float (&left)[4], const float (&right)[4]) {
+  const double l0 = left[0], l1 = left[1], l2 = left[2], l3 = left[3];
+  const double r0 = right[0], r1 = right[1], r2 = right[2], r3 = right[3];
+  for (size_t x = 0; x < width; ++x) {
+    const double t = u[x], rest = 1.0 - t;
+    const auto mixed = [&](double l, double r) { return static_cast<int32_t>(rest * l + t * r); };
+    const int32_t pixel = mixed(l0, r0) | mixed(l1, r1) << 8 | mixed(l2, r2) << 16 | mixed(l3, r3) << 24;
+    std::memcpy(row + 4 * x, &pixel, 4);
+  }
+}
+
+template <class P>
+struct Multiply {  // a * b / 255, rounded down
+  using Half = typename P::Half;
+  Half even_row, odd_row;
+  explicit Multiply(uint32_t colour) : even_row(even(P::splat(colour))), odd_row(odd(P::splat(colour))) {}
+  TESSARO_INLINE P operator()(P, P columns) const {
+    return join_high(by_255(even(columns) * even_row), by_255(odd(columns) * odd_row));
+  }
+  TESSARO_INLINE static Half by_255(Half product) {  // in the upper byte
+    const Half next = product + Half::splat(1);
+    return next + shr<8>(next);
+  }
+};
+template <class P>
+struct Exclusive {  // a + b, above 255 folded back to 510 - (a + b)
+  P row, inverse;
+  explicit Exclusive(uint32_t colour) : row(P::splat(colour)), inverse(P::splat(~colour)) {}
+  TESSARO_INLINE P operator()(P, P columns) const {
+    return min(add_sat(columns, row), add_sat(~columns, inverse));
+  }
+};
+
+}  // namespace
+
+TESSARO_KERNELS(BoxKernels){
+    .tiles = tiles,
+    .gradient = gradient,
+    .corners = corners,
+    .multiply =
+        [](uint8_t* row, const uint32_t* columns, size_t width, uint32_t colour) {
+          row2<Px>(row, reinterpret_cast<const uint8_t*>(columns), width, Multiply<Px>(colour));
+        },
+    .exclusive =
+        [](uint8_t* row, const uint32_t* columns, size_t width, uint32_t colour) {
+          row2<Px>(row, reinterpret_cast<const uint8_t*>(columns), width, Exclusive<Px>(colour));
+        },
+};

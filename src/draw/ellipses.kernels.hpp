@@ -1,0 +1,52 @@
+// kernels: EllipseKernels for scalar sse2 avx2 avx512
+#include "draw/ellipses.hpp"
+#include "draw/polar.hpp"
+#include "simd/vocabulary.hpp"
+
+namespace {
+
+using tessaro::EllipseRow;
+
+constexpr size_t block = 256;
+
+// Work runs in blocks: places in the palette in one loop, which has no memory to fetch and goes by vectors, and
+// the copies in another.
+template <class Place>
+TESSARO_INLINE void copy_places(const EllipseRow& row, const Place& place) {
+  int32_t offsets[block];
+  for (size_t done = 0; done < row.width; done += block) {
+    const size_t n = row.width - done < block ? row.width - done : block;
+    place(done, n, offsets);
+    uint8_t* at = row.at + 4 * done;
+    for (size_t i = 0; i < n; ++i) std::memcpy(at + 4 * i, row.palette + offsets[i], 4);
+  }
+}
+
+void radial(const EllipseRow& row) {
+  const double columns = row.palette_width - 1, v2 = row.v_squared;
+  copy_places(row, [&](size_t done, size_t n, int32_t* offsets) {
+    const double* u2 = row.u_squared + done;
+    for (size_t i = 0; i < n; ++i)
+      offsets[i] = 4 * static_cast<int32_t>((1.0 - __builtin_sqrt(u2[i] + v2)) * columns);
+  });
+}
+
+void polar(const EllipseRow& row) {
+  const double columns = row.palette_width - 1, rows = row.palette_height;
+  const double v = row.v, v2 = row.v_squared;
+  const auto pitch = static_cast<int32_t>(row.palette_pitch);
+  const int32_t last = row.palette_height - 1;
+  copy_places(row, [&](size_t done, size_t n, int32_t* offsets) {
+    const double *u = row.u + done, *u2 = row.u_squared + done;
+    for (size_t i = 0; i < n; ++i) {
+      const auto column = static_cast<int32_t>((1.0 - __builtin_sqrt(u2[i] + v2)) * columns);
+      auto turn = static_cast<int32_t>(polar_fraction(u[i], v) * rows);
+      turn = turn < last ? turn : last;
+      offsets[i] = turn * pitch + 4 * column;
+    }
+  });
+}
+
+}  // namespace
+
+TESSARO_KERNELS(EllipseKernels){.radial = radial, .polar = polar};

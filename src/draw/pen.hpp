@@ -1,0 +1,31 @@
+// The pixel write of the one-colour operations.
+#pragma once
+
+#include "frame/image.hpp"
+#include "pixel/blit.hpp"
+
+namespace tessaro {
+
+// Bits set in the mask keep the image's, clear ones take the colour's.
+struct Pen {
+  uint32_t keep, ink;
+  Pen(uint32_t mask, uint32_t colour) : keep(mask), ink(colour & ~mask) {}
+  void put(uint8_t* at) const { store<uint32_t>(at, (load<uint32_t>(at) & keep) | ink); }
+};
+
+// (to * weight + from * (256 - weight)) >> 8 of each byte.
+inline uint32_t mixed(uint32_t from, uint32_t to, uint32_t weight) {
+  constexpr uint32_t pair = 0x00FF00FF;
+  const uint32_t low = (to & pair) * weight + (from & pair) * (256 - weight);
+  const uint32_t high = (to >> 8 & pair) * weight + (from >> 8 & pair) * (256 - weight);
+  return (low >> 8 & pair) | (high & ~pair);
+}
+
+inline void fill(const Area& area, uint32_t mask, uint32_t colour) {
+  if (mask == 0)
+    kernels<BlitKernels>().fill(area, colour);
+  else
+    kernels<BlitKernels>().masked_fill(area, mask, 0, colour);
+}
+
+}  // namespace tessaro

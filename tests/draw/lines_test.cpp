@@ -1,0 +1,253 @@
+// The lines against walks that take every step, and at coordinates where taking every step is impossible.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <functional>
+
+#include "support/images.hpp"
+
+namespace tessaro::test {
+namespace {
+
+struct Ends {
+  int32_t x0, y0, x1, y1;
+};
+
+int64_t longer(Ends e) { return std::max(std::abs(int64_t{e.x1} - e.x0), std::abs(int64_t{e.y1} - e.y0)); }
+
+// Every step, one after another. late: one step more, and the error terms have to exceed n.
+void walk(Ends e, bool late, const std::function<void(int64_t, int64_t, int64_t)>& visit) {
+  const int64_t n = longer(e), dx = std::abs(int64_t{e.x1} - e.x0), dy = std::abs(int64_t{e.y1} - e.y0);
+  int64_t x = e.x0, y = e.y0, ex = n >> 1, ey = n >> 1;
+  for (int64_t i = 0; i < n + late; ++i) {
+    for (ex += dx; late ? ex > n : ex >= n; ex -= n) x += e.x0 < e.x1 ? 1 : -1;
+    for (ey += dy; late ? ey > n : ey >= n; ey -= n) y += e.y0 < e.y1 ? 1 : -1;
+    visit(x, y, i);
+  }
+}
+
+bool in(Image& image, int64_t x, int64_t y) {
+  return x >= 0 && y >= 0 && x < image.width() && y < image.height();
+}
+uint32_t read(Image& image, int64_t x, int64_t y) {
+  return image.get(static_cast<int32_t>(x), static_cast<int32_t>(y));
+}
+void put(Image& image, int64_t x, int64_t y, uint32_t mask, uint32_t colour) {
+  if (in(image, x, y))
+    image.set(static_cast<int32_t>(x), static_cast<int32_t>(y),
+              (~mask & colour) | (read(image, x, y) & mask));
+}
+
+struct Naive {
+  Image& image;
+  uint32_t mask, colour;
+
+  void line(Ends e) {
+    walk(e, false, [&](int64_t x, int64_t y, int64_t) { put(image, x, y, mask, colour); });
+    put(image, e.x1, e.y1, mask, colour);
+  }
+  void dots(Ends e) {
+    walk(e, false, [&](int64_t x, int64_t y, int64_t) {
+      if (!in(image, x, y)) return;
+      int count = 0;
+      for (auto [a, b] : {std::pair{-1, 0}, {1, 0}, {0, -1}, {0, 1}})
+        count += in(image, x + a, y + b) && read(image, x + a, y + b) == colour;
+      if (count >= 3) put(image, x, y, mask, colour);
+    });
+  }
+  void thick(Ends e, int64_t thickness) {
+    walk(e, false, [&](int64_t x, int64_t y, int64_t) {
+      for (auto [a, b] : {std::pair{1, 0}, {-1, 0}, {0, 1}, {0, -1}}) {
+        int64_t found = 0;
+        for (int64_t k = 1; k <= thickness; ++k) {
+          const int64_t d = thickness + 1 - k, px = x + a * d, py = y + b * d;
+          if (!in(image, px, py)) continue;
+          if (read(image, px, py) == colour) found = k;
+          if (found >= d) put(image, px, py, mask, colour);
+        }
+      }
+    });
+  }
+  void gradation(Image& pair, Ends e) {
+    const double length = longer(e) ? static_cast<double>(longer(e)) : 1.0;
+    walk(e, true, [&](int64_t x, int64_t y, int64_t i) {
+      if (!in(image, x, y)) return;
+      const double t = static_cast<double>(i) / length;
+      const float u = static_cast<float>(1.0 - t);
+      for (int k = 0; k < 4; ++k)
+        image.at(static_cast<int32_t>(x), static_cast<int32_t>(y))[k] =
+            static_cast<uint8_t>(pair.at(1, 0)[k] * t + pair.at(0, 0)[k] * static_cast<double>(u));
+    });
+  }
+  // Coverages in doubles, which hold them exactly for lines of this length.
+  void alpha(Image& pair, Ends e) {
+    if (longer(e) == 0) return;
+    uint32_t c0 = pair.get(0, 0), c1 = pair.get(1, 0);
+    int64_t x0 = e.x0, y0 = e.y0, x1 = e.x1, y1 = e.y1;
+    const bool flat = std::abs(y0 - y1) < std::abs(x0 - x1);
+    if ((flat && x1 < x0) || (!flat && y1 < y0)) std::swap(x0, x1), std::swap(y0, y1), std::swap(c0, c1);
+    const int64_t major = longer(e), minor = std::min(std::abs(x0 - x1), std::abs(y0 - y1));
+    const int64_t s = flat ? (y1 < y0 ? -1 : 1) : (x1 < x0 ? -1 : 1);
+    const auto length = static_cast<double>(major);
+    const float h = static_cast<float>(static_cast<double>(minor) / length * 0.5);
+    const float q = static_cast<float>((static_cast<double>(minor) - static_cast<double>(h)) / length);
+    double ca = 1.0, cb = static_cast<double>(h * 0.5f);
+    int64_t ma = flat ? y0 : x0, mb = ma + s;
+    const auto mix = [](uint32_t d, uint32_t c, uint32_t w) {
+      uint32_t out = 0;
+      for (int k = 0; k < 32; k += 8) out |= (((d >> k & 255) * (256 - w) + (c >> k & 255) * w) >> 8) << k;
+      return out;
+    };
+    for (int64_t i = 0; i <= major; ++i) {
+      const int64_t along = (flat ? x0 : y0) + i;
+      const auto inside = [&](int64_t m) { return flat ? in(image, along, m) : in(image, m, along); };
+      if (inside(ma) && inside(mb)) {
+        const float t = static_cast<float>(static_cast<double>(i) / length);
+        const uint32_t c = mix(c0, c1, static_cast<uint32_t>(t * 256.0f));
+        const double alpha = (c >> 24) * static_cast<double>(0.003921569f);
+        const auto blend = [&](int64_t m, double strength) {
+          const int64_t x = flat ? along : m, y = flat ? m : along;
+          put(image, x, y, 0,
+              mix(read(image, x, y), c, static_cast<uint32_t>(std::min(strength, 1.0) * 256)));
+        };
+        blend(ma, alpha * ca);
+        blend(mb, alpha * cb);
+        if (mb == ma + 2 * s) blend(ma + s, alpha);
+      }
+      if ((ca -= static_cast<double>(q)) < 0) ca += 1, ma += s;
+      if ((cb += static_cast<double>(q)) > 1) cb -= 1, mb += s;
+    }
+  }
+};
+
+void compare_all(Ends e, int32_t thickness, uint32_t seed) {
+  SCOPED_TRACE(::testing::Message() << e.x0 << ',' << e.y0 << " to " << e.x1 << ',' << e.y1 << " thickness "
+                                    << thickness << " seed " << seed);
+  Random random(seed);
+  const int32_t width = random.between(1, 24), height = random.between(1, 18);
+  Image packed(width, height),
+      loose(width, height, random.word() & 1 ? 4 * width + 5 : -(4 * width + 7), seed % 4);
+  Image pair(2, 1);
+  pair.randomize(seed);
+  // Few values, so that strokes of the colour and holes in them occur; partial masks may make the colour appear.
+  const uint32_t colour = 0x00FF10FF, mask = seed % 3 == 0 ? 0x0000FF00 : seed % 3 == 1 ? 0xFF000000 : 0;
+  const uint32_t values[] = {colour, colour, 0x00FF00FF, 0x12345678};
+  for (int32_t y = 0; y < height; ++y)
+    for (int32_t x = 0; x < width; ++x) {
+      const uint32_t v = values[random.word() % (seed % 2 ? 3 : 4)];
+      packed.set(x, y, v);
+      loose.set(x, y, v);
+    }
+  for (Image* image : {&packed, &loose}) {
+    Image want = *image, got = *image;
+    Naive{want, mask, colour}.dots(e);
+    EXPECT_EQ(BBIDotThick(got, e.x0, e.y0, e.x1, e.y1, mask, colour), 0);
+    ASSERT_EQ(got, want) << "BBIDotThick";
+    if (image == &packed) {
+      Naive{want, mask, colour}.thick(e, thickness);
+      EXPECT_EQ(BBILineThick(got, e.x0, e.y0, e.x1, e.y1, mask, colour, thickness), 0);
+    } else {
+      EXPECT_EQ(BBILineThick(got, e.x0, e.y0, e.x1, e.y1, mask, colour, thickness), 1);
+    }
+    ASSERT_EQ(got, want) << "BBILineThick";
+    Naive{want, mask, colour}.line(e);
+    EXPECT_EQ(BBIDrawLine(got, e.x0, e.y0, e.x1, e.y1, mask, colour), 0);
+    ASSERT_EQ(got, want) << "BBIDrawLine";
+    Naive{want, mask, colour}.alpha(pair, e);
+    EXPECT_EQ(BBIDrawAlphaLine(got, pair, e.x0, e.y0, e.x1, e.y1), 0);
+    ASSERT_EQ(got, want) << "BBIDrawAlphaLine";
+    Naive{want, mask, colour}.gradation(pair, e);
+    EXPECT_EQ(BBIDrawGradationLine(got, pair, e.x0, e.y0, e.x1, e.y1), 0);
+    ASSERT_EQ(got, want) << "BBIDrawGradationLine";
+  }
+}
+
+TEST(Lines, EqualWalksThatTakeEveryStep) {
+  Random random(1);
+  for (uint32_t seed = 0; seed < 3000; ++seed) {
+    const int32_t reach = seed % 4 == 0 ? 3 : seed % 4 == 1 ? 30 : seed % 4 == 2 ? 200 : 2000;
+    const auto at = [&] { return random.between(-reach, reach + 20); };
+    Ends e{at(), at(), at(), at()};
+    if (seed % 7 == 0) e.y1 = e.y0;
+    if (seed % 7 == 1) e.x1 = e.x0;
+    if (seed % 7 == 2) e.y1 = e.y0 + random.between(-3, 3);  // long runs on one row
+    compare_all(e, random.between(1, seed % 5 ? 9 : 300), seed);
+    if (HasFatalFailure()) return;
+  }
+}
+
+TEST(Lines, EnterAtTheRightStepFromFarAway) {
+  // Long, but still short enough for the model.
+  Random random(2);
+  for (uint32_t seed = 0; seed < 6; ++seed) {
+    const auto far = [&] { return random.between(-40000, 40000); };
+    const int32_t x0 = far(), y0 = far();
+    compare_all({x0, y0, random.between(-5, 25) * 2 - x0, random.between(-5, 20) * 2 - y0}, 40, seed);
+    if (HasFatalFailure()) return;
+  }
+  // Longer than any model: what is checked is that nothing outside is touched and that it ends soon.
+  Image pair(2, 1);
+  pair.set(0, 0, 0xFF102030);
+  pair.set(1, 0, 0x40A0B0C0);
+  for (const int32_t a : extreme_values)
+    for (const int32_t b : extreme_values)
+      for (const int32_t c : extreme_values) {
+        Image image(9, 7);
+        image.fill(0x00FF10FF);
+        const int32_t d = b ^ c;
+        BBIDrawLine(image, a, b, c, d, 0xFF, 0x11223344);
+        BBIDotThick(image, a, b, c, d, 0, 0x00FF10FF);
+        BBILineThick(image, a, b, c, d, 0, 0x00FF10FF, a);
+        BBIDrawAlphaLine(image, pair, a, b, c, d);
+        BBIDrawGradationLine(image, pair, a, b, c, d);
+      }
+}
+
+TEST(Lines, CrossTheWholeRangeOfCoordinates) {
+  // Through the middle, at 45 degrees and on one row, from one end of the range to the other.
+  Image image(8, 8);
+  image.fill(0);
+  BBIDrawLine(image, INT32_MIN, INT32_MIN, INT32_MAX, INT32_MAX, 0, 7);
+  for (int32_t y = 0; y < 8; ++y)
+    for (int32_t x = 0; x < 8; ++x) EXPECT_EQ(image.get(x, y), x == y ? 7u : 0u);
+  image.fill(0);
+  BBIDrawLine(image, INT32_MAX, 3, INT32_MIN, 3, 0, 7);
+  for (int32_t x = 0; x < 8; ++x) EXPECT_EQ(image.get(x, 3), 7u);
+  Image pair(2, 1);
+  pair.set(0, 0, 0xFF000000);
+  pair.set(1, 0, 0xFFFFFFFF);
+  image.fill(0);
+  BBIDrawGradationLine(image, pair, INT32_MIN, 2, INT32_MAX, 2);
+  BBIDrawAlphaLine(image, pair, INT32_MIN, 4, INT32_MAX, 4);
+  for (int32_t x = 0; x < 8; ++x) {
+    EXPECT_EQ(image.get(x, 2) & 0xFFFFFF, 0x7F7F7Fu);
+    EXPECT_EQ(image.get(x, 4) & 0xFFFFFF, 0x7F7F7Fu);
+  }
+  // Points far away on a row paint what is within their reach.
+  image.fill(0);
+  image.set(3, 5, 9);
+  BBILineThick(image, -2000000000, 5, -50, 5, 0, 9, INT32_MAX);
+  for (int32_t x = 0; x < 8; ++x) EXPECT_EQ(image.get(x, 5), x <= 3 ? 9u : 0u);
+}
+
+TEST(Lines, KeepTheirOddities) {
+  Image image(4, 4), pair(2, 1), narrow(1, 1);
+  image.fill(0);
+  BBIDrawLine(image, 0, 0, 3, 0, 0, 5);
+  EXPECT_EQ(image.get(0, 0), 0u);  // the start is not drawn
+  EXPECT_EQ(image.get(3, 0), 5u);
+  EXPECT_EQ(BBIDrawGradationLine(image, narrow, 0, 0, 3, 0), 1);
+  EXPECT_EQ(BBIDrawAlphaLine(image, narrow, 0, 0, 0, 0), 1);
+  EXPECT_EQ(BBILineThick(image, 0, 0, 3, 0, 0, 5, 0), 1);
+  EXPECT_EQ(BBILineThick(image, 0, 0, 0, 0, 0, 5, 1), 0);
+  pair.fill(0xFFFFFFFF);
+  Image before = image;
+  BBIDrawAlphaLine(image, pair, 0, 3, 3, 3);  // the second track would lie below the image
+  EXPECT_EQ(image, before);
+  BBIDrawAlphaLine(image, pair, 0, 1, 3, 1);
+  EXPECT_EQ(image.get(2, 1), 0xFFFFFFFFu);
+  EXPECT_EQ(image.get(2, 2), 0u);
+}
+
+}  // namespace
+}  // namespace tessaro::test
