@@ -87,6 +87,64 @@ TESSARO_API int32_t TESSARO_CALL BBIExpandChooseBlt(
     uint32_t level_high, uint32_t keep_mask, uint32_t mask, uint32_t color, uint32_t invert_bits,
     int32_t use_source_alpha, int32_t add_color, int32_t add_alpha, int32_t source_is_base);
 
+/* ---- Interpolated stretching
+ *
+ * Rectangles are clipped as for the scaled blits.
+ *
+ * Bilinear sampling works in 1 / 4096 of a pixel. Along each axis, destination pixel i of the clipped rectangle lies at
+ * i * step + start; when reducing (dw < sw) step = (sw - 2) * 4096 / (dw - 1) and start = 2048, otherwise
+ * step = (sw - 1) * 4096 / dw and start = (sw - 1) * 2048 / dw, truncated. Position >> 12 is the left (upper) source pixel,
+ * position >> 4 & 255 the weight of its right (lower) neighbour. The sample is the mix of the two rows' mixes, each
+ * truncated.
+ *
+ * BBILinearBlt and BBILinearRender take the nearest sample instead, as BBIExpandBlt does, when a clipped size is below 2, when
+ * the sizes are equal, and when the scale exceeds 16 in either direction on either axis.
+ *
+ * Where they interpolate, they take the rows of both images to follow one another without a gap, 4 * width bytes apart,
+ * whatever the pitch says: callers give images whose pitch is 4 * width. With a larger pitch the rows meant and the rows
+ * used differ. With a smaller or a negative one, 1 is returned and nothing changes as soon as a row of the clipped rectangles
+ * so addressed would lie outside the memory that the image's own rows span. */
+
+/* Stretches with bilinear interpolation; the sample replaces d. */
+TESSARO_API int32_t TESSARO_CALL BBILinearBlt(ImageRecord* dst, const ImageRecord* src, int32_t dx,
+                                              int32_t dy, int32_t dw, int32_t dh, int32_t sx, int32_t sy,
+                                              int32_t sw, int32_t sh);
+
+/* Brings each sample s into d by a table of weights and a mode. a = table[alpha of s].
+ *   table        256 weights of 0..256, for example from BBIAlphaTableCreate; larger ones give unspecified colours. Read
+ *                once, before the first pixel is written.
+ *   mode         1: d = min(d + (s * a >> 8), 255) per channel, alpha included
+ *                2: tints s, then mixes it: the colours of s become mix(s, tint_color, table[alpha of tint_color]), its alpha
+ *                   stays; d = mix(d, s, a)
+ *                3: tints s as 2 and adds it as 1
+ *                others: d = mix(d, s, a)
+ *   smooth       0: always the nearest sample */
+TESSARO_API int32_t TESSARO_CALL BBILinearRender(ImageRecord* dst, const ImageRecord* src, int32_t dx,
+                                                 int32_t dy, int32_t dw, int32_t dh, int32_t sx, int32_t sy,
+                                                 int32_t sw, int32_t sh, const uint32_t* table, int32_t mode,
+                                                 int32_t smooth, uint32_t tint_color);
+
+/* Fills a table of 256 weights: with by_alpha the alpha weights of the opacity, otherwise its constant weight throughout.
+ * An opacity below 0 or not a number counts as 0, above 1 as 1. The table needs no alignment. */
+TESSARO_API void TESSARO_CALL BBIAlphaTableCreate(uint32_t* table, float opacity, int32_t by_alpha);
+
+/* Resizes all of src to all of dst with a cubic kernel: k(x) = 1 - 2x^2 + x^3 for x < 1, 4 - 8x + 5x^2 - x^3 for x < 2. The
+ * corners of the images coincide: destination column x lies at x * (src width - 1) / (dst width - 1), and a destination of
+ * one column or row shows the first. Of the 4 x 4 taps around a position those outside the source are transparent black;
+ * a tap's weight is the product of its column's and its row's, single precision, and what is negative counts as 0 - so a
+ * negative lobe acts only where it meets another, at the corners. The taps are merged in pairs, neighbours first, with
+ * truncated mixes. Returns 1 when an image has no pixels. */
+TESSARO_API int32_t TESSARO_CALL BBILinear(ImageRecord* dst, const ImageRecord* src);
+
+/* Experimental: the nearest sample, averaged with neighbours that follow one another along a fixed spiral of up to 20 places;
+ * each is averaged in as (v + p) >> 1 per channel, so later ones weigh more. The number of neighbours grows with the
+ * reduction: (sw / dw + sh / dh + 5) & ~3, integer divisions. A neighbour at (x, y) takes part only if
+ * sx < x < sw and sy < y < sh: the clipped sizes serve as limits of its coordinates. Rows of src are 4 * (pitch / 4) bytes
+ * apart. */
+TESSARO_API int32_t TESSARO_CALL BBILinearBltTest(ImageRecord* dst, const ImageRecord* src, int32_t dx,
+                                                  int32_t dy, int32_t dw, int32_t dh, int32_t sx, int32_t sy,
+                                                  int32_t sw, int32_t sh);
+
 /* ---- Depth and flip
  *
  * Combine a w x h rectangle of src at (sx, sy) with dst at (dx, dy), of the same size. The rectangle is clipped against dst

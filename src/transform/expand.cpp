@@ -61,21 +61,12 @@ using namespace tessaro;
 
 namespace {
 
-// Gives a clipped call room for its columns and runs it. Kernels do without where there is none.
-template <class Run>
-void with_columns(const ImageView& dst, const ImageView& src, const ScaledBlit& rect, Run run) {
-  Stretch n = stretch_of(dst, src, rect);
-  Columns columns(columns_needed(n));
-  n.columns = columns.data();
-  run(n);
-}
-
 // Clips, checks the opacity and runs the kernel that `run` picks.
 template <class Run>
 int32_t expand(ImageRecord* dst, const ImageRecord* src, ScaledBlit rect, float opacity, Run run) {
   const ImageView d = ImageView::of(dst), s = ImageView::of(src);
   if (!clip_stretch(d, s, rect) || !usable_opacity(opacity)) return status_nothing;
-  with_columns(d, s, rect, [&](const Stretch& n) { run(n, opacity); });
+  run_stretch(d, s, rect, [&](const Stretch& n) { run(n, opacity); });
   return status_done;
 }
 
@@ -134,7 +125,7 @@ int32_t TESSARO_CALL BBIExpandColorBlt(ImageRecord* dst, const ImageRecord* src,
   const uint32_t weight = constant_weight(opacity), factor = by_alpha ? alpha_factor(opacity) : 0;
   if (mask == 0xFFFFFFFF) {  // nothing of the gradient would be seen
     const Choice choice = {.keep = keep_mask, .by_alpha = by_alpha, .weight = weight, .factor = factor};
-    with_columns(d, s, rect, [&](const Stretch& n) { kernels<ExpandKernels>().choose(n, choice); });
+    run_stretch(d, s, rect, [&](const Stretch& n) { kernels<ExpandKernels>().choose(n, choice); });
     return status_done;
   }
   const auto width = static_cast<int32_t>(rect.dw);
@@ -151,7 +142,7 @@ int32_t TESSARO_CALL BBIExpandColorBlt(ImageRecord* dst, const ImageRecord* src,
                              .weight = weight,
                              .factor = factor,
                              .column_weights = weights.data()};
-  with_columns(d, s, rect, [&](const Stretch& n) { kernels<ExpandKernels>().gradient(n, gradient); });
+  run_stretch(d, s, rect, [&](const Stretch& n) { kernels<ExpandKernels>().gradient(n, gradient); });
   return status_done;
 }
 
@@ -176,7 +167,7 @@ int32_t TESSARO_CALL BBIExpandChooseBlt(ImageRecord* dst, const ImageRecord* src
                    .weight = weight};
   const auto choose = [&] {
     if (choice.by_alpha) choice.factor = alpha_factor(opacity);
-    with_columns(d, s, rect, [&](const Stretch& n) { kernels<ExpandKernels>().choose(n, choice); });
+    run_stretch(d, s, rect, [&](const Stretch& n) { kernels<ExpandKernels>().choose(n, choice); });
   };
 
   if (saturation == 1.0f && (level_low & 0x00FFFFFF) == 0 && (level_high & 0x00FFFFFF) == 0x00FFFFFF &&

@@ -30,8 +30,13 @@ bool clip_stretch(const ImageView& dst, const ImageView& src, ScaledBlit& rect);
 Stretch stretch_of(const ImageView& dst, const ImageView& src, const ScaledBlit& rect);
 // Small rectangles stay off the heap.
 using Columns = ScratchArray<int32_t, 256>;
-inline size_t columns_needed(const Stretch& n) {
-  return n.dw == n.sw || n.shared ? 0 : static_cast<size_t>(n.dw);
+// Gives a clipped call room for its columns, where they are of use, and runs it.
+template <class Run>
+void run_stretch(const ImageView& dst, const ImageView& src, const ScaledBlit& rect, Run run) {
+  Stretch n = stretch_of(dst, src, rect);
+  Columns columns(n.dw == n.sw || n.shared ? 0 : static_cast<size_t>(n.dw));
+  n.columns = columns.data();
+  run(n);
 }
 
 inline constexpr int32_t status_color_filled = 0x201;
