@@ -104,7 +104,75 @@ TESSARO_API int32_t TESSARO_CALL BBIBltShiftBlock(ImageRecord* dst, const ImageR
                                                   int32_t dy, int32_t cx, int32_t cy, int32_t sx, int32_t sy);
 
 /* ---- Pixel formats
- * ---------------------------------------------------------------------------------------------- */
+ * ----------------------------------------------------------------------------------------------
+ *
+ * Between 32-bit words 0xAARRGGBB and packed layouts. 16-bit words are little-endian. A code names a format:
+ *
+ *   code  bytes  packed as                                                       back to a word
+ *   8888  4      the word                                                        the word
+ *    888  3      blue, green, red                                                alpha 0
+ *    565  2      (R >> 3) << 11 | (G >> 2) << 5 | B >> 3                         alpha 0
+ *    555  2      (R >> 3) << 10 | (G >> 3) << 5 | B >> 3                         alpha 0, bit 15 ignored
+ *   1555  2      the same, and bit 15 is the top bit of alpha                    alpha 0x80 or 0
+ *   4444  2      (A >> 4) << 12 | (R >> 4) << 8 | (G >> 4) << 4 | B >> 4
+ *
+ * Packing drops low bits without rounding; unpacking leaves them 0, so that white comes back from 565 as
+ * 0x00F8FCF8.
+ *
+ * Buffers need no alignment, and exactly the bytes of count pixels are read and written. They may overlap:
+ * results are those of one pixel after another. */
+
+/* Fill all of an image from a bottom-up bitmap: row y (0 = top) comes from bits + (height - 1 - y) * stride;
+ * stride, in bytes, may be anything, zero and negative included. An image without pixels is left alone. Always
+ * 0.
+ *   from1: the palette's two words for 0 and 1, eight pixels a byte, the first in the most significant bit;
+ *          every row starts with a new byte
+ *   from8: a palette of 256 words, a byte a pixel
+ *   from24: blue, green, red; alpha becomes 0
+ *   from32: whole words */
+TESSARO_API int32_t TESSARO_CALL BBIBltTo32from1(ImageRecord* image, const void* bits,
+                                                 const uint32_t* palette, int32_t stride);
+TESSARO_API int32_t TESSARO_CALL BBIBltTo32from8(ImageRecord* image, const void* bits,
+                                                 const uint32_t* palette, int32_t stride);
+TESSARO_API int32_t TESSARO_CALL BBIBltTo32from24(ImageRecord* image, const void* bits, int32_t stride);
+TESSARO_API int32_t TESSARO_CALL BBIBltTo32from32(ImageRecord* image, const void* bits, int32_t stride);
+
+/* Unpacks count pixels of a format. Always 0; an unknown format or a count below 1 does nothing. */
+TESSARO_API int32_t TESSARO_CALL BBIBltToBBIGet(uint32_t* dst, const void* src, int32_t count,
+                                                int32_t format);
+
+/* Pack count pixels. As444 packs 4444. Always 0; a count below 1 does nothing. */
+TESSARO_API int32_t TESSARO_CALL BBIBltTo24As888(void* dst, const uint32_t* src, int32_t count);
+TESSARO_API int32_t TESSARO_CALL BBIBltTo16As444(void* dst, const uint32_t* src, int32_t count);
+TESSARO_API int32_t TESSARO_CALL BBIBltTo16As565(void* dst, const uint32_t* src, int32_t count);
+TESSARO_API int32_t TESSARO_CALL BBIBltTo16As555(void* dst, const uint32_t* src, int32_t count);
+TESSARO_API int32_t TESSARO_CALL BBIBltTo16As1555(void* dst, const uint32_t* src, int32_t count);
+
+/* One byte a pixel: the blue byte (no luminance is formed; a grey picture gives its grey), or the alpha. */
+TESSARO_API int32_t TESSARO_CALL BBIBltTo8AsGray(void* dst, const uint32_t* src, int32_t count);
+TESSARO_API int32_t TESSARO_CALL BBIBltTo8AsAlpha(void* dst, const uint32_t* src, int32_t count);
+
+/* One bit a pixel, 1 where the blue byte is at least 128; the first of eight in bit 7. The unused low bits of
+ * the last byte are 0. */
+TESSARO_API int32_t TESSARO_CALL BBIBltTo1(void* dst, const uint32_t* src, int32_t count);
+
+/* Blend, then pack. k = trunc(factor * 256) with factor kept within 0..1, not a number counting as 0; each
+ * byte, alpha included, becomes (p * w + q * (256 - w)) >> 8. dst has the size that the format needs.
+ *   BBIBltToX    source with weight k, colour with the rest; always 0, an unknown format writes nothing
+ *   BBIBltToXF   b with weight k, a with the rest; an unknown format returns 1, whatever the count
+ *   BBIBltToF    the same with a saturation and lookup tables before it, in this order:
+ *     saturation, unless exactly 1: kept within 0..256 (not a number counts as 0), m = trunc(saturation * 1024);
+ *       each colour c becomes (c * m >> 10) + ((B + G + R) * ((1024 - m) / 3) >> 10), kept within 0..255;
+ *       0 gives a grey a little below the mean
+ *     tables, where use_table is not 0: 768 bytes, 256 each for blue, green and red
+ *     the blend with colour as in BBIBltToX, the packing; an unknown format returns 1, whatever the count */
+TESSARO_API int32_t TESSARO_CALL BBIBltToX(void* dst, const uint32_t* src, int32_t count, int32_t format,
+                                           uint32_t colour, float factor);
+TESSARO_API int32_t TESSARO_CALL BBIBltToXF(void* dst, const uint32_t* a, const uint32_t* b, int32_t count,
+                                            int32_t format, float factor);
+TESSARO_API int32_t TESSARO_CALL BBIBltToF(void* dst, const uint32_t* src, int32_t count, int32_t format,
+                                           uint32_t colour, float factor, float saturation, int32_t use_table,
+                                           const void* table);
 
 /* ---- Whole-image operations
  * ------------------------------------------------------------------------------------- */

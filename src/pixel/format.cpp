@@ -1,0 +1,178 @@
+#include "pixel/format.hpp"
+
+#include "frame/clip.hpp"
+#include "tessaro/tessaro.h"
+
+using namespace tessaro;
+
+namespace tessaro {
+
+PixelFormat format_of(int32_t code) {
+  switch (code) {
+    case 8888:
+      return format_8888;
+    case 888:
+      return format_888;
+    case 565:
+      return format_565;
+    case 555:
+      return format_555;
+    case 1555:
+      return format_1555;
+    case 4444:
+      return format_4444;
+    default:
+      return format_count;
+  }
+}
+
+}  // namespace tessaro
+
+namespace {
+
+const FormatKernels& rows() { return kernels<FormatKernels>(); }
+uint8_t* bytes(void* at) { return static_cast<uint8_t*>(at); }
+const uint8_t* bytes(const void* at) { return static_cast<const uint8_t*>(at); }
+
+int32_t run(void* dst, const void* src, int32_t count, FormatKernels::Run kernel) {
+  if (count > 0) kernel(bytes(dst), bytes(src), static_cast<size_t>(count));
+  return status_done;
+}
+
+// Calls row(dst, src, width) for every row of an image that a bottom-up buffer fills.
+template <class Row>
+int32_t fill_bottom_up(ImageRecord* image, const void* bits, int32_t stride, const Row& row) {
+  const ImageView view = ImageView::of(image);
+  if (view.width < 1) return status_done;
+  for (int32_t y = 0; y < view.height; ++y)
+    row(view.at(0, y), bytes(bits) + static_cast<ptrdiff_t>(view.height - 1 - y) * stride,
+        static_cast<size_t>(view.width));
+  return status_done;
+}
+
+// A blend factor as a weight of 256.
+uint32_t weight_of(float factor) {
+  return !(factor >= 0.0f) ? 0 : factor > 1.0f ? 256 : static_cast<uint32_t>(trunc32(factor * 256.0f));
+}
+
+bool meet(const void* a, size_t a_bytes, const void* b, size_t b_bytes) {
+  const auto x = reinterpret_cast<uintptr_t>(a), y = reinterpret_cast<uintptr_t>(b);
+  return x < y ? y - x < a_bytes : x - y < b_bytes;
+}
+
+}  // namespace
+
+extern "C" {
+
+int32_t TESSARO_CALL BBIBltTo32from1(ImageRecord* image, const void* bits, const uint32_t* palette,
+                                     int32_t stride) {
+  return fill_bottom_up(image, bits, stride, [palette](uint8_t* dst, const uint8_t* src, size_t width) {
+    rows().from_bits(dst, src, width, bytes(static_cast<const void*>(palette)));
+  });
+}
+
+int32_t TESSARO_CALL BBIBltTo32from8(ImageRecord* image, const void* bits, const uint32_t* palette,
+                                     int32_t stride) {
+  return fill_bottom_up(image, bits, stride, [palette](uint8_t* dst, const uint8_t* src, size_t width) {
+    rows().from_bytes(dst, src, width, bytes(static_cast<const void*>(palette)));
+  });
+}
+
+int32_t TESSARO_CALL BBIBltTo32from24(ImageRecord* image, const void* bits, int32_t stride) {
+  return fill_bottom_up(image, bits, stride, rows().from[format_888]);
+}
+
+int32_t TESSARO_CALL BBIBltTo32from32(ImageRecord* image, const void* bits, int32_t stride) {
+  return fill_bottom_up(image, bits, stride, rows().from[format_8888]);
+}
+
+int32_t TESSARO_CALL BBIBltToBBIGet(uint32_t* dst, const void* src, int32_t count, int32_t format) {
+  const PixelFormat f = format_of(format);
+  return f == format_count ? status_done : run(dst, src, count, rows().from[f]);
+}
+
+int32_t TESSARO_CALL BBIBltTo24As888(void* dst, const uint32_t* src, int32_t count) {
+  return run(dst, src, count, rows().to[format_888]);
+}
+int32_t TESSARO_CALL BBIBltTo16As444(void* dst, const uint32_t* src, int32_t count) {
+  return run(dst, src, count, rows().to[format_4444]);
+}
+int32_t TESSARO_CALL BBIBltTo16As565(void* dst, const uint32_t* src, int32_t count) {
+  return run(dst, src, count, rows().to[format_565]);
+}
+int32_t TESSARO_CALL BBIBltTo16As555(void* dst, const uint32_t* src, int32_t count) {
+  return run(dst, src, count, rows().to[format_555]);
+}
+int32_t TESSARO_CALL BBIBltTo16As1555(void* dst, const uint32_t* src, int32_t count) {
+  return run(dst, src, count, rows().to[format_1555]);
+}
+int32_t TESSARO_CALL BBIBltTo8AsGray(void* dst, const uint32_t* src, int32_t count) {
+  return run(dst, src, count, rows().to_gray);
+}
+int32_t TESSARO_CALL BBIBltTo8AsAlpha(void* dst, const uint32_t* src, int32_t count) {
+  return run(dst, src, count, rows().to_alpha);
+}
+int32_t TESSARO_CALL BBIBltTo1(void* dst, const uint32_t* src, int32_t count) {
+  return run(dst, src, count, rows().to_bits);
+}
+
+int32_t TESSARO_CALL BBIBltToX(void* dst, const uint32_t* src, int32_t count, int32_t format, uint32_t colour,
+                               float factor) {
+  const PixelFormat f = format_of(format);
+  if (f != format_count && count > 0)
+    rows().mixed_with_colour[f](bytes(dst), bytes(static_cast<const void*>(src)), static_cast<size_t>(count),
+                                colour, weight_of(factor));
+  return status_done;
+}
+
+int32_t TESSARO_CALL BBIBltToXF(void* dst, const uint32_t* a, const uint32_t* b, int32_t count,
+                                int32_t format, float factor) {
+  const PixelFormat f = format_of(format);
+  if (f == format_count) return status_nothing;
+  if (count > 0)
+    rows().mixed[f](bytes(dst), bytes(static_cast<const void*>(a)), bytes(static_cast<const void*>(b)),
+                    static_cast<size_t>(count), weight_of(factor));
+  return status_done;
+}
+
+int32_t TESSARO_CALL BBIBltToF(void* dst, const uint32_t* src, int32_t count, int32_t format, uint32_t colour,
+                               float factor, float saturation, int32_t use_table, const void* table) {
+  static constexpr size_t format_bytes[format_count] = {4, 3, 2, 2, 2, 2};
+  const PixelFormat f = format_of(format);
+  if (f == format_count) return status_nothing;
+  if (count < 1) return status_done;
+
+  const bool saturate = saturation != 1.0f;
+  const float g = !(saturation >= 0.0f) ? 0.0f : saturation > 256.0f ? 256.0f : saturation;
+  const int32_t part = trunc32(g * 1024.0f);
+  const SaturationParts parts{part, (1024 - part) / 3};
+  const uint32_t weight = weight_of(factor);
+  const FormatKernels& k = rows();
+
+  auto* to = bytes(dst);
+  auto* from = bytes(static_cast<const void*>(src));
+  auto left = static_cast<size_t>(count);
+  if (!saturate && !use_table) {
+    k.mixed_with_colour[f](to, from, left, colour, weight);
+    return status_done;
+  }
+  // Through a piece of memory that stays in cache; pixel by pixel where a write may reach what is still to be
+  // read.
+  uint8_t piece[4 * 512];
+  const size_t whole = left * format_bytes[f];
+  const bool apart = !meet(to, whole, from, 4 * left) && !(use_table && meet(to, whole, table, 768));
+  const size_t most = apart ? 512 : 1;
+  while (left > 0) {
+    const size_t n = left < most ? left : most;
+    const uint8_t* at = from;
+    if (saturate) k.saturated(piece, at, n, parts), at = piece;
+    if (use_table) k.looked_up(piece, at, n, bytes(table)), at = piece;
+    k.mixed_with_colour[f](to, at, n, colour, weight);
+    left -= n;
+    from += 4 * n;
+    to += n * format_bytes[f];
+  }
+  return status_done;
+}
+
+}  // extern "C"

@@ -1,0 +1,284 @@
+// kernels: FormatKernels for scalar sse2 avx2 avx512
+#include "pixel/format.hpp"
+
+#include "pixel/narrow.hpp"
+#include "simd/rules.hpp"
+
+namespace {
+
+// Bits first..first + count - 1 of every pixel, moved down to bit `to`.
+template <int first, int count, int to, class P>
+TESSARO_INLINE P field_down(P a) {
+  return shr<first - to>(a) & P::splat(((1u << count) - 1) << to);
+}
+// The same upwards.
+template <int first, int count, int to, class P>
+TESSARO_INLINE P field_up(P a) {
+  return shl<to - first>(a & P::splat(((1u << count) - 1) << first));
+}
+
+// One struct a format: encode gives the packed value in the lower bytes of each pixel, decode takes it from there.
+struct As8888 {
+  static constexpr size_t bytes = 4;
+  template <class P>
+  TESSARO_INLINE static P encode(P a) {
+    return a;
+  }
+  template <class P>
+  TESSARO_INLINE static P decode(P v) {
+    return v;
+  }
+};
+struct As888 {
+  static constexpr size_t bytes = 3;
+  template <class P>
+  TESSARO_INLINE static P encode(P a) {
+    return a;
+  }
+  template <class P>
+  TESSARO_INLINE static P decode(P v) {
+    return v;
+  }
+};
+struct As565 {
+  static constexpr size_t bytes = 2;
+  template <class P>
+  TESSARO_INLINE static P encode(P a) {
+    return field_down<3, 5, 0>(a) | field_down<10, 6, 5>(a) | field_down<19, 5, 11>(a);
+  }
+  template <class P>
+  TESSARO_INLINE static P decode(P v) {
+    return field_up<0, 5, 3>(v) | field_up<5, 6, 10>(v) | field_up<11, 5, 19>(v);
+  }
+};
+struct As555 {
+  static constexpr size_t bytes = 2;
+  template <class P>
+  TESSARO_INLINE static P encode(P a) {
+    return field_down<3, 5, 0>(a) | field_down<11, 5, 5>(a) | field_down<19, 5, 10>(a);
+  }
+  template <class P>
+  TESSARO_INLINE static P decode(P v) {
+    return field_up<0, 5, 3>(v) | field_up<5, 5, 11>(v) | field_up<10, 5, 19>(v);
+  }
+};
+struct As1555 {
+  static constexpr size_t bytes = 2;
+  template <class P>
+  TESSARO_INLINE static P encode(P a) {
+    return As555::encode(a) | field_down<31, 1, 15>(a);
+  }
+  template <class P>
+  TESSARO_INLINE static P decode(P v) {
+    return As555::decode(v) | field_up<15, 1, 31>(v);
+  }
+};
+struct As4444 {
+  static constexpr size_t bytes = 2;
+  template <class P>
+  TESSARO_INLINE static P encode(P a) {
+    return field_down<4, 4, 0>(a) | field_down<12, 4, 4>(a) | field_down<20, 4, 8>(a) |
+           field_down<28, 4, 12>(a);
+  }
+  template <class P>
+  TESSARO_INLINE static P decode(P v) {
+    return field_up<0, 4, 4>(v) | field_up<4, 4, 12>(v) | field_up<8, 4, 20>(v) | field_up<12, 4, 28>(v);
+  }
+};
+struct AsGray {  // hosts rely on the blue byte, not on a mean
+  static constexpr size_t bytes = 1;
+  template <class P>
+  TESSARO_INLINE static P encode(P a) {
+    return a & P::splat(255);
+  }
+};
+struct AsAlpha {
+  static constexpr size_t bytes = 1;
+  template <class P>
+  TESSARO_INLINE static P encode(P a) {
+    return shr<24>(a);
+  }
+};
+
+// True where a block of pixels may be read before its first one is written: the runs do not meet, or every
+// write stays behind the reads still to come.
+TESSARO_INLINE bool may_read_ahead(const uint8_t* dst, size_t dst_bytes, const uint8_t* src, size_t src_bytes,
+                                   size_t count) {
+  const auto d = reinterpret_cast<uintptr_t>(dst), s = reinterpret_cast<uintptr_t>(src);
+  if (d <= s && dst_bytes <= src_bytes) return true;
+  return d < s ? s - d >= dst_bytes * count : d - s >= src_bytes * count;
+}
+
+template <class Format>
+TESSARO_INLINE void write_block(uint8_t* dst, Px a, Px b, Px c, Px d) {
+  a = Format::encode(a), b = Format::encode(b), c = Format::encode(c), d = Format::encode(d);
+  if constexpr (Format::bytes == 4) {
+    a.store(dst);
+    b.store(dst + 4 * Px::lanes);
+    c.store(dst + 8 * Px::lanes);
+    d.store(dst + 12 * Px::lanes);
+  } else if constexpr (Format::bytes == 3) {
+    store_triples(dst, a, b, c, d);
+  } else if constexpr (Format::bytes == 2) {
+    store_words(dst, a, b, c, d);
+  } else {
+    store_bytes(dst, a, b, c, d);
+  }
+}
+
+// read(P{}, x, n) gives the pixels from number x on, of which n are there.
+template <class Format, class Read>
+TESSARO_INLINE void encode_run(uint8_t* dst, size_t count, bool blocks, const Read& read) {
+  constexpr size_t lanes = Px::lanes, block = 4 * lanes;
+  size_t x = 0;
+  if (!blocks || block == 4) {
+    for (; x < count; ++x)
+      store_one<Format::bytes>(dst + Format::bytes * x, Format::encode(read(One{}, x, 1)));
+    return;
+  }
+  for (; x + block <= count; x += block)
+    write_block<Format>(dst + Format::bytes * x, read(Px{}, x, lanes), read(Px{}, x + lanes, lanes),
+                        read(Px{}, x + 2 * lanes, lanes), read(Px{}, x + 3 * lanes, lanes));
+  if (const size_t rest = count - x) {
+    const auto some = [&](size_t at) {
+      return at >= rest ? Px::splat(0) : read(Px{}, x + at, rest - at < lanes ? rest - at : lanes);
+    };
+    uint8_t end[Format::bytes * block];
+    write_block<Format>(end, some(0), some(lanes), some(2 * lanes), some(3 * lanes));
+    std::memcpy(dst + Format::bytes * x, end, Format::bytes * rest);
+  }
+}
+
+// Lanes known at compile time to be all there are loaded whole.
+template <class P>
+TESSARO_INLINE P load_some(const uint8_t* at, size_t n) {
+  return n == P::lanes ? P::load(at) : P::load(at, n);
+}
+
+template <class Format>
+void encode(uint8_t* dst, const uint8_t* src, size_t count) {
+  encode_run<Format>(dst, count, may_read_ahead(dst, Format::bytes, src, 4, count),
+                     [src]<class P>(P, size_t x, size_t n) { return load_some<P>(src + 4 * x, n); });
+}
+
+template <class Format>
+void encode_mixed_with_colour(uint8_t* dst, const uint8_t* src, size_t count, uint32_t colour,
+                              uint32_t weight) {
+  encode_run<Format>(
+      dst, count, may_read_ahead(dst, Format::bytes, src, 4, count), [=]<class P>(P, size_t x, size_t n) {
+        using H = typename P::Half;
+        return mix(P::splat(colour), load_some<P>(src + 4 * x, n), H::splat(weight), H::splat(256 - weight));
+      });
+}
+
+template <class Format>
+void encode_mixed(uint8_t* dst, const uint8_t* a, const uint8_t* b, size_t count, uint32_t weight) {
+  encode_run<Format>(
+      dst, count,
+      may_read_ahead(dst, Format::bytes, a, 4, count) && may_read_ahead(dst, Format::bytes, b, 4, count),
+      [=]<class P>(P, size_t x, size_t n) {
+        using H = typename P::Half;
+        return mix(load_some<P>(a + 4 * x, n), load_some<P>(b + 4 * x, n), H::splat(weight),
+                   H::splat(256 - weight));
+      });
+}
+
+void saturated(uint8_t* dst, const uint8_t* src, size_t count, tessaro::SaturationParts parts) {
+  const Saturate<Px> many{parts.channel_part, parts.sum_part};
+  const Saturate<One> one{parts.channel_part, parts.sum_part};
+  encode_run<As8888>(dst, count,
+                     parts.channel_part <= saturation_limit && may_read_ahead(dst, 4, src, 4, count),
+                     [=]<class P>(P, size_t x, size_t n) {
+                       if constexpr (P::lanes == 1)
+                         return one(P::load(src + 4 * x));
+                       else
+                         return many(load_some<P>(src + 4 * x, n));
+                     });
+}
+
+template <class Format, class P>
+TESSARO_INLINE P decode_at(const uint8_t* src) {
+  if constexpr (Format::bytes == 4)
+    return P::load(src);
+  else if constexpr (Format::bytes == 3)
+    return Format::decode(load_triples<P>(src));
+  else
+    return Format::decode(load_words<P>(src));
+}
+
+template <class Format>
+void decode(uint8_t* dst, const uint8_t* src, size_t count) {
+  constexpr size_t lanes = Px::lanes, bytes = Format::bytes;
+  size_t x = 0;
+  if (lanes == 1 || !may_read_ahead(dst, 4, src, bytes, count)) {
+    for (; x < count; ++x) decode_at<Format, One>(src + bytes * x).store(dst + 4 * x);
+    return;
+  }
+  for (; x + lanes <= count; x += lanes) decode_at<Format, Px>(src + bytes * x).store(dst + 4 * x);
+  if (const size_t rest = count - x) {
+    uint8_t end[4 * lanes] = {};
+    std::memcpy(end, src + bytes * x, bytes * rest);
+    decode_at<Format, Px>(end).store(dst + 4 * x, rest);
+  }
+}
+
+// Packs whole blocks and returns how many pixels that were: a multiple of eight.
+template <class P>
+TESSARO_INLINE size_t blocks_to_bits(uint8_t* dst, const uint8_t* src, size_t count) {
+  size_t x = 0;
+  if constexpr (constexpr size_t lanes = P::lanes; lanes > 1)
+    for (; x + 4 * lanes <= count; x += 4 * lanes) {
+      const auto blue = [&](size_t at) { return AsGray::encode(P::load(src + 4 * (x + at))); };
+      store_bits(dst + x / 8, blue(0), blue(lanes), blue(2 * lanes), blue(3 * lanes));
+    }
+  return x;
+}
+
+void to_bits(uint8_t* dst, const uint8_t* src, size_t count) {
+  size_t x = may_read_ahead(dst, 1, src, 4, count) ? blocks_to_bits<Px>(dst, src, count) : 0;
+  for (; x < count; x += 8) {
+    const size_t rest = count - x < 8 ? count - x : 8;
+    uint32_t bits = 0;
+    for (size_t i = 0; i < rest; ++i) bits |= (src[4 * (x + i)] & 128u) >> i;
+    dst[x / 8] = static_cast<uint8_t>(bits);
+  }
+}
+
+void from_bits(uint8_t* dst, const uint8_t* src, size_t count, const uint8_t* palette) {
+  for (size_t x = 0; x < count; x += 8) {
+    const uint32_t bits = src[x / 8];
+    const size_t rest = count - x < 8 ? count - x : 8;
+    for (size_t i = 0; i < rest; ++i) std::memcpy(dst + 4 * (x + i), palette + 4 * (bits >> (7 - i) & 1), 4);
+  }
+}
+
+void from_bytes(uint8_t* dst, const uint8_t* src, size_t count, const uint8_t* palette) {
+  for (size_t x = 0; x < count; ++x) std::memcpy(dst + 4 * x, palette + 4 * src[x], 4);
+}
+
+void looked_up(uint8_t* dst, const uint8_t* src, size_t count, const uint8_t* table) {
+  for (size_t x = 0; x < count; ++x) {
+    const uint32_t v = One::load(src + 4 * x).v;
+    One{table[v & 255] | static_cast<uint32_t>(table[256 + (v >> 8 & 255)]) << 8 |
+        static_cast<uint32_t>(table[512 + (v >> 16 & 255)]) << 16 | (v & 0xFF000000)}
+        .store(dst + 4 * x);
+  }
+}
+
+}  // namespace
+
+#define TESSARO_EACH_FORMAT(f) \
+  { f<As8888>, f<As888>, f<As565>, f<As555>, f<As1555>, f<As4444> }
+TESSARO_KERNELS(FormatKernels){
+    .to_gray = encode<AsGray>,
+    .to_alpha = encode<AsAlpha>,
+    .to_bits = to_bits,
+    .to = TESSARO_EACH_FORMAT(encode),
+    .from = TESSARO_EACH_FORMAT(decode),
+    .mixed_with_colour = TESSARO_EACH_FORMAT(encode_mixed_with_colour),
+    .mixed = TESSARO_EACH_FORMAT(encode_mixed),
+    .saturated = saturated,
+    .from_bits = from_bits,
+    .from_bytes = from_bytes,
+    .looked_up = looked_up,
+};
