@@ -127,7 +127,7 @@ TESSARO_INLINE void store_bits(uint8_t* p, Px a, Px b, Px c, Px d) {
   const int bits = _mm256_movemask_epi8(_mm256_shuffle_epi8(packed_bytes(a, b, c, d), turn));
   std::memcpy(p, &bits, sizeof bits);
 }
-#elif defined(TESSARO_SSE2)
+#elif TESSARO_LANES == 4
 template <>
 TESSARO_INLINE Px load_words<Px>(const uint8_t* p) {
   return {_mm_unpacklo_epi16(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p)), _mm_setzero_si128())};

@@ -2,6 +2,7 @@
 #pragma once
 
 #define TESSARO_PX
+#define TESSARO_LANES 8
 #include <immintrin.h>
 
 #include "simd/scalar.hpp"

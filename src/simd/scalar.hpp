@@ -137,6 +137,7 @@ TESSARO_INLINE One::Half shr(One::Half a) {
 
 #ifndef TESSARO_PX
 #define TESSARO_PX
+#define TESSARO_LANES 1
 using Px = One;
 #endif
 static_assert(PixelVector<One>);

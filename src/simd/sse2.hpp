@@ -2,7 +2,7 @@
 #pragma once
 
 #define TESSARO_PX
-#define TESSARO_SSE2  // for #if, beside the compiler's own __AVX2__ and __AVX512BW__
+#define TESSARO_LANES 4
 #include <emmintrin.h>
 
 #include "simd/scalar.hpp"

@@ -1,5 +1,7 @@
 #include "transform/blur.hpp"
 
+#include <emmintrin.h>
+
 #include <array>
 #include <cstring>
 
@@ -56,11 +58,12 @@ constexpr uint64_t widened(uint32_t pixel) {
   const uint64_t halves = (pixel | static_cast<uint64_t>(pixel) << 16) & 0x0000FFFF0000FFFFu;
   return (halves | halves << 8) & 0x00FF00FF00FF00FFu;
 }
-constexpr uint32_t divided(uint64_t sums, Divider by) {
-  uint32_t pixel = 0;
-  for (int lane = 0; lane < 4; ++lane)
-    pixel |= by.divide(static_cast<uint32_t>(sums >> (16 * lane) & 0xFFFF)) << (8 * lane);
-  return pixel;
+uint32_t divided(uint64_t sums, Divider by) {
+  const auto all = [](uint16_t v) { return _mm_set1_epi16(static_cast<short>(v)); };
+  const __m128i biased =
+      _mm_add_epi16(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(&sums)), all(by.bias));
+  const __m128i means = _mm_mulhi_epu16(_mm_mulhi_epu16(biased, all(by.first)), all(by.second));
+  return static_cast<uint32_t>(_mm_cvtsi128_si32(_mm_packus_epi16(means, means)));
 }
 
 // A blur of one row or column, pixel after pixel: what the faster forms must equal, and what overlapping memory gets.

@@ -68,7 +68,7 @@ bool outline(const ImageView& image, uint32_t key, const Outline& paint) {
 
 // Regions as sets of runs: the runs of neighbouring rows that touch are united, the size stands at the root.
 struct Run {
-  int32_t y, first, end;
+  int16_t y, first, end;
   uint32_t parent, size;
 };
 
@@ -118,7 +118,8 @@ int32_t remove_small_regions(const ImageView& image, uint32_t color, uint32_t ke
       above_end = row_start = made;
       row = y;
     }
-    runs[made] = {y, first, end, made, static_cast<uint32_t>(end - first)};
+    runs[made] = {static_cast<int16_t>(y), static_cast<int16_t>(first), static_cast<int16_t>(end), made,
+                  static_cast<uint32_t>(end - first)};
     while (above < above_end && runs[above].end <= first) ++above;
     for (uint32_t i = above; i < above_end && runs[i].first < end; ++i) unite(runs, i, made);
     ++made;

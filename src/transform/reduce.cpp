@@ -93,14 +93,13 @@ int32_t TESSARO_CALL BBIChooseRGBA(ImageRecord* dst, const ImageRecord* src, int
   AreaPair n;
   if (!clip_common(dst, src, n)) return status_nothing;
   const int32_t selectors[] = {blueFrom, greenFrom, redFrom, alphaFrom};
-  constexpr int shift_of[] = {16, 8, 0, 24};  // selectors count red, green, blue, alpha
+  constexpr int byte_of[] = {2, 1, 0, 3};  // selectors count red, green, blue, alpha
   Routing routing{};
   for (int i = 0; i < 4; ++i) {
     routing.from_dest[i] = (selectors[i] & 4) != 0;
-    routing.shift[i] = shift_of[selectors[i] & 3];
+    routing.channel[i] = byte_of[selectors[i] & 3];
   }
-  for (; n.height > 0; --n.height, n.dst += n.dst_pitch, n.src += n.src_pitch)
-    kernels<ReduceKernels>().route(n.dst, n.src, static_cast<size_t>(n.width), routing);
+  kernels<ReduceKernels>().route(n, routing);
   return status_done;
 }
 

@@ -26,10 +26,10 @@ struct Choice {
   AlphaFrom alpha;
   double green, blue, red;  // for AlphaFrom::weights
 };
-// For each output byte, blue first: the image, and by how much the word is shifted right to bring the channel down.
+// For each output byte, blue first: the image and the byte of its pixel.
 struct Routing {
   bool from_dest[4];
-  int shift[4];
+  int channel[4];
 };
 
 struct ReduceKernels {
@@ -37,7 +37,7 @@ struct ReduceKernels {
   void (*to_4444)(uint8_t* row, size_t width, const DitherRow&);
   void (*to_1111)(uint8_t* row, size_t width, const DitherRow&);
   void (*choose)(ChooseRows, size_t width, const Choice&);
-  void (*route)(uint8_t* dst, const uint8_t* src, size_t width, const Routing&);
+  void (*route)(const AreaPair&, const Routing&);
 };
 TESSARO_DECLARE_KERNELS(ReduceKernels);
 

@@ -1,4 +1,6 @@
 // kernels: ReduceKernels for scalar sse2 avx2 avx512
+#include <emmintrin.h>
+
 #include "simd/walk.hpp"
 #include "transform/reduce.hpp"
 
@@ -53,70 +55,118 @@ TESSARO_INLINE P mean_as_alpha(P a) {
   return shl<24>(join(mul_high(sum, P::Half::splat(21846)), P::Half::splat(0)));
 }
 
+// trunc(green * w.green + blue * w.blue + red * w.red) as the alpha of a pixel without colour, in doubles and in this
+// order. The processor's own conversion gives the smallest integer where the sum does not fit one.
+TESSARO_INLINE One weighted_as_alpha(One a, const Choice& w) {
+  const auto byte = [&](int at) { return static_cast<double>(static_cast<int>(a.v >> at & 255)); };
+  const __m128d sum = _mm_set_sd(byte(8) * w.green + byte(0) * w.blue + byte(16) * w.red);
+  return {static_cast<uint32_t>(_mm_cvttsd_si32(sum)) << 24};
+}
+#if defined(__AVX512F__)
+TESSARO_INLINE __m256i weighted_sum(__m256i g, __m256i b, __m256i r, const Choice& w) {
+  const __m512d green = _mm512_mul_pd(_mm512_cvtepi32_pd(g), _mm512_set1_pd(w.green));
+  const __m512d blue = _mm512_mul_pd(_mm512_cvtepi32_pd(b), _mm512_set1_pd(w.blue));
+  const __m512d red = _mm512_mul_pd(_mm512_cvtepi32_pd(r), _mm512_set1_pd(w.red));
+  return _mm512_cvttpd_epi32(_mm512_add_pd(_mm512_add_pd(green, blue), red));
+}
+TESSARO_INLINE __m256i lower(Px a) { return _mm512_castsi512_si256(a.v); }
+TESSARO_INLINE __m256i upper(Px a) { return _mm512_extracti64x4_epi64(a.v, 1); }
+TESSARO_INLINE Px combine(__m256i low, __m256i high) {
+  return {_mm512_inserti64x4(_mm512_castsi256_si512(low), high, 1)};
+}
+#elif defined(__AVX2__)
+TESSARO_INLINE __m128i weighted_sum(__m128i g, __m128i b, __m128i r, const Choice& w) {
+  const __m256d green = _mm256_mul_pd(_mm256_cvtepi32_pd(g), _mm256_set1_pd(w.green));
+  const __m256d blue = _mm256_mul_pd(_mm256_cvtepi32_pd(b), _mm256_set1_pd(w.blue));
+  const __m256d red = _mm256_mul_pd(_mm256_cvtepi32_pd(r), _mm256_set1_pd(w.red));
+  return _mm256_cvttpd_epi32(_mm256_add_pd(_mm256_add_pd(green, blue), red));
+}
+TESSARO_INLINE __m128i lower(Px a) { return _mm256_castsi256_si128(a.v); }
+TESSARO_INLINE __m128i upper(Px a) { return _mm256_extracti128_si256(a.v, 1); }
+TESSARO_INLINE Px combine(__m128i low, __m128i high) { return {_mm256_set_m128i(high, low)}; }
+#elif TESSARO_LANES == 4
+// Two doubles a register: the lower two of four integers.
+TESSARO_INLINE __m128i weighted_sum(__m128i g, __m128i b, __m128i r, const Choice& w) {
+  const __m128d green = _mm_mul_pd(_mm_cvtepi32_pd(g), _mm_set1_pd(w.green));
+  const __m128d blue = _mm_mul_pd(_mm_cvtepi32_pd(b), _mm_set1_pd(w.blue));
+  const __m128d red = _mm_mul_pd(_mm_cvtepi32_pd(r), _mm_set1_pd(w.red));
+  return _mm_cvttpd_epi32(_mm_add_pd(_mm_add_pd(green, blue), red));
+}
+TESSARO_INLINE __m128i lower(Px a) { return a.v; }
+TESSARO_INLINE __m128i upper(Px a) { return _mm_unpackhi_epi64(a.v, a.v); }
+TESSARO_INLINE Px combine(__m128i low, __m128i high) { return {_mm_unpacklo_epi64(low, high)}; }
+#endif
+#if TESSARO_LANES > 1
+TESSARO_INLINE Px weighted_as_alpha(Px a, const Choice& w) {
+  const Px byte = Px::splat(255);
+  const Px g = shr<8>(a) & byte, b = a & byte, r = shr<16>(a) & byte;
+  return shl<24>(
+      combine(weighted_sum(lower(g), lower(b), lower(r), w), weighted_sum(upper(g), upper(b), upper(r), w)));
+}
+#endif
+
 template <class P>
-struct ChooseWhole {
-  bool grey, mean;
+struct Choose {
+  const Choice& from;
   TESSARO_INLINE P operator()(P, P colour, P alpha) const {
-    return with_alpha(grey ? alphas(colour) : colour, mean ? mean_as_alpha(alpha) : alpha);
+    const P chosen = from.grey ? alphas(colour) : colour;
+    if (from.alpha == AlphaFrom::mean) return with_alpha(chosen, mean_as_alpha(alpha));
+    if (from.alpha == AlphaFrom::weights) return with_alpha(chosen, weighted_as_alpha(alpha, from));
+    return with_alpha(chosen, alpha);
   }
 };
 
-// A weighted brightness takes doubles, in this order of sums; a block at a time, so that the compiler sees arrays
-// that nothing else touches.
-constexpr size_t block = 64;
-TESSARO_INLINE void choose_weighted(const ChooseRows& rows, size_t count, const Choice& choice) {
-  uint32_t colour[block], alpha[block], out[block];
-  __builtin_memcpy(colour, rows.colour, 4 * count);
-  __builtin_memcpy(alpha, rows.alpha, 4 * count);
-  for (size_t i = count; i < block; ++i) colour[i] = alpha[i] = 0;
-  for (size_t i = 0; i < block; ++i) {
-    const double sum = static_cast<double>(static_cast<int>(alpha[i] >> 8 & 255)) * choice.green +
-                       static_cast<double>(static_cast<int>(alpha[i] & 255)) * choice.blue +
-                       static_cast<double>(static_cast<int>(alpha[i] >> 16 & 255)) * choice.red;
-    // What does not fit an integer becomes the smallest one.
-    const double fits = sum >= -2147483648.0 && sum < 2147483648.0 ? sum : -2147483648.0;
-    const auto low = static_cast<uint32_t>(static_cast<int32_t>(fits)) << 24;
-    out[i] = low | ((choice.grey ? (colour[i] >> 24) * 0x010101u : colour[i]) & 0x00FFFFFFu);
-  }
-  __builtin_memcpy(rows.dst, out, 4 * count);
+void choose(ChooseRows rows, size_t width, const Choice& from) {
+  constexpr size_t vector = 4 * Px::lanes;
+  if (reads_own_writes(rows.dst, rows.colour, vector) || reads_own_writes(rows.dst, rows.alpha, vector))
+    row3<One>(rows.dst, rows.colour, rows.alpha, width, Choose<One>{from});
+  else
+    row3<Px>(rows.dst, rows.colour, rows.alpha, width, Choose<Px>{from});
 }
 
-void choose(ChooseRows rows, size_t width, const Choice& choice) {
-  const auto ordered = [&](size_t pixels) {
-    return reads_own_writes(rows.dst, rows.colour, 4 * pixels) ||
-           reads_own_writes(rows.dst, rows.alpha, 4 * pixels);
-  };
-  if (choice.alpha == AlphaFrom::weights) {
-    const size_t step = ordered(block) ? 1 : block;
-    for (size_t x = 0; x < width; x += step) {
-      const size_t count = width - x < step ? width - x : step;
-      choose_weighted({rows.dst + 4 * x, rows.colour + 4 * x, rows.alpha + 4 * x}, count, choice);
-    }
-  } else if (ordered(Px::lanes)) {
-    row3<One>(rows.dst, rows.colour, rows.alpha, width,
-              ChooseWhole<One>{choice.grey, choice.alpha == AlphaFrom::mean});
-  } else {
-    row3<Px>(rows.dst, rows.colour, rows.alpha, width,
-             ChooseWhole<Px>{choice.grey, choice.alpha == AlphaFrom::mean});
-  }
-}
-
+// By shifts, or by one byte shuffle an image where there is one.
 template <class P>
 struct Route {
-  const Routing& from;
+  int shift[4];
+  bool from_dest[4];
+  explicit Route(const Routing& from) {
+    for (int i = 0; i < 4; ++i) {
+      shift[i] = 8 * from.channel[i];
+      from_dest[i] = from.from_dest[i];
+    }
+  }
   TESSARO_INLINE P operator()(P d, P s) const {
     const P low = P::splat(255);
-    const auto channel = [&](int i) { return shr(from.from_dest[i] ? d : s, from.shift[i]) & low; };
+    const auto channel = [&](int i) { return shr(from_dest[i] ? d : s, shift[i]) & low; };
     return channel(0) | shl<8>(channel(1)) | shl<16>(channel(2)) | shl<24>(channel(3));
   }
 };
+#if TESSARO_LANES > 4
+template <>
+struct Route<Px> {
+  Px of_dest, of_source;  // for each byte its place in its 16 bytes, or the top bit for none
+  explicit Route(const Routing& from) {
+    uint32_t places[2] = {};
+    for (int i = 0; i < 4; ++i)
+      for (int image = 0; image < 2; ++image)
+        places[image] |= (from.from_dest[i] == (image == 0) ? static_cast<uint32_t>(from.channel[i]) : 0x80u)
+                         << (8 * i);
+    uint32_t first_byte[Px::lanes];
+    for (size_t i = 0; i < Px::lanes; ++i) first_byte[i] = static_cast<uint32_t>(4 * (i % 4)) * 0x01010101u;
+    of_dest = add(Px::load(first_byte), Px::splat(places[0]));
+    of_source = add(Px::load(first_byte), Px::splat(places[1]));
+  }
+  TESSARO_INLINE Px operator()(Px d, Px s) const {
+#if defined(__AVX512F__)
+    return {_mm512_or_si512(_mm512_shuffle_epi8(d.v, of_dest.v), _mm512_shuffle_epi8(s.v, of_source.v))};
+#else
+    return {_mm256_or_si256(_mm256_shuffle_epi8(d.v, of_dest.v), _mm256_shuffle_epi8(s.v, of_source.v))};
+#endif
+  }
+};
+#endif
 
-void route(uint8_t* dst, const uint8_t* src, size_t width, const Routing& from) {
-  if (reads_own_writes(dst, src, 4 * Px::lanes))
-    row2<One>(dst, src, width, Route<One>{from});
-  else
-    row2<Px>(dst, src, width, Route<Px>{from});
-}
+void route(const tessaro::AreaPair& n, const Routing& from) { walk2<Route>(n, from); }
 
 }  // namespace
 
