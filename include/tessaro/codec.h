@@ -30,6 +30,14 @@ extern "C" {
  *
  * Buffers need no alignment; source and destination must not overlap. */
 
+/* i: pairs of bytes, each against the pair before. Minimum length 49, margin 48. A pair costs 3 bits (equal to the one
+ * before) to 19. */
+TESSARO_API int32_t TESSARO_CALL iEncoder(const void* source, void* destination, uint32_t length,
+                                          uint32_t* written);
+TESSARO_API int32_t TESSARO_CALL iDecoder(const void* stream, void* destination, uint32_t count);
+TESSARO_API int32_t TESSARO_CALL iDecoderSafe(const void* stream, void* destination, uint32_t stream_size,
+                                              uint32_t count);
+
 /* io: pixels that repeat the pixel before them. Minimum length 65, margin 64. A group of four bytes that equals the
  * one before costs one bit, any other 33. */
 TESSARO_API int32_t TESSARO_CALL ioEncoder(const void* source, void* destination, uint32_t length,
@@ -37,6 +45,29 @@ TESSARO_API int32_t TESSARO_CALL ioEncoder(const void* source, void* destination
 TESSARO_API int32_t TESSARO_CALL ioDecoder(const void* stream, void* destination, uint32_t count);
 TESSARO_API int32_t TESSARO_CALL ioDecoderSafe(const void* stream, void* destination, uint32_t stream_size,
                                                uint32_t count);
+
+/* ib18: blocks of six bytes that repeat the byte before, or are the byte that most often follows it in this source, or
+ * are sent. Minimum length 512, margin 32; 256 bytes of every stream are the table of successors. The Ex pair codes one
+ * channel of 32-bit pixels after another; a length that is not a multiple of 4 is not restored by it. The encoders
+ * need 256 KiB of stack. Unlike the other decoders the classic ones return 0 for a count of 0, too. */
+TESSARO_API int32_t TESSARO_CALL ib18Encoder(const void* source, void* destination, uint32_t length,
+                                             uint32_t* written);
+TESSARO_API int32_t TESSARO_CALL ib18Decoder(const void* stream, void* destination, uint32_t count);
+TESSARO_API int32_t TESSARO_CALL ib18DecoderSafe(const void* stream, void* destination, uint32_t stream_size,
+                                                 uint32_t count);
+TESSARO_API int32_t TESSARO_CALL ib18EncoderEx(const void* source, void* destination, uint32_t length,
+                                               uint32_t* written);
+TESSARO_API int32_t TESSARO_CALL ib18DecoderEx(const void* stream, void* destination, uint32_t count);
+TESSARO_API int32_t TESSARO_CALL ib18DecoderExSafe(const void* stream, void* destination,
+                                                   uint32_t stream_size, uint32_t count);
+
+/* iabr: groups of 4, 8, 16, ... bytes, each group with 8, 5, 3 or 0 bits a byte, whatever differs from the byte before.
+ * Minimum length 257, margin 256. A stream that is given up at the limit ends with one more byte. */
+TESSARO_API int32_t TESSARO_CALL iabrEncoder(const void* source, void* destination, uint32_t length,
+                                             uint32_t* written);
+TESSARO_API int32_t TESSARO_CALL iabrDecoder(const void* stream, void* destination, uint32_t count);
+TESSARO_API int32_t TESSARO_CALL iabrDecoderSafe(const void* stream, void* destination, uint32_t stream_size,
+                                                 uint32_t count);
 
 /* c2f: blocks of eight 32-bit pixels; the bytes of a pixel (blue, green, red or alpha) that do not change
  * within a block against the pixel before it are left out. For pixels with a constant alpha and flat areas.

@@ -17,21 +17,25 @@ class BitWriter {
  public:
   explicit BitWriter(uint8_t* out) : begin_(out), at_(out) {}
 
-  // Appends the low n bits of a value that has no bits above them, n <= 32; whole bytes leave at once.
+  // Appends n bits, n <= 32; there are none above them. Whole bytes leave at once: `pending_` still has those that left
+  // before, so one store of the last four rewrites them and touches nothing else.
   void put(uint32_t bits, unsigned n) {
     pending_ = pending_ << n | bits;
     held_ += n;
-    while (held_ >= 8) {
-      held_ -= 8;
-      *at_++ = static_cast<uint8_t>(pending_ >> held_);
+    if (at_ - begin_ >= 4) [[likely]] {
+      at_ += held_ >> 3;
+      held_ &= 7;
+      store(at_ - 4, __builtin_bswap32(static_cast<uint32_t>(pending_ >> held_)));
+    } else {
+      for (; held_ >= 8; held_ -= 8) *at_++ = static_cast<uint8_t>(pending_ >> (held_ - 8));
     }
   }
-  // The same for n <= 56 in one 8-byte store. It may also change the 7 bytes after the stream so far, so it is only
-  // for places where at least 7 more bytes are sure to follow.
+  // Appends up to 56 bits in one store of 8 bytes, which may change the 7 bytes behind the stream so far: only for where
+  // at least 7 more are sure to follow.
   void put_ahead(uint64_t bits, unsigned n) {
     pending_ = pending_ << n | bits;
     held_ += n;
-    // held_ is 0 only with nothing pending or appended; then any shift stores bytes that will be written again.
+    // Nothing pending stores bytes that will be written again, whatever the shift.
     store(at_, __builtin_bswap64(pending_ << ((64 - held_) & 63)));
     at_ += held_ >> 3;
     held_ &= 7;
@@ -44,7 +48,7 @@ class BitWriter {
  private:
   uint8_t* begin_;
   uint8_t* at_;
-  uint64_t pending_ = 0;  // the low held_ bits are still to leave; those above have left
+  uint64_t pending_ = 0;  // the last bits appended; the low held_ of them are still to leave
   unsigned held_ = 0;     // below 8 between calls
 };
 
@@ -55,6 +59,7 @@ struct Trusted {
 
   // Whether the next n bytes exist.
   static constexpr bool has(size_t) { return true; }
+  static constexpr uint64_t bits_left() { return UINT64_MAX / 2; }
   // Whether 8 bytes may be read at once, when the rest of the stream is known to be at least `bytes` long.
   static constexpr bool has_8(uint64_t bytes) { return bytes >= 8; }
 };
@@ -63,6 +68,7 @@ struct Bounded {
   const uint8_t *at, *end;
 
   bool has(size_t n) const { return static_cast<size_t>(end - at) >= n; }
+  uint64_t bits_left() const { return static_cast<uint64_t>(end - at) * 8; }
   bool has_8(uint64_t) const { return has(8); }
 };
 
@@ -91,6 +97,9 @@ class BitReader {
     }
   }
 
+  // How many bits the stream still has, as far as that is known.
+  uint64_t left() const { return source_.bits_left() + held_; }
+
   // Whether refill() may be called, when the format makes the decoder read at least `sure` more bits.
   bool can_refill(uint64_t sure) const { return source_.has_8((sure - (sure < held_ ? sure : held_)) >> 3); }
   // Makes at least 56 bits available in one 8-byte read.
@@ -103,7 +112,7 @@ class BitReader {
   // The available bits, the next one on top; below them stands nothing or the bits that follow in the stream.
   uint64_t window() const { return bits_; }
   unsigned held() const { return held_; }
-  void skip(unsigned n) {
+  void skip(unsigned n) {  // n < 64
     bits_ <<= n;
     held_ -= n;
   }
@@ -119,9 +128,22 @@ class BitReader {
   }
   // Counts the one bits up to a zero, which is taken too, or up to `most` of them.
   unsigned read_ones(unsigned most) {
-    unsigned ones = 0;
-    while (ones < most && read(1) != 0) ++ones;
-    return ones;
+    for (unsigned ones = 0;;) {
+      need(1);
+      const unsigned all = held_;
+      auto now = static_cast<unsigned>(__builtin_clzll(~bits_ | 1));
+      now = now < all ? now : all;
+      if (ones + now >= most) {
+        skip(most - ones);
+        return most;
+      }
+      skip(now);
+      ones += now;
+      if (now < all) {
+        skip(1);
+        return ones;
+      }
+    }
   }
   bool ran_out() const { return ran_out_; }
 

@@ -22,6 +22,10 @@ class ChannelOrder {
     return at_ < 4 && at_ < count_;
   }
 
+  // Whether the next n positions and one more are 4 apart.
+  bool has(uint32_t n) const { return at_ + 4 * uint64_t{n} < count_; }
+  void skip(uint32_t n) { at_ += 4 * uint64_t{n}; }
+
  private:
   uint64_t at_ = 0;
   uint32_t count_;

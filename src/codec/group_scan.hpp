@@ -61,15 +61,14 @@ inline Group scan_group(const uint8_t* source, uint32_t length, uint32_t start) 
   return group;
 }
 
-// Reads the head of a group. A damaged stream may ask for any level; sizes end at 2^32.
+// Reads the head of a group: its size, which ends at 2^32 whatever a damaged stream asks for, and its class.
 struct GroupHead {
   uint64_t size;
   unsigned kind;
 };
 template <class Source>
 inline GroupHead read_group_head(BitReader<Source>& in) {
-  unsigned level = 0;
-  while (in.read(1) != 0) ++level;
+  const unsigned level = in.read_ones(UINT32_MAX);
   return {uint64_t{4} << (level < 30 ? level : 30), read_class(in)};
 }
 

@@ -1,0 +1,140 @@
+// iabr: groups of 4 * 2^k bytes, each sent with 8, 5, 3 or 0 bits a byte.
+#include "codec/bits.hpp"
+#include "codec/group_scan.hpp"
+#include "tessaro/codec.h"
+
+namespace tessaro {
+namespace {
+
+constexpr uint32_t margin = 256;
+
+// The low bits of four bytes side by side, first byte on top, and back.
+template <unsigned width>
+inline uint32_t pack(uint32_t bytes) {
+  if constexpr (width == 8) return bytes;
+  if constexpr (width == 5) {
+    const uint32_t pairs = (bytes & 0x001F001F) | (bytes >> 3 & 0x03E003E0);
+    return (pairs & 0xFFFF) | pairs >> 16 << 10;
+  }
+  const uint32_t pairs = (bytes & 0x00070007) | (bytes >> 5 & 0x00380038);
+  return (pairs & 0xFFFF) | pairs >> 16 << 6;
+}
+template <unsigned width>
+inline uint32_t unpack(uint32_t bits) {
+  if constexpr (width == 8) return bits;
+  if constexpr (width == 5) {
+    const uint32_t pairs = (bits & 0x3FF) | bits >> 10 << 16;
+    return (pairs & 0x001F001F) | (pairs & 0x03E003E0) << 3;
+  }
+  const uint32_t pairs = (bits & 0x3F) | bits >> 6 << 16;
+  return (pairs & 0x00070007) | (pairs & 0x00380038) << 5;
+}
+
+template <unsigned width, class Source>
+inline uint8_t* read_payload(BitReader<Source>& in, uint8_t* out, uint32_t n, uint8_t last) {
+  const uint32_t kept = (last & (0xFFu << width)) * 0x01010101u;
+  for (; n >= 4; n -= 4, out += 4) store(out, __builtin_bswap32(unpack<width>(in.read(4 * width)) | kept));
+  for (; n != 0; --n) *out++ = static_cast<uint8_t>(in.read(width) | kept);
+  return out;
+}
+
+template <class Source>
+int32_t decode(Source source, void* destination, uint32_t count) {
+  if (count == 0) return 1;
+  BitReader<Source> in(source);
+  auto* out = static_cast<uint8_t*>(destination);
+  uint8_t last = 0;
+  for (uint32_t left = count; left != 0;) {
+    const GroupHead group = read_group_head(in);
+    if (in.ran_out()) return 1;
+    auto n = static_cast<uint32_t>(group.size < left ? group.size : left);
+    const bool cut = in.left() < uint64_t{n} * class_width[group.kind];
+    if (cut) n = static_cast<uint32_t>(in.left() / class_width[group.kind]);
+    switch (group.kind) {
+      case 0:
+        out = read_payload<8>(in, out, n, last);
+        break;
+      case 1:
+        out = read_payload<5>(in, out, n, last);
+        break;
+      case 2:
+        out = read_payload<3>(in, out, n, last);
+        break;
+      default:
+        std::memset(out, last, n);
+        out += n;
+    }
+    if (cut) return 1;
+    last = out[-1];
+    left -= n;
+  }
+  return 0;
+}
+
+template <unsigned width>
+inline void put_payload(BitWriter& out, const uint8_t* from, uint32_t n) {
+  for (; n >= 4; n -= 4, from += 4) out.put(pack<width>(__builtin_bswap32(load<uint32_t>(from))), 4 * width);
+  for (; n != 0; --n) out.put(*from++ & ~(~0u << width), width);
+}
+
+}  // namespace
+}  // namespace tessaro
+
+using namespace tessaro;
+
+extern "C" int32_t TESSARO_CALL iabrEncoder(const void* source, void* destination, uint32_t length,
+                                            uint32_t* written) {
+  if (length <= margin) return 1;
+  const auto* in = static_cast<const uint8_t*>(source);
+  const uint32_t limit = length - margin;
+  BitWriter out(static_cast<uint8_t*>(destination));
+  const auto full = [&] { return out.written() >= limit; };
+  const auto encode = [&] {
+    for (uint32_t start = 0; start < length;) {
+      const Group group = scan_group(in, length, start);
+      const uint32_t n = group.size < length - start ? group.size : length - start;
+      const unsigned width = class_width[group.kind];
+      const BitField mark = class_mark[group.kind];
+      if (out.written() + 8 + uint64_t{n} * width / 8 < limit) {
+        out.put((1u << group.level) - 1, group.level);
+        out.put(mark.bits, mark.width + 1);
+        switch (group.kind) {
+          case 0:
+            put_payload<8>(out, in + start, n);
+            break;
+          case 1:
+            put_payload<5>(out, in + start, n);
+            break;
+          case 2:
+            put_payload<3>(out, in + start, n);
+            break;
+        }
+      } else {  // close to the limit, where the stream ends after the step that reaches it
+        for (unsigned k = 0; k < group.level; ++k) {
+          out.put(1, 1);
+          if (full()) return;
+        }
+        out.put(mark.bits, mark.width + 1);
+        if (full()) return;
+        for (uint32_t k = 0; k < n && width != 0; ++k) {
+          out.put(in[start + k] & ~(~0u << width), width);
+          if (full()) return;
+        }
+      }
+      start += n;
+    }
+  };
+  encode();
+  out.flush();
+  store(written, out.written());
+  return full();
+}
+
+extern "C" int32_t TESSARO_CALL iabrDecoder(const void* stream, void* destination, uint32_t count) {
+  return decode(Trusted(stream), destination, count);
+}
+
+extern "C" int32_t TESSARO_CALL iabrDecoderSafe(const void* stream, void* destination, uint32_t size,
+                                                uint32_t count) {
+  return decode(Bounded(stream, size), destination, count);
+}

@@ -1,0 +1,280 @@
+// Exact streams: worked by hand, and against a second, slow encoder of each format that puts one bit after another.
+#include <algorithm>
+
+#include "codec/streams.hpp"
+
+namespace {
+
+using namespace tessaro;
+using namespace tessaro::test;
+
+// A stream that is given up as soon as its length reaches the limit.
+struct Slow {
+  size_t limit;
+  Bytes bytes{};
+  unsigned pending = 0, held = 0;
+  void put(unsigned value, int bits) {
+    while (bits-- > 0) {
+      pending = pending << 1 | (value >> bits & 1);
+      if (++held == 8) bytes.push_back(static_cast<uint8_t>(pending)), held = 0;
+    }
+  }
+  bool full() const { return bytes.size() >= limit; }
+  Encoded flushed() {
+    put(0, 8);
+    return ended();
+  }
+  Encoded ended() const { return {full() ? 1 : 0, bytes}; }
+};
+
+Encoded slow_i(const Bytes& in) {
+  Slow out{in.size() - 48};
+  int pa = 0, pb = 0;
+  for (size_t at = 0; at < in.size(); at += 2) {
+    const int a = in[at], b = at + 1 < in.size() ? in[at + 1] : 0;
+    const bool far_a = ((a ^ pa) & 0xE0) != 0, far_b = ((b ^ pb) & 0xE0) != 0;
+    const auto code = [&](unsigned n) { out.put(n, 3); };
+    const auto field = [&](int v, int bits) { out.put(static_cast<unsigned>(v), bits); };
+    if (b == pb && a == pa) {
+      code(7);
+    } else if (b == pb) {
+      code(6), field(a, 8);
+    } else if (a == pb) {
+      code(5), field(b, 8);
+    } else if (a == b) {
+      code(4), field(a, 8);
+    } else if (far_a && far_b) {
+      code(0), field(a, 8), field(b, 8);
+    } else if (far_a) {
+      code(1), field(a, 8), field(b, 5);
+    } else if (far_b) {
+      code(2), field(a, 5), field(b, 8);
+    } else {
+      code(3), field(a, 5), field(b, 5);
+    }
+    if (out.full()) return out.ended();
+    pa = a, pb = b;
+  }
+  return out.flushed();
+}
+
+Encoded slow_io(const Bytes& in) {
+  Slow out{in.size() - 64};
+  Bytes before(4);
+  for (size_t at = 0; at < in.size(); at += 4) {
+    Bytes group(4);
+    for (size_t k = 0; k < 4 && at + k < in.size(); ++k) group[k] = in[at + k];
+    out.put(group == before, 1);
+    if (group != before)
+      for (uint8_t byte : group) out.put(byte, 8);
+    if (out.full()) return out.ended();
+    before = group;
+  }
+  return out.flushed();
+}
+
+template <bool by_channel>
+Encoded slow_ib18(const Bytes& in) {
+  const size_t n = in.size();
+  Bytes out(256);
+  std::vector<std::vector<int>> counts(256, std::vector<int>(256));
+  int p = 0;
+  for (int c : in) ++counts[static_cast<size_t>(p)][static_cast<size_t>(c)], p = c;
+  for (size_t v = 0; v < 256; ++v) {
+    counts[v][v] = -1;
+    out[v] = static_cast<uint8_t>(std::max_element(counts[v].begin(), counts[v].end()) - counts[v].begin());
+  }
+  const auto get = [&](size_t i) -> int {
+    if (!by_channel) return i < n ? in[i] : 0;
+    const size_t q = 4 * i < 2 * n ? 4 * i : 4 * i + 2 - 2 * n;
+    return q < n ? in[q] : q + 1 - n < n ? in[q + 1 - n] : 0;
+  };
+  int last = 0;
+  for (size_t at = 0; at < n;) {
+    std::string kinds;
+    unsigned r_mask = 0, p_mask = 0;
+    for (size_t k = 0; k < 6; ++k) {
+      const int byte = get(at + k), before = k ? get(at + k - 1) : last;
+      kinds += byte == before ? 'R' : byte == out[static_cast<size_t>(before)] ? 'P' : 'L';
+      r_mask |= (kinds[k] == 'R') << k;
+      p_mask |= (kinds[k] == 'P') << k;
+    }
+    const auto r = std::count(kinds.begin(), kinds.end(), 'R'),
+               pr = std::count(kinds.begin(), kinds.end(), 'P');
+    const auto literals = [&](char except) {
+      for (size_t k = 0; k < 6; ++k)
+        if (kinds[k] != except) out.push_back(static_cast<uint8_t>(get(at + k)));
+    };
+    size_t covered = 6;
+    if (r == 6) {
+      const int byte = get(at);
+      unsigned level = 0;
+      for (size_t s = 6; level < 16; s *= 2, ++level) {
+        size_t same = 0;
+        while (same < s && get(at + covered + same) == byte) ++same;
+        if (same < s) break;
+        covered += s;
+      }
+      out.push_back(static_cast<uint8_t>(level == 0 ? 0x7F : (level - 1) | 0x10));
+    } else if (pr == 6) {
+      out.push_back(0xBF);
+    } else if (r + pr == 0) {
+      out.push_back(0x40), literals(' ');
+    } else if (r + pr == 6) {
+      out.push_back(static_cast<uint8_t>(0xC0 | r_mask));
+    } else if (r < pr) {
+      out.push_back(static_cast<uint8_t>(0x80 | p_mask)), literals('P');
+    } else {
+      out.push_back(static_cast<uint8_t>(0x40 | r_mask)), literals('R');
+    }
+    if (out.size() >= n - 32) return {1, out};
+    last = get(at + covered - 1);
+    at += covered;
+  }
+  return {out.size() >= n - 32, out};
+}
+
+// The scan as a machine that takes one step at a time and looks at the limit after every one.
+Encoded slow_iabr(const Bytes& in) {
+  const size_t length = in.size();
+  Slow out{length - 256};
+  const int widths[] = {8, 5, 3, 0};
+  size_t emitted = 0, scan = 0, pending = 0;
+  int last = 0, kind = 0;
+  bool open = false;
+  size_t size = 0, threshold = 0, kept_size = 0, kept_scan = 0;
+  int kept_last = 0, unit[4] = {};
+  while (emitted < length) {
+    if (pending != 0) {
+      out.put(in[emitted] & ((1u << widths[kind]) - 1), widths[kind]);
+      ++emitted, --pending;
+    } else {
+      for (size_t k = 0; k < 4 && scan + k < length; ++k) unit[k] = in[scan + k];
+      const auto agree = [&](int mask) {
+        return std::all_of(unit, unit + 4, [&](int b) { return (b & mask) == (last & mask); });
+      };
+      const int now = agree(0xFF) ? 3 : agree(0xF8) ? 2 : agree(0xE0) ? 1 : 0;
+      scan += 4;
+      last = unit[3];
+      if (!open) {
+        open = true, kind = now, size = 4, threshold = 8;
+        kept_size = 4, kept_last = last, kept_scan = scan;
+      } else if (now == kind && emitted + size + 4 < length) {
+        size += 4;
+        if (size == threshold) {
+          kept_size = size, kept_last = last, kept_scan = scan;
+          threshold *= 2;
+          out.put(1, 1);
+        }
+      } else {
+        open = false;
+        last = kept_last, scan = kept_scan;
+        const unsigned marks[] = {0b00, 0b010, 0b0110, 0b0111};
+        const int bits[] = {2, 3, 4, 4};
+        out.put(marks[kind], bits[kind]);
+        pending = kept_size;
+      }
+    }
+    if (out.full()) return out.flushed();
+  }
+  return out.flushed();
+}
+
+TEST(Streams, EqualThoseOfASlowEncoder) {
+  struct Row {
+    const char* name;
+    size_t minimum;
+    Encoder fast;
+    Encoded (*slow)(const Bytes&);
+  };
+  const Row rows[] = {{"i", 49, iEncoder, slow_i},
+                      {"io", 65, ioEncoder, slow_io},
+                      {"ib18", 512, ib18Encoder, slow_ib18<false>},
+                      {"ib18Ex", 512, ib18EncoderEx, slow_ib18<true>},
+                      {"iabr", 257, iabrEncoder, slow_iabr}};
+  for (const Row& row : rows) {
+    int results[2] = {};
+    const auto check = [&](const Bytes& data) {
+      const Encoded slow = row.slow(data);
+      ++results[slow.result];
+      EXPECT_EQ(encode(row.fast, data), slow) << row.name << ", " << data.size() << " bytes";
+    };
+    for (int kind = 0; kind < kinds_of_data; ++kind) {
+      for (size_t length = row.minimum; length < row.minimum + 40; ++length) check(make_data(kind, length));
+      for (size_t length = row.minimum + 40; length < 9000; length += 1 + length / 3)
+        check(make_data(kind, length, static_cast<uint32_t>(length)));
+    }
+    // Quiet and noisy stretches in all proportions: the limit is met at every kind of step.
+    for (uint32_t seed = 0; seed < 300; ++seed) {
+      const size_t length = row.minimum + 60 + seed;
+      Bytes data = make_data(6, length, seed);
+      const Bytes noise = make_data(seed % 2 ? 1 : 3, length, seed);
+      std::copy_n(noise.begin(), length * (seed % 17) / 17, data.begin());
+      check(data);
+    }
+    EXPECT_GT(results[0], 20) << row.name;
+    EXPECT_GT(results[1], 20) << row.name;
+  }
+}
+
+Bytes filled(std::initializer_list<std::pair<int, uint8_t>> runs) {
+  Bytes all;
+  for (auto [n, byte] : runs) all.insert(all.end(), static_cast<size_t>(n), byte);
+  return all;
+}
+
+TEST(Streams, WorkedByHandI) {
+  EXPECT_EQ(encode(iEncoder, Bytes(1000)), (Encoded{0, filled({{187, 0xFF}, {1, 0xF0}})}));
+  EXPECT_EQ(encode(iEncoder, Bytes(49)), (Encoded{1, {0xFF}}));
+  // (0, 9) is b alone; (9, 9) is a equals the old b; (40, 9) is a alone; (41, 10) is both near; then repeats.
+  Bytes data{0, 9, 9, 8, 40, 8, 41, 10};
+  while (data.size() < 101) data.insert(data.end(), {41, 10});
+  data.resize(101);  // the last pair is 41, 0: b is near
+  // 101 00001001 | 101 00001000 | 110 00101000 | 011 01001 01010 | 46 x 111 | 011 01001 00000 | padding
+  const Encoded e = encode(iEncoder, data);
+  const Bytes expected{0b10100001, 0b00110100, 0b00100011, 0b00010100, 0b00110100, 0b10101011};
+  EXPECT_TRUE(std::equal(expected.begin(), expected.end(), e.stream.begin())) << e;
+  EXPECT_EQ(e.stream.size(), (46u + 46 * 3 + 13) / 8 + 1);
+  EXPECT_EQ(decode(iDecoder, e.stream, data.size()), data);
+}
+
+TEST(Streams, WorkedByHandIo) {
+  EXPECT_EQ(encode(ioEncoder, Bytes(1024)), (Encoded{0, filled({{32, 0xFF}, {1, 0}})}));
+  Bytes data;
+  for (int i = 0; i < 40; ++i) data.insert(data.end(), {1, 2, 3, 4});
+  data.push_back(5);  // coded as 5, 0, 0, 0
+  const Encoded e = encode(ioEncoder, data);
+  EXPECT_EQ(e, (Encoded{0, {0x00, 0x81, 0x01, 0x82, 0x7F, 0xFF, 0xFF, 0xFF, 0xFF, 0x02, 0x80, 0, 0, 0}}));
+  EXPECT_EQ(decode(ioDecoder, e.stream, data.size()), data);
+}
+
+TEST(Streams, WorkedByHandIb18) {
+  Bytes operations = encode(ib18Encoder, Bytes(600, 7)).stream;
+  EXPECT_EQ(operations[0], 7);  // the successor of 0
+  operations.erase(operations.begin(), operations.begin() + 256);
+  EXPECT_EQ(operations, (Bytes{0xFE, 0x15, 0x14, 0x10, 0x7F}));
+  // The zeros behind the end belong to a run of zeros: 6 * 2^16 bytes.
+  EXPECT_EQ(encode(ib18Encoder, Bytes(600)).stream.back(), 0x1F);
+  // What no encoder emits: runs of predictions and of literals, ended by the count.
+  Bytes stream(256);
+  for (size_t v = 0; v < 256; ++v) stream[v] = static_cast<uint8_t>(v + 1);
+  stream.insert(stream.end(), {0x20, 0x00, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 8, 0xBF});
+  const Bytes expected{1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 8, 9, 10, 11};
+  for (size_t count = 1; count <= expected.size(); ++count)
+    EXPECT_EQ(decode(ib18Decoder, stream, count),
+              Bytes(expected.begin(), expected.begin() + static_cast<ptrdiff_t>(count)));
+  EXPECT_EQ(decode(ib18DecoderEx, stream, 6), (Bytes{1, 3, 5, 6, 2, 4}));
+  EXPECT_EQ(decode(ib18Decoder, stream, 0, 0), Bytes{});
+}
+
+TEST(Streams, WorkedByHandIabr) {
+  // 512 zeros: groups of 256, 128, 64, 32, 16, 8, 4 and 4 bytes, each k ones and 0 111.
+  EXPECT_EQ(
+      encode(iabrEncoder, Bytes(512)),
+      (Encoded{0, {0b11111101, 0b11111110, 0b11111110, 0b11111101, 0b11110111, 0b10111011, 0b10111000}}));
+  // A group of more bytes than any count asks for.
+  const Bytes repeats{0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0b01110000};
+  EXPECT_EQ(decode(iabrDecoderSafe, repeats, 1000), Bytes(1000));
+}
+
+}  // namespace
