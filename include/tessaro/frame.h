@@ -1,5 +1,5 @@
-/* Load state and scalar helpers: shifts, peeks and pokes, hashes, calls through pointers, a random generator.
- */
+/* Load state and scalar helpers (shifts, peeks and pokes, hashes, calls through pointers, a random generator),
+ * the worker thread and the window hooks. */
 #ifndef TESSARO_FRAME_H
 #define TESSARO_FRAME_H
 
@@ -80,6 +80,48 @@ TESSARO_API intptr_t TESSARO_CALL StdCallBack(TessaroCallback2 fn, intptr_t a, i
  * One state for the process, without a lock: calls from several threads need one of the caller's. n = 0 is a
  * division by zero and faults. */
 TESSARO_API uint32_t TESSARO_CALL GetRandom(uint32_t n);
+
+/* A function that the worker thread calls over and over. What it returns is not looked at, and as it takes no
+ * arguments, either calling convention of 32-bit Windows will do. */
+typedef void(TESSARO_CDECL* TessaroWorker)(void);
+
+/* Runs function in a thread of its own, again and again until ThreadKill, and returns 0 when that thread has
+ * ended: the call blocks, yielding in a loop, so ThreadKill has to come from another thread. function runs at
+ * least once unless ThreadKill came before the thread did. There is one worker a process: while one is there,
+ * also one that ended in another way than by ThreadKill (its function left by ExitThread or pthread_exit), the
+ * result is 1 at once. A thread that the system cannot make gives 0 at once. Two threads must not call
+ * ThreadBegin at the same moment. */
+TESSARO_API int32_t TESSARO_CALL ThreadBegin(TessaroWorker function);
+
+/* Stops the worker after its current call, waits until it has ended, without a time limit, and returns 0; then
+ * ThreadBegin may be called again. 1 = there is no worker. Called from within the worker's function it waits
+ * for ever. */
+TESSARO_API int32_t TESSARO_CALL ThreadKill(void);
+
+/* A function that is offered the messages of a hooked window: the message with its two parameters, and the
+ * value that was given with the hook. Not 0 = handled: the window's procedure returns 0 (not this value); 0 =
+ * the window's previous procedure goes on with the message. On 32-bit Windows it may follow either calling
+ * convention; message is widened to a word, and only 32 bits of the result count. */
+typedef int32_t(TESSARO_CALL* TessaroHook)(void* window, uintptr_t message, uintptr_t first, intptr_t second,
+                                           intptr_t value);
+
+/* Offers the messages of window (a HWND) to hook first, by giving the window a procedure of the library's. 0 =
+ * hooked; 1 = 256 hooks are in place already, or the window's procedure could not be read (always so where
+ * there are no such windows: everywhere but on Windows), and nothing was changed.
+ *   A window that is hooked a second time gets a second entry whose previous procedure is the library's own,
+ * while its messages find the first: unhook it before hooking it again. Hooks belong to the thread that owns
+ * the windows; calls from several threads at once are not guarded. */
+TESSARO_API int32_t TESSARO_CALL WindowProcLoad(void* window, TessaroHook hook, intptr_t value);
+
+/* Gives the window its previous procedure back. 0 = unhooked; 1 = the window is not hooked.
+ *   Hooks come off cleanly in the reverse order of WindowProcLoad. In any other order the entry that leaves
+ * takes over the previous procedure of the newest one but keeps its own window, and the newest window, though
+ * it still has the library's procedure, is no longer known: its messages give 0. With A, B and C hooked,
+ * unhooking A restores A, leaves an entry of A with C's previous procedure, and silences C.
+ *   Unloading the library takes all hooks off in the same way, always the first entry: one hooked window is
+ * restored; of several the first ends with the second one's procedure and the others keep a procedure that is
+ * gone. Unhook windows before letting go of the library. */
+TESSARO_API int32_t TESSARO_CALL WindowProcUnload(void* window);
 
 #ifdef __cplusplus
 }

@@ -15,8 +15,8 @@ int32_t lazy_cpu_level();
 // The level for the feature flags that the processor reports in EDX.
 int32_t cpu_level_of(uint32_t flags);
 
-// Restores every window that is still hooked.
-int32_t unhook_all();
+// Takes back the hooks that are left when the library goes.
+void unhook_all();
 
 // Seeds the generator behind GetRandom; draws a tempered word.
 void seed_random(uint32_t seed);

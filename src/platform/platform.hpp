@@ -3,9 +3,33 @@
 
 #include <cstdint>
 
+#include "tessaro/frame.h"
+
 namespace tessaro::platform {
 
 // Milliseconds since some start, modulo 2^32.
 uint32_t tick_count();
+
+// A thread that was started and not yet closed; null is none. Asking about a thread that another thread is
+// closing, or has closed, is allowed: it does not run.
+using Thread = void*;
+Thread start_thread(void (*routine)());  // null if the system has none to give
+bool thread_runs(Thread thread);
+void close_thread(Thread thread);  // waits for its end
+void yield();
+
+// What the hooks need of windows and their procedures; tests put a substitute in its place.
+struct WindowSystem {
+  intptr_t (*procedure)(void* window);  // 0 = cannot be read
+  void (*set_procedure)(void* window, intptr_t procedure);
+  intptr_t (*call)(intptr_t procedure, void* window, uint32_t message, uintptr_t first, intptr_t second);
+  // The procedure that a hooked window gets: it hands its arguments to offer_message (frame/hooks.hpp).
+  intptr_t (*replacement)();
+};
+extern const WindowSystem windows;
+
+// Calls a host's hook, of either calling convention where the system has two.
+int32_t call_hook(TessaroHook hook, void* window, uint32_t message, uintptr_t first, intptr_t second,
+                  intptr_t value);
 
 }  // namespace tessaro::platform
