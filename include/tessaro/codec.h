@@ -69,6 +69,45 @@ TESSARO_API int32_t TESSARO_CALL iabrDecoder(const void* stream, void* destinati
 TESSARO_API int32_t TESSARO_CALL iabrDecoderSafe(const void* stream, void* destination, uint32_t stream_size,
                                                  uint32_t count);
 
+/* inabe: groups of 4 * 2^k bytes that agree in their top bits, coded in a few bits each with an escape for the ones
+ * that do not fit. Minimum length 257, margin 256. A stream that was given up is flushed: *written counts that byte
+ * too. inabeDecoder and inabeDecoderEx do not check for a count of 0, which makes nothing and returns 0.
+ *
+ * inabeDecoderEx undoes ichshift4Encoder and iwave11Encoder in the same pass: pixels that were prepared with the one,
+ * then the other, then coded, come back with one call. */
+TESSARO_API int32_t TESSARO_CALL inabeEncoder(const void* source, void* destination, uint32_t length,
+                                              uint32_t* written);
+TESSARO_API int32_t TESSARO_CALL inabeDecoder(const void* stream, void* destination, uint32_t count);
+TESSARO_API int32_t TESSARO_CALL inabeDecoderEx(const void* stream, void* destination, uint32_t count);
+TESSARO_API int32_t TESSARO_CALL inabeDecoderSafe(const void* stream, void* destination, uint32_t stream_size,
+                                                  uint32_t count);
+TESSARO_API int32_t TESSARO_CALL inabeDecoderExSafe(const void* stream, void* destination,
+                                                    uint32_t stream_size, uint32_t count);
+
+/* imist: pixels against the pixel before, in two pairs of channels: blue and red, green and alpha. Minimum length 129,
+ * margin 128. A pixel costs 6 to 34 bits. */
+TESSARO_API int32_t TESSARO_CALL imistEncoder(const void* source, void* destination, uint32_t length,
+                                              uint32_t* written);
+TESSARO_API int32_t TESSARO_CALL imistDecoder(const void* stream, void* destination, uint32_t count);
+TESSARO_API int32_t TESSARO_CALL imistDecoderSafe(const void* stream, void* destination, uint32_t stream_size,
+                                                  uint32_t count);
+
+/* inda: blocks of eight bytes, each byte whole or as the bits in which it differs from a byte one to eight places
+ * back; the encoder tries every distance and every number of bits. Minimum length 65, margin 64. */
+TESSARO_API int32_t TESSARO_CALL indaEncoder(const void* source, void* destination, uint32_t length,
+                                             uint32_t* written);
+TESSARO_API int32_t TESSARO_CALL indaDecoder(const void* stream, void* destination, uint32_t count);
+TESSARO_API int32_t TESSARO_CALL indaDecoderSafe(const void* stream, void* destination, uint32_t stream_size,
+                                                 uint32_t count);
+
+/* ica: pixels against the pixel before; each byte whole or cut to its low 3 or 5 bits. Minimum length 129, margin
+ * 128. A repeated pixel costs 5 bits, any other 17 to 37. */
+TESSARO_API int32_t TESSARO_CALL icaEncoder(const void* source, void* destination, uint32_t length,
+                                            uint32_t* written);
+TESSARO_API int32_t TESSARO_CALL icaDecoder(const void* stream, void* destination, uint32_t count);
+TESSARO_API int32_t TESSARO_CALL icaDecoderSafe(const void* stream, void* destination, uint32_t stream_size,
+                                                uint32_t count);
+
 /* c2f: blocks of eight 32-bit pixels; the bytes of a pixel (blue, green, red or alpha) that do not change
  * within a block against the pixel before it are left out. For pixels with a constant alpha and flat areas.
  *

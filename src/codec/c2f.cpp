@@ -1,10 +1,11 @@
-// The block-mask format: eight pixels at a time, without the bytes that do not change.
+// c2f, the block-mask format: eight pixels at a time, without the bytes that do not change.
 //
 // Both sides are plain 64-bit words: the n kept bytes of eight pixels fill n words exactly, so a block is
 // packed and unpacked without a load or a store beyond it.
 #include <cstddef>
 #include <cstring>
 
+#include "codec/bytes.hpp"
 #include "frame/numbers.hpp"
 #include "tessaro/codec.h"
 
@@ -76,10 +77,7 @@ unsigned changed_bytes(const uint8_t* block, uint32_t base) {
   const uint64_t twice = base * uint64_t{0x100000001};
   uint64_t d = 0;
   for (unsigned i = 0; i < block_pixels; i += 2) d |= load<uint64_t>(block + 4 * i) ^ twice;
-  const uint32_t pixel = static_cast<uint32_t>(d | d >> 32);
-  // A byte that is not 0 gets its top bit set; the product then collects the four bits.
-  const uint32_t set = (((pixel & 0x7F7F7F7F) + 0x7F7F7F7F) | pixel) & 0x80808080;
-  return (set >> 7) * 0x10204080u >> 28;
+  return ~zero_bytes(static_cast<uint32_t>(d | d >> 32)) & all_bytes;
 }
 
 struct Encoder {
@@ -217,7 +215,7 @@ extern "C" int32_t TESSARO_CALL c2fEncoder(const void* source, void* destination
   *e.out++ = 0;
   *e.out++ = static_cast<uint8_t>(tail);
   if (tail) std::memcpy(e.out, e.at, tail);
-  *written = static_cast<uint32_t>(e.out + tail - start);
+  store(written, static_cast<uint32_t>(e.out + tail - start));
   return 0;
 }
 

@@ -1,17 +1,8 @@
 // The block-mask format: streams written by hand, round trips, and a decoder that no stream leads astray.
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <cstdint>
-#include <memory>
-#include <vector>
-
-#include "support/images.hpp"
+#include "codec/streams.hpp"
 
 namespace tessaro::test {
 namespace {
-
-using Bytes = std::vector<uint8_t>;
 
 Bytes encode(const Bytes& source) {
   Bytes out(source.size() + (source.size() + 31) / 32 + 3, 0xA5);
@@ -24,9 +15,8 @@ Bytes encode(const Bytes& source) {
 
 // Stream and destination are exactly as long as they are said to be, for AddressSanitizer to see.
 int32_t decode(const Bytes& stream, Bytes& out) {
-  const std::unique_ptr<uint8_t[]> exact(new uint8_t[stream.size()]);
-  std::copy(stream.begin(), stream.end(), exact.get());
-  return c2fDecoder(exact.get(), out.data(), static_cast<uint32_t>(stream.size()),
+  const Exact exact(stream);
+  return c2fDecoder(exact, out.data(), static_cast<uint32_t>(stream.size()),
                     static_cast<uint32_t>(out.size()));
 }
 

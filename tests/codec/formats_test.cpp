@@ -21,6 +21,10 @@ constexpr Format formats[] = {
     {"ib18", 512, 32, ib18Encoder, ib18Decoder, ib18DecoderSafe},
     {"ib18Ex", 512, 32, ib18EncoderEx, ib18DecoderEx, ib18DecoderExSafe, true},
     {"iabr", 257, 256, iabrEncoder, iabrDecoder, iabrDecoderSafe},
+    {"inabe", 257, 256, inabeEncoder, inabeDecoder, inabeDecoderSafe},
+    {"imist", 129, 128, imistEncoder, imistDecoder, imistDecoderSafe},
+    {"inda", 65, 64, indaEncoder, indaDecoder, indaDecoderSafe},
+    {"ica", 129, 128, icaEncoder, icaDecoder, icaDecoderSafe},
 };
 
 class Formats : public testing::TestWithParam<Format> {};

@@ -1,0 +1,79 @@
+// The frame of the formats that send one pixel of four bytes after another, each against the pixel before it: all they
+// differ in is how one pixel is coded.
+#pragma once
+
+#include <cstring>
+
+#include "codec/bits.hpp"
+
+namespace tessaro {
+
+struct PixelCode {
+  uint64_t bits;
+  unsigned width;  // at most 56
+};
+
+// code(pixel, before) gives a PixelCode. Stops without a flush once `written` reaches the limit.
+template <class Code>
+inline int32_t encode_pixels(const void* source, void* destination, uint32_t length, uint32_t* written,
+                             uint32_t margin, Code code) {
+  const auto* in = static_cast<const uint8_t*>(source);
+  const uint32_t limit = length - margin;
+  BitWriter out(static_cast<uint8_t*>(destination));
+  uint32_t before = 0, left = length;
+  // Far from the limit and from the end, where at least 7 more bytes follow.
+  for (; left >= 4 * 64 && out.written() + 16 < limit; in += 4, left -= 4) {
+    const auto pixel = load<uint32_t>(in);
+    const PixelCode c = code(pixel, before);
+    out.put_ahead(c.bits, c.width);
+    before = pixel;
+  }
+  while (left != 0) {
+    // A short last pixel keeps the bytes of the one before in its other places.
+    const uint32_t n = left < 4 ? left : 4;
+    uint32_t pixel = before;
+    std::memcpy(&pixel, in, n);
+    const PixelCode c = code(pixel, before);
+    const unsigned low = c.width / 2;
+    out.put(static_cast<uint32_t>(c.bits >> low), c.width - low);
+    out.put(static_cast<uint32_t>(c.bits & ((uint64_t{1} << low) - 1)), low);
+    if (out.written() >= limit) {
+      store(written, out.written());
+      return 1;
+    }
+    before = pixel;
+    in += n;
+    left -= n;
+  }
+  out.flush();
+  store(written, out.written());
+  return out.written() >= limit;
+}
+
+// next(reader, before, need) gives the next pixel; it calls need(n) before it looks at n bits. No pixel costs fewer
+// than `least_bits` bits.
+template <class Source, class Next>
+inline int32_t decode_pixels(Source source, void* destination, uint32_t count, unsigned least_bits,
+                             Next next) {
+  if (count == 0) return 1;
+  BitReader<Source> in(source);
+  auto* out = static_cast<uint8_t*>(destination);
+  uint32_t pixel = 0;
+  for (;;) {
+    if (in.can_refill(uint64_t{count / 4} * least_bits)) {
+      in.refill();
+      pixel = next(in, pixel, [](unsigned) {});
+    } else {
+      pixel = next(in, pixel, [&](unsigned n) { in.need(n); });
+      if (in.ran_out()) return 1;
+    }
+    if (count <= 4) break;
+    store(out, pixel);
+    out += 4;
+    count -= 4;
+  }
+  std::memcpy(out, &pixel, count);
+  return 0;
+}
+
+}  // namespace tessaro
