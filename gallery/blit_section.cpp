@@ -87,7 +87,7 @@ void show_blits(Gallery& gallery) {
     gallery.show(
         "A sprite", "// alpha 255 in the middle, 0 at the rim",
         "The sprite of the next entries: the middle of the second photograph, with alpha falling off.", dst,
-        [] {}, true);
+        {}, true);
   }
   {
     Picture dst = first;
@@ -119,8 +119,7 @@ void show_blits(Gallery& gallery) {
   {
     Picture dst = keyed;
     gallery.show("A keyed picture", "// the pixel at (0, 0) is the key",
-                 "The source of the next two entries: a flat green surrounds what is to be seen.", dst,
-                 [] {});
+                 "The source of the next two entries: a flat green surrounds what is to be seen.", dst, {});
   }
   {
     Picture dst = first;

@@ -2,7 +2,8 @@
 
 #include <png.h>
 
-#include <cstring>
+#include <algorithm>
+#include <cmath>
 #include <fstream>
 #include <iterator>
 
@@ -30,15 +31,20 @@ std::optional<Picture> load_picture(const std::string& path, std::string& why) {
     why = "cannot read " + path;
     return {};
   }
-  png_image image{};
-  image.version = PNG_IMAGE_VERSION;
-  if (!png_image_begin_read_from_memory(&image, file->data(), file->size())) {
-    why = path + " is no PNG";
+  int32_t width = 0, height = 0;
+  const auto size = static_cast<int32_t>(std::min<size_t>(file->size(), INT32_MAX));
+  if (DecodeImageHead(file->data(), size, &width, &height) || width == 0) {
+    why = path + " is no picture that can be decoded, or larger than 8 MiB";
     return {};
   }
-  image.format = PNG_FORMAT_BGRA;
-  Picture picture(static_cast<int>(image.width), static_cast<int>(image.height));
-  png_image_finish_read(&image, nullptr, picture.pixels(), 4 * picture.width(), nullptr);
+  // Extents come in hundredths of a millimetre, 96 pixels to an inch.
+  const long columns = std::lround(width * 96 / 2540.0), rows = std::lround(height * 96 / 2540.0);
+  if (columns > 8191) {
+    why = path + " is wider than the 8191 pixels that an image record can describe";
+    return {};
+  }
+  Picture picture(static_cast<int>(columns), static_cast<int>(rows));
+  DecodeImage(picture.record(), file->data(), size);
   return picture;
 }
 

@@ -179,7 +179,9 @@ class Page : public Gallery {
   }
 
  private:
+  // Below 0 where there is nothing to measure.
   double measure(const std::function<void()>& call) {
+    if (!call) return -1;
     const auto start = Clock::now();
     call();
     const double seconds = seconds_since(start);
@@ -192,7 +194,9 @@ class Page : public Gallery {
     body_ += "<figcaption>\n<h3>" + escape(title) + "</h3>\n";
     if (!code.empty()) body_ += code_block(code) + "\n";
     if (!notice.empty()) body_ += "<p>" + escape(notice) + "</p>\n";
-    if (seconds >= 0) body_ += "<p class=\"facts\">" + facts + " · <b>" + duration(seconds) + "</b></p>\n";
+    if (!facts.empty())
+      body_ += "<p class=\"facts\">" + facts + (seconds < 0 ? "" : " · <b>" + duration(seconds) + "</b>") +
+               "</p>\n";
     body_ += "</figcaption>\n";
   }
 
@@ -315,7 +319,7 @@ int run(int argc, char** argv) {
   }
 
   const std::string media = GALLERY_MEDIA;
-  std::vector<std::string> files{media + "/cat.png", media + "/cat.png"};
+  std::vector<std::string> files{media + "/coffee.jpg", media + "/rocket.jpg", media + "/cat.png"};
   if (!picture.empty()) files.insert(files.begin(), picture);
   std::string why;
   std::vector<Picture> photos;

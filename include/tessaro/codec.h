@@ -124,6 +124,28 @@ TESSARO_API int32_t TESSARO_CALL c2fEncoder(const void* source, void* destinatio
 TESSARO_API int32_t TESSARO_CALL c2fDecoder(const void* stream, void* destination, uint32_t stream_size,
                                             uint32_t size);
 
+/* ---- Pictures ----
+ *
+ * A picture file as it lies on disk, in memory: `file` points to its `size` bytes. Windows loads it with the OLE
+ * picture loader and knows what that knows. Elsewhere JPEG, PNG, GIF (the first image) and bitmap files without
+ * compression (1 to 32 bits) are known, up to 32767 pixels an edge and 512 MiB of pixels; rows that a damaged
+ * file does not give are not drawn.
+ *
+ * Both return 1 when size is below 64 or above 8388608 or there is no memory for the file, and otherwise 0: also
+ * for a file that is no picture, and for a picture that is no bitmap (an icon, a cursor, a metafile). */
+
+/* The extents of a bitmap in HIMETRIC units, hundredths of a millimetre, not in pixels; elsewhere than on Windows
+ * at 96 pixels an inch, rounded to nearest: 8 pixels are 212. pixels = round(extent * 96 / 2540). Both are set to
+ * 0 before anything else and stay 0 where there is no bitmap. */
+TESSARO_API int32_t TESSARO_CALL DecodeImageHead(const void* file, int32_t size, int32_t* width,
+                                                 int32_t* height);
+
+/* Draws a bitmap at (0, 0) of a device context: an HDC on Windows, elsewhere an ImageRecord*, which receives
+ * pixels 0xAARRGGBB with alpha 0 where the file has none. The rectangle drawn has as many columns as the number of
+ * the picture's HIMETRIC height, and as many rows as that of its HIMETRIC width, cut to the picture and to the
+ * destination: all of a picture, unless one edge is over 26 times as long as the other. */
+TESSARO_API int32_t TESSARO_CALL DecodeImage(void* device, const void* file, int32_t size);
+
 #ifdef __cplusplus
 }
 #endif

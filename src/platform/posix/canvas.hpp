@@ -1,0 +1,64 @@
+// What the readers of picture files have in common.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+
+namespace tessaro::platform {
+
+// A picture file in memory. Fields that lie past its end read as 0.
+struct PictureFile {
+  const uint8_t* bytes;
+  size_t size;
+
+  uint32_t field(size_t at, size_t count) const {
+    uint32_t v = 0;
+    for (size_t i = 0; i < count && at + i < size; ++i) v |= static_cast<uint32_t>(bytes[at + i]) << 8 * i;
+    return v;
+  }
+  bool starts_with(const char* text, size_t count) const {
+    for (size_t i = 0; i < count; ++i)
+      if (i >= size || bytes[i] != static_cast<uint8_t>(text[i])) return false;
+    return true;
+  }
+};
+
+// Where a reader puts its picture: rows of 0xAARRGGBB from the top, alpha 0 where the file has none. Rows that
+// a damaged file does not give are not drawn.
+class Canvas {
+ public:
+  explicit Canvas(bool wants_pixels) : wants_pixels_(wants_pixels) {}
+  Canvas(const Canvas&) = delete;
+  Canvas& operator=(const Canvas&) = delete;
+  ~Canvas() { std::free(pixels_); }
+
+  // Called once, when the size is known. False when the reader is to stop: the picture is too large, there is no
+  // memory for it, or its size was all that was wanted.
+  bool open(int64_t width, int64_t height) {
+    constexpr int64_t edge = 32767, bytes = int64_t{512} << 20;
+    if (width < 1 || height < 1 || width > edge || height > edge || width * height * 4 > bytes) return false;
+    if (wants_pixels_) {
+      pixels_ = static_cast<uint32_t*>(std::calloc(static_cast<size_t>(width * height), 4));
+      if (!pixels_) return false;
+    }
+    this->width = static_cast<int32_t>(width);
+    this->height = static_cast<int32_t>(height);
+    return wants_pixels_;
+  }
+  uint32_t* row(int64_t y) { return pixels_ + y * width; }
+
+  int32_t width = 0, height = 0;
+  int32_t first = 0, last = 0;  // the rows that were decoded: first <= y < last
+
+ private:
+  bool wants_pixels_;
+  uint32_t* pixels_ = nullptr;
+};
+
+void read_bitmap_file(const PictureFile& file, Canvas& canvas);
+void read_jpeg(const PictureFile& file, Canvas& canvas);
+void read_png(const PictureFile& file, Canvas& canvas);
+void read_gif(const PictureFile& file, Canvas& canvas);
+
+}  // namespace tessaro::platform
