@@ -178,7 +178,49 @@ TESSARO_API int32_t TESSARO_CALL BBIBltToF(void* dst, const uint32_t* src, int32
  * ------------------------------------------------------------------------------------- */
 
 /* ---- Tone and levels
- * -------------------------------------------------------------------------------------------- */
+ * --------------------------------------------------------------------------------------------
+ *
+ * The three blits clip and walk as the unscaled blits do, and return 1 when nothing is left. */
+
+/* Gives s the brightness of d: delta = (B + G + R + 1) / 3 of d less that of s; each colour is s + delta, kept
+ * within 0..255. Alpha stays that of d. */
+TESSARO_API int32_t TESSARO_CALL BBIBltTone(ImageRecord* dst, const ImageRecord* src, int32_t dx, int32_t dy,
+                                            int32_t cx, int32_t cy, int32_t sx, int32_t sy);
+
+/* Mixes s into d the more, the closer the two colours are at equal brightness. With the brightness
+ * (B + G + R) / 3, e = d - s + brightness of s - brightness of d for each colour and
+ * distance = trunc(sqrt(the sum of their squares)), the weight is w = trunc(256 - distance * factor) in double
+ * precision, kept within 0..256; every byte, alpha included, becomes (d * (256 - w) + s * w) >> 8. factor 0
+ * copies. Where the weight before it is limited is not a number or does not fit 32 bits, it counts as 0. */
+TESSARO_API int32_t TESSARO_CALL BBIBltToneWB(ImageRecord* dst, const ImageRecord* src, int32_t dx,
+                                              int32_t dy, int32_t cx, int32_t cy, int32_t sx, int32_t sy,
+                                              float factor);
+
+/* Source-over onto a destination that may itself be partly transparent. The first of these that applies: where
+ * s has alpha 0, d stays; where s has alpha 255 or d has alpha 0, s replaces it, whatever the opacity; else the
+ * colours become (d * (256 - w) + s * w) >> 8 with w = trunc(alpha of s * opacity * 256 / 255) and the alpha
+ * a + (255 - a) * alpha of s / 255 with a = alpha of d. opacity above 1 counts as 1; a negative one, or not a
+ * number, returns 1. */
+TESSARO_API int32_t TESSARO_CALL BBIBltTrueBlend(ImageRecord* dst, const ImageRecord* src, int32_t dx,
+                                                 int32_t dy, int32_t cx, int32_t cy, int32_t sx, int32_t sy,
+                                                 float opacity);
+
+/* Stretch the levels of a whole image in place, as BBIExpandChooseBlt with bounds does. The low bound of a
+ * channel is the first level from 0 up at which more than threshold pixels lie at or below it (0 if there is
+ * none), the high bound the same from 255 down (255 if there is none); a negative threshold gives 0 and 255.
+ * Return 1 for an image without pixels, else 0. With Bl, Gl, Rl and Bh, Gh, Rh the bounds of blue, green and
+ * red, the channels are stretched
+ *             blue from..to                  green from..to                 red from..to
+ *   RGB       Rl..Rh                         Gl..Gh                         Bl..Bh
+ *   RGBRev    (Gl + Rl)/2..(Gh + Rh)/2       (Bl + Rl)/2..(Bh + Rh)/2       (Bl + Gl)/2..(Bh + Gh)/2
+ *   RGBMul    (Gl + Rl)/8..Bh                (Bl + Rl)/8..Gh                (Bl + Gl)/8..Rh
+ *   WB        L..H                           L..H                           L..H
+ * RGB crosses blue and red; a picture whose channels have the same histogram does not show it. WB measures L
+ * and H in one histogram of all three bytes of every pixel, three counts a pixel. */
+TESSARO_API int32_t TESSARO_CALL BBIAutoLevelRGB(ImageRecord* image, int32_t threshold);
+TESSARO_API int32_t TESSARO_CALL BBIAutoLevelRGBRev(ImageRecord* image, int32_t threshold);
+TESSARO_API int32_t TESSARO_CALL BBIAutoLevelRGBMul(ImageRecord* image, int32_t threshold);
+TESSARO_API int32_t TESSARO_CALL BBIAutoLevelWB(ImageRecord* image, int32_t threshold);
 
 #ifdef __cplusplus
 }

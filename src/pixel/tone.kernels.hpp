@@ -1,0 +1,121 @@
+// kernels: ToneKernels for scalar sse2 avx2 avx512
+#include "pixel/tone.hpp"
+
+#include <emmintrin.h>
+
+#include "simd/rules.hpp"
+#include "simd/walk.hpp"
+
+namespace {
+
+using tessaro::AreaPair;
+
+// sum / 3 without the remainder: 21846 / 65536 is a little more than 1/3, and exact for sums up to 766.
+template <class H>
+TESSARO_INLINE H third(H sum) {
+  return mul_high(sum, H::splat(21846));
+}
+
+template <class P>
+struct Tone {
+  TESSARO_INLINE P operator()(P d, P s) const {
+    const P wanted = brightness(d), has = brightness(s);
+    return with_alpha(sub_sat(add_sat(s, sub_sat(wanted, has)), sub_sat(has, wanted)), d);
+  }
+  TESSARO_INLINE static P brightness(P a) {  // in all four bytes
+    const auto mean = third(colour_sums(a) + P::Half::splat(1));
+    return join(mean, mean);
+  }
+};
+
+// The weight 0..256 of a pixel in both lanes: trunc(256 - distance * factor), where distance is the root of the sum of
+// the squares of both lanes of `even` and the lower lane of `odd`, truncated.
+// Sums stay below 2^20, and single precision gives their truncated root exactly: a float holds every sum, and the root
+// of one less than a square lies further below the integer than half a unit in the last place.
+TESSARO_INLINE One::Half weight_by_distance(One::Half even, One::Half odd, double factor) {
+  const int32_t blue = static_cast<int16_t>(even.v), red = static_cast<int16_t>(even.v >> 16),
+                green = static_cast<int16_t>(odd.v);
+  const auto sum = static_cast<float>(blue * blue + green * green + red * red);
+  const int32_t distance = _mm_cvttss_si32(_mm_sqrt_ss(_mm_set_ss(sum)));
+  const int32_t weight = tessaro::trunc32(256.0 - distance * factor);
+  return One::Half::splat(weight < 0 ? 0 : weight > 256 ? 256 : static_cast<uint32_t>(weight));
+}
+#if TESSARO_LANES == 16
+TESSARO_INLINE Px::Half weight_by_distance(Px::Half even, Px::Half odd, double factor) {
+  const __m512i green = _mm512_and_si512(odd.v, _mm512_set1_epi32(0xFFFF));
+  const __m512i sum = _mm512_add_epi32(_mm512_madd_epi16(even.v, even.v), _mm512_madd_epi16(green, green));
+  const __m512i distance = _mm512_cvttps_epi32(_mm512_sqrt_ps(_mm512_cvtepi32_ps(sum)));
+  const auto weights = [factor](__m256i eight) {
+    return _mm512_cvttpd_epi32(
+        _mm512_sub_pd(_mm512_set1_pd(256), _mm512_mul_pd(_mm512_cvtepi32_pd(eight), _mm512_set1_pd(factor))));
+  };
+  const __m512i all = _mm512_inserti64x4(_mm512_castsi256_si512(weights(_mm512_castsi512_si256(distance))),
+                                         weights(_mm512_extracti64x4_epi64(distance, 1)), 1);
+  const __m512i weight =
+      _mm512_min_epi32(_mm512_max_epi32(all, _mm512_setzero_si512()), _mm512_set1_epi32(256));
+  return {_mm512_or_si512(weight, _mm512_slli_epi32(weight, 16))};
+}
+#elif TESSARO_LANES == 8
+TESSARO_INLINE Px::Half weight_by_distance(Px::Half even, Px::Half odd, double factor) {
+  const __m256i green = _mm256_and_si256(odd.v, _mm256_set1_epi32(0xFFFF));
+  const __m256i sum = _mm256_add_epi32(_mm256_madd_epi16(even.v, even.v), _mm256_madd_epi16(green, green));
+  const __m256i distance = _mm256_cvttps_epi32(_mm256_sqrt_ps(_mm256_cvtepi32_ps(sum)));
+  const auto weights = [factor](__m128i four) {
+    return _mm256_cvttpd_epi32(
+        _mm256_sub_pd(_mm256_set1_pd(256), _mm256_mul_pd(_mm256_cvtepi32_pd(four), _mm256_set1_pd(factor))));
+  };
+  const __m256i weight = _mm256_set_m128i(weights(_mm256_extracti128_si256(distance, 1)),
+                                          weights(_mm256_castsi256_si128(distance)));
+  const Px::Half packed{_mm256_packs_epi32(weight, weight)};
+  const __m256i kept = min(max(packed, Px::Half::splat(0)), Px::Half::splat(256)).v;
+  return {_mm256_unpacklo_epi16(kept, kept)};
+}
+#elif TESSARO_LANES == 4
+TESSARO_INLINE Px::Half weight_by_distance(Px::Half even, Px::Half odd, double factor) {
+  const __m128i green = _mm_and_si128(odd.v, _mm_set1_epi32(0xFFFF));
+  const __m128i sum = _mm_add_epi32(_mm_madd_epi16(even.v, even.v), _mm_madd_epi16(green, green));
+  const __m128i distance = _mm_cvttps_epi32(_mm_sqrt_ps(_mm_cvtepi32_ps(sum)));
+  const auto weights = [factor](__m128i two) {
+    return _mm_cvttpd_epi32(
+        _mm_sub_pd(_mm_set1_pd(256), _mm_mul_pd(_mm_cvtepi32_pd(two), _mm_set1_pd(factor))));
+  };
+  const __m128i weight =
+      _mm_unpacklo_epi64(weights(distance), weights(_mm_unpackhi_epi64(distance, distance)));
+  const Px::Half packed{_mm_packs_epi32(weight, weight)};
+  const __m128i kept = min(max(packed, Px::Half::splat(0)), Px::Half::splat(256)).v;
+  return {_mm_unpacklo_epi16(kept, kept)};
+}
+#endif
+
+template <class P>
+struct ToneMix {
+  double factor;
+  TESSARO_INLINE P operator()(P d, P s) const {
+    const auto lift = third(colour_sums(s)) - third(colour_sums(d));
+    return mix(d, s, weight_by_distance(even(d) - even(s) + lift, odd(d) - odd(s) + lift, factor));
+  }
+};
+
+template <class P>
+struct TrueBlend {
+  uint32_t factor;
+  TESSARO_INLINE P operator()(P d, P s) const {
+    using H = typename P::Half;
+    const H sa = alpha_halves(s), da = alpha_halves(d);
+    // A product of two bytes through 255, without the remainder.
+    const H more = (H::splat(255) - da) * sa;
+    const H alpha = da + shr<8>(more + H::splat(1) + shr<8>(more));
+    const P blended = with_alpha(mix(d, s, scaled_alpha(s, factor)), join(alpha, alpha));
+    const P first = P::splat(0x01000000), last = P::splat(0xFEFFFFFF);
+    const P covered = select(above(first, d), s, select(above(s, last), s, blended));
+    return select(above(first, s), d, covered);
+  }
+};
+
+}  // namespace
+
+TESSARO_KERNELS(ToneKernels){
+    .tone = [](const AreaPair& n) { walk2<Tone>(n); },
+    .tone_mix = [](const AreaPair& n, double factor) { walk2<ToneMix>(n, factor); },
+    .true_blend = [](const AreaPair& n, uint32_t factor) { walk2<TrueBlend>(n, factor); },
+};
