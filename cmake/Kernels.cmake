@@ -10,7 +10,7 @@ set(TESSARO_FLAGS_avx512 ${TESSARO_FLAGS_avx2} -mavx512f -mavx512bw -mavx512vl -
 
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   # The compiler's own header starts registers from themselves where their value does not matter.
-  list(APPEND TESSARO_FLAGS_avx512 -Wno-maybe-uninitialized)
+  list(APPEND TESSARO_FLAGS_avx512 -Wno-maybe-uninitialized -Wno-uninitialized)
 endif()
 if(MINGW AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   # The compiler believes 32-byte stack slots to be aligned where 64-bit Windows aligns to 16.

@@ -47,7 +47,7 @@ struct Gradient {
         odd_rise(odd(P::splat(right)) - odd(P::splat(left))),
         mask(P::splat(m)) {}
   TESSARO_INLINE P operator()([[maybe_unused]] P d, P weights) const {
-    const Half w{weights.v};
+    const Half w = halves(weights);
     const P colour = join_high(even_base + even_rise * w, odd_base + odd_rise * w);
     if constexpr (masked)
       return (d & mask) | and_not(colour, mask);

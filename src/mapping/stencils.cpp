@@ -1,0 +1,109 @@
+#include "mapping/stencils.hpp"
+
+#include "pixel/blit.hpp"
+#include "simd/weights.hpp"
+#include "tessaro/tessaro.h"
+
+using namespace tessaro;
+
+namespace {
+
+// Clips against the destination and then against each source; all sources are read at one position.
+bool clip_stencil(ImageRecord* dst, const ImageRecord* outgoing, const ImageRecord* incoming,
+                  const ImageRecord* stencil, int32_t dx, int32_t dy, int32_t width, int32_t height,
+                  int32_t sx, int32_t sy, StencilAreas& areas) {
+  const ImageView d = ImageView::of(dst), o = ImageView::of(outgoing), i = ImageView::of(incoming),
+                  s = ImageView::of(stencil);
+  int64_t ax = dx, ay = dy, w = width, h = height, bx = sx, by = sy;
+  if (ClipRect(d.width, d.height, ax, ay, w, h, bx, by)) return false;
+  const auto empty = [&](const ImageView& source) {
+    return ClipRect(source.width, source.height, bx, by, w, h, ax, ay) != 0;
+  };
+  if (empty(o) || empty(i) || empty(s)) return false;
+  const auto at = [&](const ImageView& v) { return StencilAreas::Source{v.at(bx, by), v.pitch}; };
+  areas = {d.at(ax, ay), d.pitch, at(o), at(i), at(s), static_cast<ptrdiff_t>(w), static_cast<ptrdiff_t>(h)};
+  return true;
+}
+
+void copy(const StencilAreas& n, StencilAreas::Source from) {
+  kernels<BlitKernels>().copy({n.dst, n.dst_pitch, from.at, from.pitch, n.width, n.height});
+}
+
+// The weights of a soft ramp of width s, which slides over the stencil's values with the progress p. Only the
+// lower end is rounded to single precision.
+void build_ramp(uint32_t (&weights)[256], double p, double s) {
+  const double middle = (s + 1.0) * p - s / 2;
+  const double low = static_cast<float>(middle - s / 2), high = middle + s / 2;
+  for (int32_t i = 0; i < 256; ++i) {
+    const double v = static_cast<float>(i) * 0.003921569f;
+    const double weight = v <= low ? 0.0 : v >= high ? 256.0 : (v - low) / s * 256.0;
+    weights[i] = weight < 256.0 ? static_cast<uint32_t>(trunc32(weight)) : 256u;
+  }
+}
+
+int32_t flip(const StencilAreas& areas, float progress, float softness) {
+  const StencilKernels& k = kernels<StencilKernels>();
+  const float p = progress > 0 ? (progress < 1 ? progress : 1.0f) : 0.0f;  // not a number: 0
+  if (softness >= 1000) {
+    k.fade(areas, static_cast<uint32_t>(trunc32((1.0 - static_cast<double>(p)) * 256.0)));
+  } else if (softness > 0) {
+    uint32_t weights[256];
+    build_ramp(weights, static_cast<double>(p), static_cast<double>(softness));
+    k.soft(areas, weights);
+  } else {
+    const auto limit = static_cast<uint32_t>(trunc32(p * 256.0f));
+    if (limit == 0)
+      copy(areas, areas.outgoing);
+    else if (limit == 256)
+      copy(areas, areas.incoming);
+    else
+      k.hard(areas, limit);
+  }
+  return status_done;
+}
+
+}  // namespace
+
+extern "C" {
+
+// Both ways of working give the same bytes, so `wide` chooses nothing.
+int32_t TESSARO_CALL BBIStencilFlip(ImageRecord* dst, const ImageRecord* outgoing,
+                                    const ImageRecord* incoming, int32_t dx, int32_t dy, int32_t w, int32_t h,
+                                    int32_t sx, int32_t sy, float progress, float softness, int32_t) {
+  StencilAreas areas;
+  if (!clip_stencil(dst, outgoing, incoming, incoming, dx, dy, w, h, sx, sy, areas)) return status_nothing;
+  return flip(areas, progress, softness);
+}
+
+int32_t TESSARO_CALL BBIStencilFlipLE(ImageRecord* dst, const ImageRecord* first, const ImageRecord* second,
+                                      const ImageRecord* stencil, int32_t dx, int32_t dy, int32_t w,
+                                      int32_t h, int32_t sx, int32_t sy, float progress, float softness) {
+  StencilAreas areas;
+  if (!clip_stencil(dst, first, second, stencil, dx, dy, w, h, sx, sy, areas)) return status_nothing;
+  return flip(areas, progress, softness);
+}
+
+int32_t TESSARO_CALL BBIStencilFlipLEFix(ImageRecord* dst, const ImageRecord* first,
+                                         const ImageRecord* second, const ImageRecord* stencil, int32_t dx,
+                                         int32_t dy, int32_t w, int32_t h, int32_t sx, int32_t sy,
+                                         float progress, float softness) {
+  return BBIStencilFlipLE(dst, second, first, stencil, dx, dy, w, h, sx, sy, progress, softness);
+}
+
+int32_t TESSARO_CALL BBIStencilAddsigned(ImageRecord* dst, const ImageRecord* src, int32_t dx, int32_t dy,
+                                         int32_t w, int32_t h, int32_t sx, int32_t sy, float opacity,
+                                         uint32_t color) {
+  AreaPair areas;
+  if (!clip_two(dst, src, dx, dy, w, h, sx, sy, areas)) return status_nothing;
+  const float clamped = opacity > 0 ? (opacity < 1 ? opacity : 1.0f) : 0.0f;
+  // The offset 2 * c - 255 of each colour as two saturating steps, of which one is 0; alpha falls to 0.
+  uint32_t raise = 0, lower = 0xFF000000;
+  for (int k = 0; k < 24; k += 8) {
+    const auto offset = static_cast<int32_t>(2 * (color >> k & 255)) - 255;
+    (offset > 0 ? raise : lower) |= static_cast<uint32_t>(offset > 0 ? offset : -offset) << k;
+  }
+  kernels<StencilKernels>().add_signed(areas, raise, lower, alpha_factor(clamped));
+  return status_done;
+}
+
+}  // extern "C"

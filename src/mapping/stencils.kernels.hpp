@@ -1,0 +1,77 @@
+// kernels: StencilKernels for scalar sse2 avx2 avx512
+#include "mapping/stencils.hpp"
+#include "simd/rules.hpp"
+#include "simd/walk.hpp"
+
+namespace {
+
+using tessaro::AreaPair;
+using tessaro::StencilAreas;
+
+template <class P>
+struct Hard {
+  P last;
+  TESSARO_INLINE explicit Hard(uint32_t limit) : last(P::splat((limit << 24) - 1)) {}
+  TESSARO_INLINE P operator()(P o, P i, P stencil) const { return select(above(stencil, last), o, i); }
+};
+template <class P>
+struct Soft {
+  const uint32_t* weights;
+  TESSARO_INLINE P operator()(P o, P i, P stencil) const { return mix(i, o, lookup_alpha(stencil, weights)); }
+};
+template <class P>
+struct Fade {
+  typename P::Half weight, rest;
+  TESSARO_INLINE explicit Fade(uint32_t w) : weight(P::Half::splat(w)), rest(P::Half::splat(256 - w)) {}
+  TESSARO_INLINE P operator()(P o, P i, P) const { return mix(i, o, weight, rest); }
+};
+
+// dst[x] = rule(o[x], i[x], stencil[x])
+template <class P, class Rule>
+TESSARO_INLINE void stencil_row(uint8_t* dst, const uint8_t* o, const uint8_t* i, const uint8_t* s,
+                                size_t width, const Rule& rule) {
+  size_t x = 0;
+  for (; x + P::lanes <= width; x += P::lanes)
+    rule(P::load(o + 4 * x), P::load(i + 4 * x), P::load(s + 4 * x)).store(dst + 4 * x);
+  if (const size_t rest = width - x)
+    rule(P::load(o + 4 * x, rest), P::load(i + 4 * x, rest), P::load(s + 4 * x, rest))
+        .store(dst + 4 * x, rest);
+}
+
+template <template <class> class Rule, class Arg>
+void walk_stencil(const StencilAreas& n, Arg arg) {
+  const Rule<Px> rule{arg};
+  const auto width = static_cast<size_t>(n.width);
+  uint8_t* dst = n.dst;
+  auto o = n.outgoing, i = n.incoming, s = n.stencil;
+  for (ptrdiff_t y = 0; y < n.height; ++y) {
+    constexpr size_t ahead = 4 * Px::lanes;
+    if (reads_own_writes(dst, o.at, ahead) || reads_own_writes(dst, i.at, ahead) ||
+        reads_own_writes(dst, s.at, ahead)) [[unlikely]]
+      stencil_row<One>(dst, o.at, i.at, s.at, width, Rule<One>{arg});
+    else
+      stencil_row<Px>(dst, o.at, i.at, s.at, width, rule);
+    dst += n.dst_pitch, o.at += o.pitch, i.at += i.pitch, s.at += s.pitch;
+  }
+}
+
+template <class P>
+struct AddSigned {
+  P raise, lower;
+  uint32_t factor;
+  TESSARO_INLINE AddSigned(uint32_t r, uint32_t l, uint32_t f)
+      : raise(P::splat(r)), lower(P::splat(l)), factor(f) {}
+  TESSARO_INLINE P operator()(P d, P s) const {
+    return mix(d, sub_sat(add_sat(d, raise), lower), scaled_alpha(s, factor));
+  }
+};
+
+}  // namespace
+
+TESSARO_KERNELS(StencilKernels){
+    .hard = walk_stencil<Hard, uint32_t>,
+    .soft = walk_stencil<Soft, const uint32_t*>,
+    .fade = walk_stencil<Fade, uint32_t>,
+    .add_signed = [](const AreaPair& n, uint32_t raise, uint32_t lower,
+                     uint32_t factor) { walk2<AddSigned>(n, raise, lower, factor); },
+};

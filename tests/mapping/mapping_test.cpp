@@ -1,0 +1,255 @@
+// Maps and stencils against their formulas, byte by byte.
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <limits>
+
+#include "support/images.hpp"
+
+namespace tessaro::test {
+namespace {
+
+struct Rect {
+  int32_t dx, dy, w, h, sx, sy;
+};
+// Cuts one axis to the destination and to a source.
+void cut(int32_t& d, int32_t& s, int32_t& n, int32_t d_size, int32_t s_size) {
+  const int32_t low = std::max({0, -d, -s});
+  const int32_t high = std::min({n, d_size - d, s_size - s});
+  d += low, s += low, n = high - low;
+}
+Rect clip(Rect r, Image& dst, Image& src) {
+  cut(r.dx, r.sx, r.w, dst.width(), src.width());
+  cut(r.dy, r.sy, r.h, dst.height(), src.height());
+  return r;
+}
+
+Image some_image(Random& random, int32_t width, int32_t height) {
+  const int32_t pitch = 4 * width + random.between(0, 9);
+  Image image(width, height, random.word() & 1 ? pitch : -pitch, random.word() % 4);
+  image.randomize(random.word());
+  return image;
+}
+// Stretches of one alpha, as pictures have them, among pixels of many.
+void flatten(Image& image, Random& random) {
+  uint32_t alpha = 0xFF000000;
+  for (int32_t y = 0; y < image.height(); ++y)
+    for (int32_t x = 0; x < image.width(); ++x) {
+      if (random.word() % 100 == 0) alpha = random.pixel() & 0xFF000000;
+      image.set(x, y, (image.get(x, y) & 0xFFFFFF) | alpha);
+    }
+}
+
+using Export = int32_t(TESSARO_CALL*)(ImageRecord*, const ImageRecord*, const ImageRecord*, int32_t, int32_t,
+                                      int32_t, int32_t, int32_t, int32_t);
+struct Map {
+  const char* name;
+  Export call;
+  char row;  // 'a'lpha, 's'um, 'x', 'y', '0'
+  bool from_dest, keep_alpha;
+};
+const Map maps[] = {
+    {"BBIMapUC", BBIMapUC, '0', false, false},       {"BBIMapUCVA", BBIMapUCVA, 'a', false, false},
+    {"BBIMapUDVA", BBIMapUDVA, 'a', true, false},    {"BBIMapMCUCVA", BBIMapMCUCVA, 'a', false, true},
+    {"BBIMapMCUDVA", BBIMapMCUDVA, 'a', true, true}, {"BBIMapUCVC", BBIMapUCVC, 's', false, false},
+    {"BBIMapUDVC", BBIMapUDVC, 's', true, false},    {"BBIMapUCVX", BBIMapUCVX, 'x', false, false},
+    {"BBIMapUCVY", BBIMapUCVY, 'y', false, false},
+};
+
+int32_t naive_map(const Map& m, Image& dst, Image& src, Image& map, Rect r) {
+  r = clip(r, dst, src);
+  if (r.w < 1 || r.h < 1 || map.width() < 256 || map.height() < (m.keep_alpha ? 256 : 1)) return 1;
+  const int32_t last = map.height() - 1;
+  float factor = 0;
+  if (m.row == 'a') factor = static_cast<float>(last * static_cast<double>(0.003921569f));
+  if (m.row == 's') factor = static_cast<float>(last * static_cast<double>(0.0013071896f));
+  if (m.row == 'x') factor = static_cast<float>(last / (r.w < 2 ? 1.0 : (r.w - 1) * 4.0));
+  if (m.row == 'y') factor = static_cast<float>(last / (r.h < 2 ? 1.0 : r.h - 1.0));
+  for (int32_t y = 0; y < r.h; ++y)
+    for (int32_t x = 0; x < r.w; ++x) {
+      uint8_t *d = dst.at(r.dx + x, r.dy + y), *s = src.at(r.sx + x, r.sy + y);
+      const int32_t quantity = m.row == 'a'   ? s[3]
+                               : m.row == 's' ? s[0] + s[1] + s[2]
+                               : m.row == 'x' ? 4 * x
+                               : m.row == 'y' ? y
+                                              : 0;
+      const auto row = static_cast<int32_t>(quantity * static_cast<double>(factor));
+      for (int k = 0; k < (m.keep_alpha ? 3 : 4); ++k) d[k] = map.at((m.from_dest ? d : s)[k], row)[k];
+    }
+  return 0;
+}
+
+TEST(Maps, EqualTheirFormulas) {
+  for (const Backend backend : supported_backends()) {
+    const Forced forced(backend);
+    for (uint32_t seed = 0; seed < 200; ++seed) {
+      Random random(seed);
+      const int32_t heights[] = {1, 2, 37, 256, 300};
+      Image map(random.between(0, 20) ? random.between(256, 300) : 255, heights[seed % 5]);
+      map.randomize(seed);
+      const int32_t width = seed < 71 ? static_cast<int32_t>(seed) : random.between(1, 300);
+      Image src = some_image(random, std::max(width, 1), random.between(1, 12));
+      if (seed % 3) flatten(src, random);
+      Image dst = some_image(random, std::max(width + random.between(-3, 3), 1), random.between(1, 12));
+      const Rect r{random.between(-3, 3), random.between(-2, 2), width,
+                   random.between(0, 12), random.between(-3, 3), random.between(-2, 2)};
+      for (const Map& m : maps) {
+        Image want = dst, got = dst;
+        ASSERT_EQ(m.call(got, src, map, r.dx, r.dy, r.w, r.h, r.sx, r.sy), naive_map(m, want, src, map, r))
+            << m.name << " seed " << seed;
+        ASSERT_EQ(got, want) << m.name << " seed " << seed << ' ' << name_of(backend);
+      }
+    }
+  }
+}
+
+TEST(Maps, GoOnePixelAfterAnotherInSharedMemory) {
+  for (const Backend backend : supported_backends()) {
+    const Forced forced(backend);
+    for (uint32_t seed = 0; seed < 120; ++seed) {
+      Random random(seed);
+      Image image = some_image(random, 300, 6), map(256, 5);
+      map.randomize(seed);
+      if (seed % 2) flatten(image, random);
+      const Rect r{random.between(0, 70), random.between(0, 2), 200, 4,
+                   random.between(0, 70), random.between(0, 2)};
+      for (const Map& m : maps) {
+        Image want = image, got = image;
+        naive_map(m, want, want, map, r);
+        m.call(got, got, map, r.dx, r.dy, r.w, r.h, r.sx, r.sy);
+        ASSERT_EQ(got, want) << m.name << " seed " << seed << ' ' << name_of(backend);
+        naive_map(m, want, want, want, r);  // the map, too
+        m.call(got, got, got, r.dx, r.dy, r.w, r.h, r.sx, r.sy);
+        ASSERT_EQ(got, want) << m.name << " over its map, seed " << seed << ' ' << name_of(backend);
+      }
+    }
+  }
+}
+
+uint32_t mix(uint32_t base, uint32_t s, uint32_t w) {
+  uint32_t out = 0;
+  for (int k = 0; k < 32; k += 8) out |= (((base >> k & 255) * (256 - w) + (s >> k & 255) * w) >> 8) << k;
+  return out;
+}
+
+uint32_t transition(uint32_t o, uint32_t i, uint32_t alpha, float progress, float softness) {
+  const double p = progress > 0 ? std::min(static_cast<double>(progress), 1.0) : 0.0;
+  const double s = static_cast<double>(softness);
+  if (!(softness > 0)) return alpha < static_cast<uint32_t>(p * 256) ? i : o;
+  if (softness >= 1000) return mix(i, o, static_cast<uint32_t>((1 - p) * 256));
+  const double low = static_cast<double>(static_cast<float>((s + 1) * p - s / 2 - s / 2));
+  const double high = (s + 1) * p - s / 2 + s / 2;
+  const double v = static_cast<double>(static_cast<float>(alpha) * 0.003921569f);
+  const double weight = v <= low ? 0 : v >= high ? 256 : std::min((v - low) / s * 256, 256.0);
+  return mix(i, o, static_cast<uint32_t>(weight));
+}
+
+enum class Kind { own, separate, reversed };
+void naive_flip(Kind kind, Image& dst, Image& a, Image& b, Image& stencil, Rect r, float p, float s) {
+  for (int32_t y = 0; y < r.h; ++y)
+    for (int32_t x = 0; x < r.w; ++x) {
+      uint32_t o = a.get(r.sx + x, r.sy + y), i = b.get(r.sx + x, r.sy + y);
+      const uint32_t alpha = (kind == Kind::own ? i : stencil.get(r.sx + x, r.sy + y)) >> 24;
+      if (kind == Kind::reversed) std::swap(o, i);
+      dst.set(r.dx + x, r.dy + y, transition(o, i, alpha, p, s));
+    }
+}
+int32_t flip(Kind kind, Image& dst, Image& a, Image& b, Image& stencil, Rect r, float p, float s,
+             int32_t wide) {
+  if (kind == Kind::own) return BBIStencilFlip(dst, a, b, r.dx, r.dy, r.w, r.h, r.sx, r.sy, p, s, wide);
+  return (kind == Kind::separate ? BBIStencilFlipLE : BBIStencilFlipLEFix)(dst, a, b, stencil, r.dx, r.dy,
+                                                                           r.w, r.h, r.sx, r.sy, p, s);
+}
+
+constexpr float nan_value = std::numeric_limits<float>::quiet_NaN();
+const float progresses[] = {0, 1, 0.5f, 0.25f, 0.7f, -1, 2, nan_value, 1e-9f, 0.999999f};
+const float softnesses[] = {0, 0.5f, 1, 0.01f, 1e-9f, 3, 999, 1000, 1e30f, -5, nan_value};
+
+TEST(Stencils, EqualTheirFormulas) {
+  for (const Backend backend : supported_backends()) {
+    const Forced forced(backend);
+    for (uint32_t seed = 0; seed < 330; ++seed) {
+      Random random(seed);
+      const auto image = [&] { return some_image(random, random.between(1, 75), random.between(1, 9)); };
+      Image dst = image(), a = image(), b = image(), stencil = image();
+      const Rect r{random.between(-3, 9), random.between(-2, 3), random.between(0, 80),
+                   random.between(0, 9),  random.between(-3, 9), random.between(-2, 3)};
+      for (const Kind kind : {Kind::own, Kind::separate, Kind::reversed}) {
+        Rect c = clip(clip(r, dst, a), dst, b);
+        if (kind != Kind::own) c = clip(c, dst, stencil);
+        const bool nothing = c.w < 1 || c.h < 1;
+        const float p = progresses[seed % std::size(progresses)],
+                    s = softnesses[seed % std::size(softnesses)];
+        Image want = dst, got = dst;
+        if (!nothing) naive_flip(kind, want, a, b, stencil, c, p, s);
+        ASSERT_EQ(flip(kind, got, a, b, stencil, r, p, s, seed & 1), nothing) << seed;
+        ASSERT_EQ(got, want) << "seed " << seed << " kind " << static_cast<int>(kind) << ' '
+                             << name_of(backend);
+        // In one image: the destination a few pixels from the pictures.
+        Image shared = some_image(random, 90, 8);
+        const Rect near{random.between(0, 20), random.between(0, 2), 70, 6,
+                        random.between(0, 20), random.between(0, 2)};
+        want = shared, got = shared;
+        Image other = some_image(random, 90, 8);
+        const bool in_front = seed & 2;
+        naive_flip(kind, want, in_front ? want : other, in_front ? other : want, want, near, p, s);
+        flip(kind, got, in_front ? got : other, in_front ? other : got, got, near, p, s, 1);
+        ASSERT_EQ(got, want) << "seed " << seed << " kind " << static_cast<int>(kind) << ' '
+                             << name_of(backend);
+      }
+    }
+  }
+}
+
+TEST(Stencils, AddSignedColoursForEveryByteAndAlpha) {
+  Image stencil(256, 256), before(256, 256);
+  for (int32_t y = 0; y < 256; ++y)
+    for (int32_t x = 0; x < 256; ++x) {
+      stencil.set(x, y, static_cast<uint32_t>(y) << 24 | 0x123456);
+      before.set(x, y, static_cast<uint32_t>(x) * 0x01010101u);
+    }
+  for (const Backend backend : supported_backends()) {
+    const Forced forced(backend);
+    for (const uint32_t color : {0x00808080u, 0xFF7F00FFu, 0x0001FE40u})
+      for (const float opacity : {1.0f, 0.5f, 0.3f, -1.0f, 7.0f, nan_value}) {
+        Image got = before;
+        EXPECT_EQ(BBIStencilAddsigned(got, stencil, 0, 0, 256, 256, 0, 0, opacity, color), 0);
+        const double clamped = opacity > 0 ? std::min(static_cast<double>(opacity), 1.0) : 0.0;
+        for (int32_t y = 0; y < 256; ++y) {
+          const auto weight = static_cast<uint32_t>(y * clamped * static_cast<double>(0.003921569f) * 256.0);
+          for (int32_t x = 0; x < 256; ++x) {
+            uint32_t target = 0;
+            for (int k = 0; k < 24; k += 8)
+              target |= static_cast<uint32_t>(
+                            std::clamp(x + 2 * static_cast<int32_t>(color >> k & 255) - 255, 0, 255))
+                        << k;
+            ASSERT_EQ(got.get(x, y), mix(before.get(x, y), target, weight))
+                << x << ' ' << y << ' ' << opacity;
+          }
+        }
+      }
+  }
+}
+
+TEST(Mapping, StaysInsideWhateverTheRectangle) {
+  Random random(9);
+  const auto any = [&] {
+    return random.word() % 2 ? random.between(-4, 12)
+                             : extreme_values[random.word() % std::size(extreme_values)];
+  };
+  Image map(256, 256);
+  int drawn = 0;
+  for (int n = 0; n < 3000; ++n) {
+    Image a(9, 7, -40), b(5, 8), c(7, 7, 29, 1);
+    const int32_t dx = any(), dy = any(), w = any(), h = any(), sx = any(), sy = any();
+    for (const Map& m : maps) drawn += m.call(a, b, map, dx, dy, w, h, sx, sy) == 0;
+    BBIStencilFlip(a, b, c, dx, dy, w, h, sx, sy, 0.3f, 0.2f, 1);
+    BBIStencilFlipLE(a, b, c, b, dx, dy, w, h, sx, sy, 0.3f, 0.0f);
+    BBIStencilFlipLEFix(a, b, c, a, dx, dy, w, h, sx, sy, 0.3f, 2000.0f);
+    BBIStencilAddsigned(a, b, dx, dy, w, h, sx, sy, 0.3f, 0x102030);
+  }
+  EXPECT_GT(drawn, 100);
+}
+
+}  // namespace
+}  // namespace tessaro::test
