@@ -8,6 +8,47 @@
 extern "C" {
 #endif
 
+/* ---- Transforms ----
+ *
+ * Reversible steps in front of a codec: they make as many bytes as they take, and small, repetitive values out of
+ * pixels and samples. Every one returns 0 whatever it is given. The encoders set *written to the number of bytes made.
+ *
+ * iwave: each sample becomes its difference to an earlier one, modulo the sample's width, folded so that small
+ * differences of either sign are small codes (0, -1, 1, -2 become 0, 1, 2, 3).
+ *   11, 12, 32   bytes; the one 1, 2, 4 places before, 128 before the start
+ *   21, 22       little-endian 16-bit words; the one 1, 2 words before, 0 before the start. The last byte of an odd
+ *                length is neither coded nor copied, nor counted in *written: the host carries it.
+ * source and destination may be the same memory; where they overlap otherwise, the results are those of one sample
+ * after another.
+ *
+ * ichshift: bytes that take turns in 2, 3 or 4 channels become one channel after another: first every byte whose
+ * position is a multiple of that number, then those at one more, and so on. Where the length is not a multiple, later
+ * planes are shorter. source and destination should not overlap. */
+TESSARO_API int32_t TESSARO_CALL iwave11Encoder(const void* source, void* destination, uint32_t length,
+                                                uint32_t* written);
+TESSARO_API int32_t TESSARO_CALL iwave11Decoder(const void* source, void* destination, uint32_t length);
+TESSARO_API int32_t TESSARO_CALL iwave12Encoder(const void* source, void* destination, uint32_t length,
+                                                uint32_t* written);
+TESSARO_API int32_t TESSARO_CALL iwave12Decoder(const void* source, void* destination, uint32_t length);
+TESSARO_API int32_t TESSARO_CALL iwave32Encoder(const void* source, void* destination, uint32_t length,
+                                                uint32_t* written);
+TESSARO_API int32_t TESSARO_CALL iwave32Decoder(const void* source, void* destination, uint32_t length);
+TESSARO_API int32_t TESSARO_CALL iwave21Encoder(const void* source, void* destination, uint32_t length,
+                                                uint32_t* written);
+TESSARO_API int32_t TESSARO_CALL iwave21Decoder(const void* source, void* destination, uint32_t length);
+TESSARO_API int32_t TESSARO_CALL iwave22Encoder(const void* source, void* destination, uint32_t length,
+                                                uint32_t* written);
+TESSARO_API int32_t TESSARO_CALL iwave22Decoder(const void* source, void* destination, uint32_t length);
+TESSARO_API int32_t TESSARO_CALL ichshift2Encoder(const void* source, void* destination, uint32_t length,
+                                                  uint32_t* written);
+TESSARO_API int32_t TESSARO_CALL ichshift2Decoder(const void* source, void* destination, uint32_t length);
+TESSARO_API int32_t TESSARO_CALL ichshift3Encoder(const void* source, void* destination, uint32_t length,
+                                                  uint32_t* written);
+TESSARO_API int32_t TESSARO_CALL ichshift3Decoder(const void* source, void* destination, uint32_t length);
+TESSARO_API int32_t TESSARO_CALL ichshift4Encoder(const void* source, void* destination, uint32_t length,
+                                                  uint32_t* written);
+TESSARO_API int32_t TESSARO_CALL ichshift4Decoder(const void* source, void* destination, uint32_t length);
+
 /* ---- Stream formats ----
  *
  * Lossless codecs for blocks of bytes, most of them made for 32-bit pixels. A stream is bytes without a head:
