@@ -14,10 +14,51 @@ namespace {
 constexpr uint32_t least_length = 65, margin = 64;
 constexpr unsigned block_bytes = 8;
 
+constexpr uint64_t each_byte = 0x0101010101010101;
+
 struct Parameters {
   unsigned level = 0, distance = 0, mask = 0;
 };
 enum Change : unsigned { level_changes = 1, distance_changes = 2, mask_changes = 4 };
+
+// Which bits of a block's eight bytes are sent, and in how many bits each byte is.
+struct Layout {
+  uint64_t built;   // ones in the bytes that are built from a reference
+  uint64_t kept;    // the bits that those bytes take from it
+  uint64_t widths;  // a byte each
+  unsigned shift;   // where the sent bits of a built byte stand
+
+  explicit Layout(Parameters p) {
+    const IndaLevel level = inda_levels.at[p.level];
+    // Bit j moves into byte j, then fills it.
+    const uint64_t flags = p.mask * each_byte & 0x8040201008040201;
+    built = (flags + 0x7F7F7F7F7F7F7F7F) >> 7 & each_byte;
+    built *= 255;
+    kept = level.kept * each_byte & built;
+    widths = 8 * each_byte - (level.kept_bits * each_byte & built);
+    shift = level.shift;
+  }
+};
+
+// Four bytes of a block, each in its own width: where they stand in up to 32 bits of the stream.
+struct Half {
+  uint32_t after;  // the bits up to and with each byte, a byte each
+  explicit Half(uint32_t widths) : after(widths * 0x01010101u) {}
+  // Of the first n bytes, and behind byte j.
+  unsigned bits(unsigned n = 4) const { return static_cast<unsigned>(uint64_t{after} << 8 >> 8 * n & 0xFF); }
+  unsigned behind(unsigned j) const { return bits() - bits(j + 1); }
+};
+inline uint64_t gather(uint32_t bytes, Half half) {
+  uint64_t bits = 0;
+  for (unsigned j = 0; j < 4; ++j) bits |= uint64_t{bytes >> 8 * j & 0xFF} << half.behind(j);
+  return bits;
+}
+// What lies above a byte's own width is not its: the caller clears it.
+inline uint32_t scatter(uint64_t bits, Half half) {
+  uint32_t bytes = 0;
+  for (unsigned j = 0; j < 4; ++j) bytes |= (static_cast<uint32_t>(bits >> half.behind(j)) & 0xFF) << 8 * j;
+  return bytes;
+}
 
 class Encoder {
  public:
@@ -25,48 +66,67 @@ class Encoder {
   // The block and the eight bytes before it. `ahead`: at least 7 more bytes follow it.
   void block(const uint8_t* at, unsigned choice, bool ahead) {
     Parameters now{choice / 8, choice ? choice % 8 : before_.distance, 0};
-    const IndaLevel level = inda_levels.at[now.level];
+    const auto bytes = load<uint64_t>(at);
     if (now.level) {
-      const uint64_t changed = load<uint64_t>(at) ^ load<uint64_t>(at + now.distance - block_bytes);
-      now.mask = zero_bytes(changed & (level.kept * 0x0101010101010101));
+      const uint64_t changed = bytes ^ load<uint64_t>(at + now.distance - block_bytes);
+      now.mask = zero_bytes(changed & (inda_levels.at[now.level].kept * each_byte));
     }
-    head(now, ahead);
+    const Head head = head_of(now);
     before_ = now;
-    for (unsigned j = 0; j < block_bytes; ++j) {
-      if (now.mask >> j & 1)
-        put(at[j] >> level.shift & ((1u << level.sent_bits) - 1), level.sent_bits, ahead);
-      else
-        put(at[j], 8, ahead);
+    const Layout layout(now);
+    const uint64_t sent = (bytes & ~layout.built) | ((bytes & layout.built & ~layout.kept) >> layout.shift);
+    const Half first(static_cast<uint32_t>(layout.widths)),
+        second(static_cast<uint32_t>(layout.widths >> 32));
+    const uint64_t first_bits = gather(static_cast<uint32_t>(sent), first),
+                   second_bits = gather(static_cast<uint32_t>(sent >> 32), second);
+    if (ahead) {
+      out_.put_ahead(uint64_t{head.bits} << first.bits() | first_bits, head.width + first.bits());
+      out_.put_ahead(second_bits, second.bits());
+    } else {
+      out_.put(head.bits, head.width);
+      out_.put(static_cast<uint32_t>(first_bits), first.bits());
+      out_.put(static_cast<uint32_t>(second_bits), second.bits());
     }
   }
   uint32_t written() const { return out_.written(); }
   void flush() { out_.flush(); }
 
  private:
-  void put(uint32_t bits, unsigned width, bool ahead) {
-    if (ahead)
-      out_.put_ahead(bits, width);
-    else
-      out_.put(bits, width);
-  }
-  void head(Parameters now, bool ahead) {
+  struct Head {
+    unsigned bits, width;
+  };
+  Head head_of(Parameters now) const {
     const unsigned changes = (now.mask != before_.mask ? mask_changes : 0u) |
                              (now.distance != before_.distance ? distance_changes : 0u) |
                              (now.level != before_.level ? level_changes : 0u);
-    unsigned bits = changes, width = 3;
-    const auto append = [&](unsigned value, unsigned n) {
-      bits = bits << n | value;
-      width += n;
+    Head head{changes, 3};
+    const auto append = [&](bool there, unsigned value, unsigned n) {
+      n = there ? n : 0;
+      head.bits = head.bits << n | (there ? value : 0);
+      head.width += n;
     };
-    if (changes & level_changes) append(now.level, 4);
-    if (now.level && changes & distance_changes) append(now.distance, 3);
-    if (now.level && changes & mask_changes) append(now.mask, 8);
-    put(bits, width, ahead);
+    append(changes & level_changes, now.level, 4);
+    append(now.level && changes & distance_changes, now.distance, 3);
+    append(now.level && changes & mask_changes, now.mask, 8);
+    return head;
   }
 
   BitWriter out_;
   Parameters before_;
 };
+
+// The bytes of a block from what was sent, in place, and the eight bytes before: byte j takes its kept bits from the
+// byte 8 - d places back, which may be one of this block. Every step doubles how far back the bits have been followed.
+inline uint64_t build(uint64_t sent, uint64_t kept, uint64_t before, unsigned distance) {
+  const auto up = [](uint64_t v, unsigned n) { return n < 64 ? v << n : 0; };
+  unsigned back = 64 - 8 * distance;
+  uint64_t bytes = sent | (before >> 8 * distance & kept);
+  for (int step = 0; step < 3; ++step, back *= 2) {
+    bytes |= up(bytes, back) & kept;
+    kept &= up(kept, back);
+  }
+  return bytes;
+}
 
 template <class Source>
 int32_t decode(Source source, void* destination, uint32_t count) {
@@ -74,30 +134,47 @@ int32_t decode(Source source, void* destination, uint32_t count) {
   BitReader<Source> in(source);
   auto* out = static_cast<uint8_t*>(destination);
   Parameters now;
-  // The eight bytes before the block, then the block.
-  uint8_t window[2 * block_bytes] = {};
+  uint64_t bytes = 0;
   for (;;) {
-    const unsigned changes = in.read(3);
-    if (changes & level_changes) now.level = in.read(4);
-    if (now.level && changes & distance_changes) now.distance = in.read(3);
-    if (now.level && changes & mask_changes) now.mask = in.read(8);
-    const IndaLevel level = inda_levels.at[now.level];
-    const unsigned size = count < block_bytes ? count : block_bytes;
-    for (unsigned j = 0; j < size; ++j) {
-      uint8_t& byte = window[block_bytes + j];
-      if ((now.mask >> j & 1) == 0) {
-        byte = static_cast<uint8_t>(in.read(8));
-      } else {
-        byte = window[j + now.distance] & level.kept;
-        if (level.sent_bits) byte |= static_cast<uint8_t>(in.read(level.sent_bits) << level.shift);
-      }
-      if (in.ran_out()) return 1;
-      *out++ = byte;
-    }
-    count -= size;
-    if (count == 0) return 0;
-    std::memcpy(window, window + block_bytes, block_bytes);
+    // Every later block costs three bits or more.
+    const uint64_t later = uint64_t{count - 1} / block_bytes * 3;
+    const auto prepare = [&](unsigned n) {
+      if (in.can_refill(n + later)) in.refill();
+    };
+    const auto field = [&](unsigned n) {
+      in.need(n);
+      const uint64_t value = in.window() >> 1 >> (63 - n);
+      in.skip(n);
+      return static_cast<uint32_t>(value);
+    };
+    const auto update = [&](bool there, unsigned& parameter, unsigned n) {
+      const uint32_t value = field(there ? n : 0);
+      parameter = there ? value : parameter;
+    };
+    prepare(3);
+    const unsigned changes = field(3);
+    update(changes & level_changes, now.level, 4);
+    update(now.level && changes & distance_changes, now.distance, 3);
+    update(now.level && changes & mask_changes, now.mask, 8);
+    const Layout layout(now);
+    const Half first(static_cast<uint32_t>(layout.widths)),
+        second(static_cast<uint32_t>(layout.widths >> 32));
+    // A last block that is cut needs no more bits than its bytes have.
+    const unsigned n = count < block_bytes ? count : block_bytes;
+    const unsigned first_bits = first.bits(n < 4 ? n : 4), second_bits = second.bits(n < 4 ? 0 : n - 4);
+    uint64_t sent = scatter(uint64_t{field(first_bits)} << (first.bits() - first_bits), first);
+    prepare(second_bits);
+    sent |= uint64_t{scatter(uint64_t{field(second_bits)} << (second.bits() - second_bits), second)} << 32;
+    if (in.ran_out()) return 1;
+    sent = (sent & ~layout.built) | (sent << layout.shift & layout.built & ~layout.kept);
+    bytes = build(sent, layout.kept, bytes, now.distance);
+    if (count <= block_bytes) break;
+    store(out, bytes);
+    out += block_bytes;
+    count -= block_bytes;
   }
+  std::memcpy(out, &bytes, count);
+  return 0;
 }
 
 }  // namespace
