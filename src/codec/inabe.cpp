@@ -3,6 +3,7 @@
 
 #include "codec/bits.hpp"
 #include "codec/channel_order.hpp"
+#include "codec/group_payload.hpp"
 #include "codec/group_scan.hpp"
 #include "tessaro/codec.h"
 
@@ -63,17 +64,23 @@ class Encoder {
   }
   template <bool tested>
   bool code(const uint8_t* bytes, uint32_t size, Group group) {
-    // Each of these ones leaves as soon as the scan has seen that the group is that large.
-    for (unsigned i = 0; i < group.level; ++i) {
-      out_.put(1, 1);
-      if (!room<tested>()) return false;
+    if (tested) {
+      // Each of these ones leaves as soon as the scan has seen that the group is that large.
+      for (unsigned i = 0; i < group.level; ++i) {
+        out_.put(1, 1);
+        if (!room<tested>()) return false;
+      }
+    } else {
+      out_.put(ones(group.level), group.level);
     }
     const BitField mark = class_mark[group.kind];
-    out_.put(mark.bits, 1 + mark.width);
-    if (group.kind == repeats) return room<tested>();
+    if (group.kind == repeats) {
+      out_.put(mark.bits, 1 + mark.width);
+      return room<tested>();
+    }
     const unsigned width = class_width[group.kind], e = best_width(bytes, size, width);
-    out_.put(ones(e) << 1, e + 1);
     const uint32_t escape = ones(e);
+    out_.put(mark.bits << (e + 1) | escape << 1, 1 + mark.width + e + 1);
     const auto code_of = [&](uint8_t byte) {
       const uint32_t value = byte & ones(width);
       return value < escape ? BitField{value, e} : BitField{escape << width | value, e + width};
@@ -96,11 +103,13 @@ class Encoder {
   uint32_t limit_;
 };
 
-// Where decoded codes go: as they are, or as differences of pixels that were sent channel by channel.
+// Where decoded codes go, a span at a time: as they are, or as differences of pixels that were sent channel by channel.
 class Codes {
  public:
   Codes(void* out, uint32_t) : at_(static_cast<uint8_t*>(out)) {}
-  void put(uint8_t code) { *at_++ = code; }
+  static constexpr uint32_t longest_span = UINT32_MAX;
+  uint8_t* span() { return at_; }
+  void done(uint32_t n) { at_ += n; }
   void repeat(uint8_t code, uint32_t n) {
     std::memset(at_, code, n);
     at_ += n;
@@ -112,7 +121,11 @@ class Codes {
 class Pixels {
  public:
   Pixels(void* out, uint32_t count) : out_(static_cast<uint8_t*>(out)), order_(count) {}
-  void put(uint8_t code) { step(unfold(code)); }
+  static constexpr uint32_t longest_span = 1024;
+  uint8_t* span() { return codes_; }
+  void done(uint32_t n) {
+    for (uint32_t i = 0; i < n; ++i) step(unfold(codes_[i]));
+  }
   void repeat(uint8_t code, uint32_t n) {
     for (const uint8_t difference = unfold(code); n; --n) step(difference);
   }
@@ -127,7 +140,53 @@ class Pixels {
   uint8_t* out_;
   ChannelOrder order_;
   uint8_t value_ = 128;
+  uint8_t codes_[longest_span];
 };
+
+// How the codes of a group are written.
+struct Form {
+  unsigned e, width;
+  uint8_t keep;
+};
+
+// Codes without a branch, `per` of them between two reads; leaves those that the rest of the group is too short for.
+template <unsigned per, class Source>
+uint32_t read_batches(BitReader<Source>& in, uint8_t* out, uint32_t n, Form form, uint8_t last) {
+  const uint64_t escape = ~uint64_t{0} << (64 - form.e);
+  uint32_t left = n;
+  for (; left >= per && in.can_refill(uint64_t{left} * form.e); left -= per) {
+    in.refill();
+    for (unsigned k = 0; k < per; ++k) {
+      const uint64_t window = in.window();
+      const bool escaped = window >= escape;
+      const uint64_t field = escaped ? window << form.e >> (64 - form.width) : window >> (64 - form.e);
+      in.skip(escaped ? form.e + form.width : form.e);
+      last = static_cast<uint8_t>((last & form.keep) | field);
+      *out++ = last;
+    }
+  }
+  return n - left;
+}
+
+template <class Source>
+void read_codes(BitReader<Source>& in, uint8_t* out, uint32_t n, Form form, uint8_t last) {
+  const unsigned longest = form.e + form.width;
+  if (form.e == 0) {
+    if (form.width == 8) return void(read_payload<8>(in, out, n, last));
+    if (form.width == 5) return void(read_payload<5>(in, out, n, last));
+    return void(read_payload<3>(in, out, n, last));
+  }
+  uint32_t i = longest <= 8    ? read_batches<7>(in, out, n, form, last)
+               : longest <= 14 ? read_batches<4>(in, out, n, form, last)
+               : longest <= 18 ? read_batches<3>(in, out, n, form, last)
+                               : 0;
+  if (i) last = out[i - 1];
+  for (const uint32_t escape = ones(form.e); i < n && !in.ran_out(); ++i) {
+    uint32_t field = in.read(form.e);
+    if (field == escape) field = in.read(form.width);
+    out[i] = last = static_cast<uint8_t>((last & form.keep) | field);
+  }
+}
 
 template <class Sink, class Source>
 int32_t decode(Source source, void* destination, uint32_t count) {
@@ -135,23 +194,24 @@ int32_t decode(Source source, void* destination, uint32_t count) {
   Sink out(destination, count);
   uint8_t last = 0;
   while (count != 0) {
+    if (in.can_refill(0)) in.refill();
     const GroupHead head = read_group_head(in);
-    const uint32_t size = head.size < count ? static_cast<uint32_t>(head.size) : count;
+    uint32_t size = head.size < count ? static_cast<uint32_t>(head.size) : count;
     count -= size;
     if (head.kind == repeats) {
       if (in.ran_out()) return 1;
       out.repeat(last, size);
       continue;
     }
-    const unsigned e = in.read_ones(longest_field), width = class_width[head.kind];
-    const uint8_t keep = class_keep[head.kind];
-    const uint32_t escape = ones(e);
-    for (uint32_t i = 0; i < size; ++i) {
-      uint32_t value = e ? in.read(e) : 0;
-      if (value == escape) value = in.read(width);
+    const Form form{in.read_ones(longest_field), class_width[head.kind], class_keep[head.kind]};
+    while (size != 0) {
+      const uint32_t n = size < Sink::longest_span ? size : Sink::longest_span;
+      uint8_t* span = out.span();
+      read_codes(in, span, n, form, last);
       if (in.ran_out()) return 1;
-      last = static_cast<uint8_t>((last & keep) | value);
-      out.put(last);
+      last = span[n - 1];
+      out.done(n);
+      size -= n;
     }
   }
   return 0;
