@@ -49,10 +49,7 @@ Picture Picture::fitted(int max_width, int max_height) const {
   if (scale == 1.0) return *this;
   Picture small(std::max(1, static_cast<int>(width() * scale)),
                 std::max(1, static_cast<int>(height() * scale)));
-  for (int y = 0; y < small.height(); ++y)
-    for (int x = 0; x < small.width(); ++x)
-      small.pixels()[y * small.width() + x] =
-          pixels()[y * height() / small.height() * width() + x * width() / small.width()];
+  BBIExpandBlt(small, record(), 0, 0, small.width(), small.height(), 0, 0, width(), height(), 1.0f);
   return small;
 }
 
