@@ -1,0 +1,92 @@
+#include "wave/oscillator.hpp"
+
+#include <cmath>
+
+#include "frame/numbers.hpp"
+#include "wave/ramp.hpp"
+#include "wave/trigonometry.hpp"
+
+namespace tessaro {
+
+namespace {
+
+// Angles beyond 2^24: a single-precision value is m * 2^e with m of 24 bits, and the bits of 2 / pi that make
+// whole turns of its product can be left away.
+Angle reduced_far(float a) {
+  static constexpr uint32_t two_over_pi[] = {0,           0xA2F9836Eu, 0x4E441529u, 0xFC2757D1u, 0xF534DDC0u,
+                                             0xDB629599u, 0x3C439041u, 0xFE5163ABu, 0xDEBBC561u};
+  const uint32_t word = bits_as<uint32_t>(a);
+  const uint64_t m = (word & 0x7FFFFF) | 0x800000;
+  const uint32_t e = (word >> 23 & 255) - 150;       // 1..104
+  const uint32_t from = 32 + e - 2, by = from % 32;  // the bit of 2 / pi that stands for two quarter turns
+  uint64_t carry = 0;
+  uint32_t product[4];  // of m and 128 bits of 2 / pi from there; the top two bits count quarter turns
+  for (uint32_t i = 4; i-- > 0;) {
+    const uint32_t* at = two_over_pi + from / 32 + i;
+    const uint32_t part = by == 0 ? at[0] : at[0] << by | at[1] >> (32 - by);
+    carry += m * part;
+    product[i] = static_cast<uint32_t>(carry);
+    carry >>= 32;
+  }
+  const uint64_t top = static_cast<uint64_t>(product[0]) << 32 | product[1];
+  const uint64_t fraction = top << 2 | product[2] >> 30;
+  const auto nearest = static_cast<int64_t>(fraction);  // from -1/2 to 1/2
+  int32_t quarter = static_cast<int32_t>(product[0] >> 30) + (nearest < 0 ? 1 : 0);
+  constexpr double scale = 0x1p-64, pi_half = 0x1.921fb54442d18p0, pi_half_tail = 0x1.1a62633145c07p-54;
+  const double high = static_cast<double>(nearest & ~int64_t{0xFFF}) * scale;
+  const double low = static_cast<double>(nearest & 0xFFF) * scale;
+  double rest = high * pi_half;
+  double tail = high * pi_half_tail + low * pi_half;
+  if (a < 0) {
+    quarter = -quarter;
+    rest = -rest;
+    tail = -tail;
+  }
+  return {quarter, rest, tail};
+}
+
+double sine(float a) {
+  if (!std::isfinite(a)) return a - a;
+  const Angle angle = std::fabs(a) <= 16777216.0f ? reduced(static_cast<double>(a)) : reduced_far(a);
+  const double v = angle.quarter & 1 ? cosine_of_rest(angle) : sine_of_rest(angle);
+  return angle.quarter & 2 ? -v : v;
+}
+
+bool same(float a, float b) { return a == b || (a != a && b != b); }
+
+}  // namespace
+
+void Oscillator::step() {
+  phase_ += increment_;
+  const float modulation = modulation_ + rate_;
+  if (modulation != modulation_) drift_ = sine(modulation) * static_cast<double>(depth_);
+  modulation_ = modulation;
+  increment_ = static_cast<float>(static_cast<double>(increment_) + drift_);
+}
+
+void Oscillator::draw(int32_t* tone, int64_t n) {
+  for (int64_t i = 0; i < n; ++i) {
+    const int32_t value = trunc32(sine(phase_) * static_cast<double>(amplitude_));
+    tone[i] = value < -65536 ? -65536 : value;
+    step();
+  }
+}
+
+void Oscillator::skip(int64_t n) {
+  if (depth_ == 0.0f) {  // the pitch stays unless the modulation stops being a number
+    const float modulation = added_up(modulation_, rate_, n);
+    if (std::isfinite(modulation)) {
+      modulation_ = modulation;
+      phase_ = added_up(phase_, increment_, n);
+      return;
+    }
+  }
+  for (; n > 0; --n) {
+    const float phase = phase_, modulation = modulation_, increment = increment_;
+    step();
+    // Sums that have grown past their steps no longer move.
+    if (same(phase, phase_) && same(modulation, modulation_) && same(increment, increment_)) return;
+  }
+}
+
+}  // namespace tessaro

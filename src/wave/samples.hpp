@@ -1,0 +1,89 @@
+// Wave buffers as the operations see them: opened once per call, read and written in blocks of frames at one of
+// three working scales.
+//
+//   16-bit scale   int16_t: every operation at this scale saturates, so that 16 bits hold what it hands on
+//   24-bit scale   int32_t
+//   float scale    double
+//
+// A block has one lane a frame where source and destination are both mono, otherwise two.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+#include "simd/dispatch.hpp"
+#include "tessaro/tessaro.h"
+
+namespace tessaro {
+
+// The forms a sample is stored in.
+enum Stored : uint8_t { stored8, stored16, stored24, stored64 };
+inline constexpr size_t stored_bytes[] = {1, 2, 3, 8};
+
+struct Wave {
+  uint8_t* data;
+  int64_t count;  // frames; 0 for a buffer whose record holds a negative count
+  Stored stored;
+  int lanes;  // channels
+
+  size_t frame_bytes() const { return stored_bytes[stored] * static_cast<size_t>(lanes); }
+  uint8_t* at(int64_t frame) const {
+    return data + static_cast<ptrdiff_t>(frame) * static_cast<ptrdiff_t>(frame_bytes());
+  }
+  // Where a frame lies or, outside the buffer, would lie.
+  int64_t address(int64_t frame) const {
+    return static_cast<int64_t>(reinterpret_cast<uintptr_t>(data)) +
+           frame * static_cast<int64_t>(frame_bytes());
+  }
+};
+
+// False when a field of the record's format code is invalid.
+bool open_wave(const WaveBuffer* record, Wave& wave);
+
+// Adds a frame at the float scale to the one that is stored and saturates, each stored form in its own way:
+// 8-bit clamps only where the stored byte is below 128, 16-bit wraps and replaces only -32768, the others clamp.
+void AddWave64(void* data, int32_t index, int32_t bits, int32_t channels, int32_t count, double left,
+               double right);
+
+// Samples n at a time; tables are indexed by Stored. The integer scales take doubles for packed 24-bit samples.
+// out is memory of its own except where said; in and out of the host's memory have no alignment.
+struct SampleKernels {
+  void (*to16[3])(int16_t* out, const uint8_t* in, size_t n);
+  void (*to24[3])(int32_t* out, const uint8_t* in, size_t n);
+  void (*to64[4])(double* out, const uint8_t* in, size_t n);
+  void (*from16[3])(uint8_t* out, const int16_t* in, size_t n);
+  void (*from24[3])(uint8_t* out, const int32_t* in, size_t n);
+  void (*from64[4])(uint8_t* out, const double* in, size_t n,
+                    double gain);  // clamps in * gain; out may be in
+  // Pairs of a stereo block to mono samples.
+  void (*mean16[3])(uint8_t* out, const int16_t* pairs, size_t n);
+  void (*mean24[3])(uint8_t* out, const int32_t* pairs, size_t n);
+  void (*mean64[4])(uint8_t* out, const double* pairs, size_t n, double gain);
+  // Mono samples to pairs.
+  void (*pair16)(int16_t* pairs, const int16_t* in, size_t n);
+  void (*pair24)(int32_t* pairs, const int32_t* in, size_t n);
+  void (*pair64)(double* pairs, const double* in, size_t n);
+  // d = f(d, s) at the 16-bit scale, saturated; d may be s.
+  void (*gain16)(int16_t* d, const int16_t* s, size_t n, int32_t gain);  // (s * gain) >> 6
+  void (*add16)(int16_t* d, const int16_t* s, size_t n, int32_t gain);   // d + ((s * gain) >> 8)
+  void (*sub16)(int16_t* d, const int16_t* s, size_t n, int32_t gain);   // d - ((s * gain) >> 8)
+  void (*mul16)(int16_t* d, const int16_t* s, size_t n, int32_t);        // (|s| * d) >> 15
+  void (*xor16)(int16_t* d, const int16_t* s, size_t n, int32_t);        // d ^ s
+  void (*noise16)(int16_t* d, const int16_t* s, size_t n, const uint16_t* noise, int32_t amount);
+  void (*tone16)(int16_t* d, const int16_t* s, size_t frames, size_t lanes, const int32_t* tone);
+  void (*gain24)(int32_t* d, const int32_t* s, size_t n, int32_t gain);  // (s * gain) >> 6 in 24 bits
+  // The moving average of pairs: sums[0] is the running sum before the first frame, those of the last `span`
+  // frames lie in front of it. Leaves sums[1..frames] behind.
+  void (*running16)(int32_t* sums, const int16_t* in, size_t frames, size_t lanes);
+  void (*mean_of_span)(int16_t* out, const int32_t* ahead, const int32_t* behind, size_t n, int32_t span);
+  // Frames of two lanes times a gain that grows by step after every frame; gain is left at its next value.
+  void (*ramp24)(int32_t* out, const int32_t* in, size_t frames, double gain[2], const double step[2]);
+  void (*ramp64)(double* out, const double* in, size_t frames, double gain[2], const double step[2]);
+  // Bits 20 to 22 of the magnitudes, limited to 23 bits, ored into bits[2].
+  void (*peaks24)(const int32_t* in, size_t frames, uint32_t bits[2]);
+  // Lowers low[2] and raises high[2] to the extremes.
+  void (*peaks64)(const double* in, size_t frames, double low[2], double high[2]);
+};
+TESSARO_DECLARE_KERNELS(SampleKernels);
+
+}  // namespace tessaro

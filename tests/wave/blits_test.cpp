@@ -1,0 +1,256 @@
+#include "frame/process.hpp"
+#include "models.hpp"
+
+namespace tessaro::test {
+namespace {
+
+struct Span {
+  int32_t ds, ss, count;
+};
+
+// Writes f(i, l, r of the source, l, r of the destination) at an integer scale, frame after frame.
+template <class F>
+void each_frame(const Buffer& d, const Buffer& s, Span n, int depth, F f) {
+  for (int64_t i = 0; i < n.count; ++i) {
+    const Frame v = f(i, s.get(n.ss + i, depth), d.get(n.ds + i, depth));
+    d.let(n.ds + i, depth, v[0], v[1]);
+  }
+}
+template <class F>
+void each_channel(const Buffer& d, const Buffer& s, Span n, int depth, F f) {
+  each_frame(d, s, n, depth, [&](int64_t, Frame a, Frame b) { return Frame{f(a[0], b[0]), f(a[1], b[1])}; });
+}
+
+int64_t scaled(int64_t v, float gain) { return v * static_cast<int64_t>(std::min(gain, 4.0f) * 256) >> 8; }
+
+struct Blit {
+  const char* name;
+  std::function<int32_t(const WaveBuffer*, const WaveBuffer*, Span, float)> call;
+  std::function<void(const Buffer&, const Buffer&, Span, float)> model;
+};
+
+const Blit blits[] = {
+    {"waveFormat", [](auto d, auto s, Span, float) { return waveFormat(d, s); },
+     [](auto& d, auto& s, Span, float) {
+       each_channel(d, s, {0, 0, d.count}, 16, [](int64_t a, int64_t) { return a; });
+     }},
+    {"waveBlt", [](auto d, auto s, Span n, float v) { return waveBlt(d, s, n.ds, n.ss, n.count, v); },
+     [](auto& d, auto& s, Span n, float v) {
+       const auto g = static_cast<int64_t>(std::clamp(v, 0.0f, 4.0f) * 64);
+       each_channel(d, s, n, 24, [g](int64_t a, int64_t) { return within(a * g >> 6, -8388608, 8388607); });
+     }},
+    {"waveBltBlur",
+     [](auto d, auto s, Span n, float v) {
+       return waveBltBlur(d, s, n.ds, n.ss, n.count, static_cast<int32_t>(v * 200) + 1);
+     },
+     [](auto& d, auto& s, Span n, float v) {
+       const int64_t radius = std::min(static_cast<int32_t>(v * 200) + 1, 511);
+       std::vector<Frame> read;
+       for (int64_t i = 0; i < n.count; ++i) {
+         read.push_back(s.get(n.ss + radius + i, 16));
+         Frame sum{};
+         for (int64_t j = std::max<int64_t>(0, i - 2 * radius); j <= i; ++j)
+           for (size_t c = 0; c < 2; ++c) sum[c] += read[static_cast<size_t>(j)][c];
+         d.let(n.ds + i, 16, sum[0] / (2 * radius + 1), sum[1] / (2 * radius + 1));
+       }
+     }},
+    {"waveBltGluder",
+     [](auto d, auto s, Span n, float v) {
+       return waveBltGluder(d, s, n.ds, n.ss, n.count, static_cast<int32_t>(v * 9) + 1);
+     },
+     [](auto& d, auto& s, Span n, float v) {
+       n.ss += static_cast<int32_t>(v * 9) + 1;
+       each_channel(d, s, n, 16, [](int64_t a, int64_t b) { return a ^ b; });
+     }},
+    {"waveBltAddNoise",
+     [](auto d, auto s, Span n, float v) {
+       seed_random(7);
+       return waveBltAddNoise(d, s, n.ds, n.ss, n.count, v);
+     },
+     [](auto& d, auto& s, Span n, float v) {
+       seed_random(7);
+       const auto k = static_cast<int64_t>(std::clamp(v, 0.0f, 1.0f) * 256);
+       each_frame(d, s, n, 16, [k](int64_t, Frame a, Frame) {
+         for (int64_t& c : a)
+           c = saturated(c + ((static_cast<int64_t>(draw_random() % 65536) - 32768) * k >> 8));
+         return a;
+       });
+     }},
+    {"waveBltSin",
+     [](auto d, auto s, Span n, float v) {
+       return waveBltSin(d, s, n.ds, n.ss, n.count, v * 0.7f - 0.5f, 0.05f, 0.001f, v * 0.01f);
+     },
+     [](auto& d, auto& s, Span n, float v) {
+       const float amplitude = std::clamp(v * 0.7f - 0.5f, -1.0f, 1.0f) * 32768;
+       float phase = 0, modulation = 0, increment = 0.05f;
+       each_frame(d, s, n, 16, [&](int64_t, Frame a, Frame) {
+         const auto t =
+             static_cast<int64_t>(std::sin(static_cast<double>(phase)) * static_cast<double>(amplitude));
+         phase += increment;
+         modulation += v * 0.01f;
+         increment =
+             static_cast<float>(static_cast<double>(increment) +
+                                std::sin(static_cast<double>(modulation)) * static_cast<double>(0.001f));
+         return Frame{saturated(a[0] + t), saturated(a[1] + t)};
+       });
+     }},
+    {"waveBltAdd", [](auto d, auto s, Span n, float v) { return waveBltAdd(d, s, n.ds, n.ss, n.count, v); },
+     [](auto& d, auto& s, Span n, float v) {
+       each_channel(d, s, n, 16, [v](int64_t a, int64_t b) { return saturated(b + scaled(a, v)); });
+     }},
+    {"waveBltSub", [](auto d, auto s, Span n, float v) { return waveBltSub(d, s, n.ds, n.ss, n.count, v); },
+     [](auto& d, auto& s, Span n, float v) {
+       each_channel(d, s, n, 16, [v](int64_t a, int64_t b) { return saturated(b - scaled(a, v)); });
+     }},
+    {"waveBltMul", [](auto d, auto s, Span n, float v) { return waveBltMul(d, s, n.ds, n.ss, n.count, v); },
+     [](auto& d, auto& s, Span n, float) {
+       each_channel(d, s, n, 16, [](int64_t a, int64_t b) { return std::abs(a) * b >> 15; });
+     }},
+    {"waveBlt64", [](auto d, auto s, Span n, float) { return waveBlt64(d, s, n.ds, n.ss, n.count); },
+     [](auto& d, auto& s, Span n, float) {
+       for (int64_t i = 0; i < n.count; ++i) {
+         const Frame64 v = s.get64(n.ss + i);
+         d.let64(n.ds + i, v[0], v[1]);
+       }
+     }},
+    {"waveClear64", [](auto d, auto, Span n, float) { return waveClear64(d, n.ds, n.count); },
+     [](auto& d, auto&, Span n, float) {
+       for (int64_t i = 0; i < n.count; ++i) d.let64(n.ds + i, 0, 0);
+     }},
+    {"waveNormal",
+     [](auto d, auto s, Span n, float v) { return waveNormal(d, s, n.ds, n.ss, n.count, v * 0.02f); },
+     [](auto& d, auto& s, Span n, float v) {
+       const double gain = std::clamp(static_cast<double>(v * 0.02f), 0.0, 1.0) / 0.01;
+       for (int64_t i = 0; i < n.count; ++i) {
+         const Frame64 a = s.get64(n.ss + i);
+         d.let64(n.ds + i, a[0] * gain, a[1] * gain);
+       }
+     }},
+};
+
+TEST(Blits, AgreeWithOneFrameAfterAnotherInEveryPairOfFormats) {
+  for (const Backend backend : supported_backends()) {
+    const Forced forced(backend);
+    for (const Blit& blit : blits)
+      for (int formats = 0; formats < 64; ++formats)
+        for (uint32_t trial = 0; trial < 6; ++trial) {
+          Random random(static_cast<uint32_t>(formats) * 97 + trial);
+          const Arena arena(random, formats / 8, formats % 8, trial < 3 ? 60 : 1400);
+          const Span n{random.between(-20, 40), random.between(-20, 40), random.between(0, 2000)};
+          const float v = trial == 1 ? 1.0f : static_cast<float>(random.between(0, 300)) / 64;
+          const auto got = arena.after([&](const Buffer& d, const Buffer& s) {
+            const WaveBuffer to = d.record(), from = s.record();
+            EXPECT_EQ(blit.call(&to, &from, n, v), 0);
+          });
+          const auto want = arena.after([&](const Buffer& d, const Buffer& s) { blit.model(d, s, n, v); });
+          ASSERT_EQ(got, want) << name_of(backend) << ' ' << blit.name << " formats " << formats << " trial "
+                               << trial << " gain " << v;
+        }
+  }
+}
+
+TEST(Blits, EveryPairOfSixteenBitValuesMixesExactly) {
+  // All sources against destinations at which sums and products turn over.
+  std::vector<int16_t> source(65536), want(65536), got(65536);
+  for (int i = 0; i < 65536; ++i) source[static_cast<size_t>(i)] = static_cast<int16_t>(i - 32768);
+  const WaveBuffer from{waveFormatEnc(16, 1, 44100), 65536, source.data()};
+  const WaveBuffer to{waveFormatEnc(16, 1, 44100), 65536, got.data()};
+  const Buffer s{reinterpret_cast<uint8_t*>(source.data()), 65536, 16, 1};
+  const Buffer d{reinterpret_cast<uint8_t*>(want.data()), 65536, 16, 1};
+  for (const Backend backend : supported_backends()) {
+    const Forced forced(backend);
+    for (const Blit& blit : blits) {
+      if (std::string(blit.name) == "waveBltBlur") continue;
+      for (const int16_t start : {int16_t{0}, int16_t{-1}, int16_t{32767}, int16_t{-32768}, int16_t{257}}) {
+        for (size_t i = 0; i < 65536; ++i)
+          got[i] = want[i] = static_cast<int16_t>(start + static_cast<int16_t>(start == 257 ? i * 31 : 0));
+        blit.call(&to, &from, {0, 0, 65536}, 1.7f);
+        blit.model(d, s, {0, 0, 65536}, 1.7f);
+        ASSERT_EQ(got, want) << name_of(backend) << ' ' << blit.name << ' ' << start;
+      }
+    }
+  }
+}
+
+TEST(Blits, ParametersAreLimitedOrRefused) {
+  std::vector<int16_t> a(64, 300), b(64, 0);
+  const WaveBuffer from{waveFormatEnc(16, 1, 44100), 64, a.data()},
+      to{waveFormatEnc(16, 1, 44100), 64, b.data()};
+  const float nan = std::nanf("");
+  for (const float bad : {-0.01f, nan, -INFINITY}) {
+    EXPECT_EQ(waveBltAdd(&to, &from, 0, 0, 8, bad), 1);
+    EXPECT_EQ(waveBltSub(&to, &from, 0, 0, 8, bad), 1);
+    EXPECT_EQ(waveBltMul(&to, &from, 0, 0, 8, bad), 1);
+  }
+  EXPECT_EQ(waveBltBlur(&to, &from, 0, 0, 8, 0) + waveBltGluder(&to, &from, 0, 0, 0, 0), 2);
+  EXPECT_EQ(b, std::vector<int16_t>(64, 0));
+  for (const float low : {-1.0f, nan, -INFINITY}) {
+    b[0] = 5;
+    EXPECT_EQ(waveBlt(&to, &from, 0, 0, 8, low), 0);
+    EXPECT_EQ(b[0], 0);
+    EXPECT_EQ(waveBltAddNoise(&to, &from, 0, 0, 8, low), 0);
+    EXPECT_EQ(b[0], 300);
+  }
+  waveBlt(&to, &from, 0, 0, 8, INFINITY);
+  EXPECT_EQ(b[0], 1200);
+  waveBltSin(&to, &from, 0, 0, 8, 2.0f, INFINITY, 0, 0);  // sin of infinity: the lowest integer
+  EXPECT_EQ(b[0], 300);
+  EXPECT_EQ(b[1], -32768);
+  std::fill(a.begin(), a.end(), int16_t{0});
+  waveBltSin(&to, &from, 0, 0, 8, 1.0f, 1.57079637f, 0, 0);
+  EXPECT_EQ(b[1], 32767);
+  EXPECT_EQ(b[3], -32767);
+}
+
+TEST(Blits, ExtremePositionsTouchOnlyTheBuffersAndCostWhatLiesInside) {
+  Random random(3);
+  const Arena arena(random, 3, 3, 50);
+  for (const Blit& blit : blits) {
+    if (std::string(blit.name) == "waveFormat") continue;
+    for (const int32_t ds : extreme_values)
+      for (const int32_t ss : extreme_values)
+        for (const int32_t count : {INT32_MIN, -1, 1, 7000, INT32_MAX}) {
+          const std::string name = blit.name;
+          if (name == "waveBltAddNoise" && count == INT32_MAX) continue;  // its draws
+          if (name == "waveBltSin" && ds < -70000 && ss != 0) continue;   // its phase
+          arena.after([&](const Buffer& d, const Buffer& s) {
+            const WaveBuffer to = d.record(), from = s.record();
+            EXPECT_EQ(blit.call(&to, &from, {ds, ss, count}, 1.5f), 0);
+          });
+        }
+  }
+  // The draws are made for every frame all the same.
+  seed_random(1);
+  arena.after([&](const Buffer& d, const Buffer& s) {
+    const WaveBuffer to = d.record(), from = s.record();
+    waveBltAddNoise(&to, &from, -30, 0, 1000, 0.5f);
+  });
+  const uint32_t next = draw_random();
+  seed_random(1);
+  for (int i = 0; i < 2000; ++i) draw_random();
+  EXPECT_EQ(next, draw_random());
+}
+
+TEST(Blits, TheToneFarOutsideIsTheOneThatEachFrameWouldGive) {
+  for (const float frequency : {0.3f, 3.0e8f, 1.0e30f})
+    for (const float depth : {0.0f, 0.01f}) {
+      // A single frame a long way into a run that begins outside, against the same accumulators stepped one by one.
+      int16_t got = 0, silent = 0;
+      const WaveBuffer to{waveFormatEnc(16, 1, 44100), 1, &got},
+          from{waveFormatEnc(16, 1, 44100), 1, &silent};
+      const int32_t far = 3000000;
+      waveBltSin(&to, &from, -far, 0, far + 1, 1.0f, frequency, depth, 0.01f);
+      float phase = 0, modulation = 0, increment = frequency;
+      for (int32_t i = 0; i < far; ++i) {
+        phase += increment;
+        modulation += 0.01f;
+        increment =
+            static_cast<float>(static_cast<double>(increment) +
+                               std::sin(static_cast<double>(modulation)) * static_cast<double>(depth));
+      }
+      EXPECT_EQ(got, static_cast<int16_t>(std::sin(static_cast<double>(phase)) * 32768.0)) << frequency;
+    }
+}
+
+}  // namespace
+}  // namespace tessaro::test
