@@ -22,6 +22,12 @@ constexpr unsigned least_pair = 3;
 // By the first three bits of a pair.
 constexpr Form forms[8] = {literal, literal, literal, literal, low5, low5, low3, same};
 
+constexpr uint64_t lengths = [] {
+  uint64_t packed = 0;
+  for (unsigned mark = 0; mark < 8; ++mark) packed |= uint64_t{forms[mark].bits} << 8 * mark;
+  return packed;
+}();
+
 // The index of the form, by the bits that differ in either byte of a pair.
 struct FormIndex {
   uint8_t of[256];
@@ -46,9 +52,11 @@ template <class Source, class Need>
 inline uint32_t decode_pair(BitReader<Source>& in, uint32_t before, Need need) {
   need(least_pair);
   const Form& form = forms[in.window() >> 61];
-  need(form.bits);
-  const auto fields = static_cast<uint32_t>(in.window() >> (64 - form.bits));
-  in.skip(form.bits);
+  // The next pair waits for this length: a shift gives it sooner than the table.
+  const unsigned bits = lengths >> (in.window() >> 58 & 56) & 63;
+  need(bits);
+  const auto fields = static_cast<uint32_t>(in.window() >> (64 - bits));
+  in.skip(bits);
   return (before & form.keep) | ((fields >> form.width | fields << 16) & pair_bytes & ~form.keep);
 }
 

@@ -59,14 +59,17 @@ inline int32_t decode_pixels(Source source, void* destination, uint32_t count, u
   BitReader<Source> in(source);
   auto* out = static_cast<uint8_t*>(destination);
   uint32_t pixel = 0;
+  // Before so many pixels of the end the stream goes on for the 8 bytes of a refill, whatever is held.
+  const uint32_t end = 128 / least_bits + 1;
+  const auto far_from_end = [&] { return count / 4 > end && in.can_refill(uint64_t{1} << 40); };
+  for (; far_from_end(); out += 4, count -= 4) {
+    in.refill();
+    pixel = next(in, pixel, [](unsigned) {});
+    store(out, pixel);
+  }
   for (;;) {
-    if (in.can_refill(uint64_t{count / 4} * least_bits)) {
-      in.refill();
-      pixel = next(in, pixel, [](unsigned) {});
-    } else {
-      pixel = next(in, pixel, [&](unsigned n) { in.need(n); });
-      if (in.ran_out()) return 1;
-    }
+    pixel = next(in, pixel, [&](unsigned n) { in.need(n); });
+    if (in.ran_out()) return 1;
     if (count <= 4) break;
     store(out, pixel);
     out += 4;
