@@ -197,6 +197,7 @@ const Format formats[] = {
     {"iabr", iabrEncoder, iabrDecoder, iabrDecoderSafe},
     {"iabr/of differences", iabrEncoder, iabrDecoder, iabrDecoderSafe, true},
     {"inabe", inabeEncoder, inabeDecoder, inabeDecoderSafe},
+    {"inabe/of differences", inabeEncoder, inabeDecoder, inabeDecoderSafe, true},
     {"inabeEx", inabeEncoder, inabeDecoderEx, inabeDecoderExSafe, true},
     {"imist", imistEncoder, imistDecoder, imistDecoderSafe},
     {"inda", indaEncoder, indaDecoder, indaDecoderSafe},

@@ -26,6 +26,9 @@ class ChannelOrder {
   bool has(uint32_t n) const { return at_ + 4 * uint64_t{n} < count_; }
   void skip(uint32_t n) { at_ += 4 * uint64_t{n}; }
 
+  // How many positions the channel at hand still has.
+  uint32_t left_in_channel() const { return static_cast<uint32_t>((count_ - at_ + 3) / 4); }
+
  private:
   uint64_t at_ = 0;
   uint32_t count_;

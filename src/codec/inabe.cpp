@@ -124,17 +124,24 @@ class Pixels {
   static constexpr uint32_t longest_span = 1024;
   uint8_t* span() { return codes_; }
   void done(uint32_t n) {
-    for (uint32_t i = 0; i < n; ++i) step(unfold(codes_[i]));
+    step(n, [&](uint32_t i) { return unfold(codes_[i]); });
   }
   void repeat(uint8_t code, uint32_t n) {
-    for (const uint8_t difference = unfold(code); n; --n) step(difference);
+    const uint8_t difference = unfold(code);
+    step(n, [&](uint32_t) { return difference; });
   }
 
  private:
-  void step(uint8_t difference) {
-    value_ = static_cast<uint8_t>(value_ + difference);
-    out_[order_.position()] = value_;
-    order_.next();
+  // n positions at most, those of one channel at a time.
+  template <class Difference>
+  void step(uint32_t n, Difference difference) {
+    for (uint32_t i = 0; i < n;) {
+      const uint32_t channel = order_.left_in_channel(), stop = n - i < channel ? n : i + channel;
+      uint8_t* at = out_ + order_.position();
+      order_.skip(stop - i - 1);
+      order_.next();
+      for (; i < stop; ++i, at += 4) *at = value_ = static_cast<uint8_t>(value_ + difference(i));
+    }
   }
 
   uint8_t* out_;

@@ -1,0 +1,3 @@
+#include "decoder_fuzz.hpp"
+
+TESSARO_FUZZ_DECODER(inabeDecoderSafe, inabeDecoder)
