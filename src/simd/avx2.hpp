@@ -49,6 +49,7 @@ TESSARO_INLINE Px operator|(Px a, Px b) { return {_mm256_or_si256(a.v, b.v)}; }
 TESSARO_INLINE Px operator^(Px a, Px b) { return {_mm256_xor_si256(a.v, b.v)}; }
 TESSARO_INLINE Px operator~(Px a) { return {_mm256_xor_si256(a.v, _mm256_set1_epi32(-1))}; }
 TESSARO_INLINE Px and_not(Px a, Px b) { return {_mm256_andnot_si256(b.v, a.v)}; }
+TESSARO_INLINE Px choose_bits(Px mask, Px a, Px b) { return (a & mask) | and_not(b, mask); }
 template <int k>
 TESSARO_INLINE Px shl(Px a) {
   return {_mm256_slli_epi32(a.v, k)};
@@ -98,6 +99,7 @@ TESSARO_INLINE Px::Half plus_equal(Px::Half a, Px::Half b) {
   return {_mm256_sub_epi16(a.v, _mm256_cmpeq_epi16(a.v, b.v))};
 }
 TESSARO_INLINE Px::Half mul_high(Px::Half a, Px::Half b) { return {_mm256_mulhi_epu16(a.v, b.v)}; }
+TESSARO_INLINE Px::Half mul_high_signed(Px::Half a, Px::Half b) { return {_mm256_mulhi_epi16(a.v, b.v)}; }
 TESSARO_INLINE Px::Half min(Px::Half a, Px::Half b) { return {_mm256_min_epi16(a.v, b.v)}; }
 TESSARO_INLINE Px::Half max(Px::Half a, Px::Half b) { return {_mm256_max_epi16(a.v, b.v)}; }
 template <int k>
@@ -112,7 +114,8 @@ TESSARO_INLINE Px::Half halves(Px a) { return {a.v}; }
 TESSARO_INLINE Px::Half colour_sums(Px a) {
   const __m256i t =
       _mm256_madd_epi16(_mm256_maddubs_epi16(a.v, _mm256_set1_epi32(0x010101)), _mm256_set1_epi16(1));
-  return {_mm256_or_si256(t, _mm256_slli_epi32(t, 16))};
+  return {_mm256_shuffle_epi8(t, _mm256_setr_epi8(0, 1, 0, 1, 4, 5, 4, 5, 8, 9, 8, 9, 12, 13, 12, 13,  //
+                                                  0, 1, 0, 1, 4, 5, 4, 5, 8, 9, 8, 9, 12, 13, 12, 13))};
 }
 TESSARO_INLINE Px::Half lookup_alpha(Px a, const uint32_t* table) {
   const __m256i t =

@@ -39,6 +39,9 @@ TESSARO_INLINE Px operator|(Px a, Px b) { return {_mm512_or_si512(a.v, b.v)}; }
 TESSARO_INLINE Px operator^(Px a, Px b) { return {_mm512_xor_si512(a.v, b.v)}; }
 TESSARO_INLINE Px operator~(Px a) { return {_mm512_xor_si512(a.v, _mm512_set1_epi32(-1))}; }
 TESSARO_INLINE Px and_not(Px a, Px b) { return {_mm512_andnot_si512(b.v, a.v)}; }
+TESSARO_INLINE Px choose_bits(Px mask, Px a, Px b) {
+  return {_mm512_ternarylogic_epi32(a.v, b.v, mask.v, 0xE4)};
+}
 template <int k>
 TESSARO_INLINE Px shl(Px a) {
   return {_mm512_slli_epi32(a.v, k)};
@@ -86,6 +89,7 @@ TESSARO_INLINE Px::Half plus_equal(Px::Half a, Px::Half b) {
   return {_mm512_mask_add_epi16(a.v, _mm512_cmpeq_epi16_mask(a.v, b.v), a.v, _mm512_set1_epi16(1))};
 }
 TESSARO_INLINE Px::Half mul_high(Px::Half a, Px::Half b) { return {_mm512_mulhi_epu16(a.v, b.v)}; }
+TESSARO_INLINE Px::Half mul_high_signed(Px::Half a, Px::Half b) { return {_mm512_mulhi_epi16(a.v, b.v)}; }
 TESSARO_INLINE Px::Half min(Px::Half a, Px::Half b) { return {_mm512_min_epi16(a.v, b.v)}; }
 TESSARO_INLINE Px::Half max(Px::Half a, Px::Half b) { return {_mm512_max_epi16(a.v, b.v)}; }
 template <int k>
@@ -100,7 +104,7 @@ TESSARO_INLINE Px::Half halves(Px a) { return {a.v}; }
 TESSARO_INLINE Px::Half colour_sums(Px a) {
   const __m512i t =
       _mm512_madd_epi16(_mm512_maddubs_epi16(a.v, _mm512_set1_epi32(0x010101)), _mm512_set1_epi16(1));
-  return {_mm512_or_si512(t, _mm512_slli_epi32(t, 16))};
+  return {_mm512_shuffle_epi8(t, _mm512_set4_epi32(0x0D0C0D0C, 0x09080908, 0x05040504, 0x01000100))};
 }
 TESSARO_INLINE Px::Half lookup_alpha(Px a, const uint32_t* table) {
   const __m512i t = _mm512_i32gather_epi32(_mm512_srli_epi32(a.v, 24), table, 4);

@@ -5,10 +5,21 @@
 
 namespace {
 
+// A pixel's channels in 16 bits each.
+template <class P>
+struct Halves {
+  typename P::Half even, odd;
+  TESSARO_INLINE static Halves of(P a) { return {::even(a), ::odd(a)}; }
+};
+
 // (d * (256 - w) + s * w) >> 8 in all four channels; w is 0..256 in both lanes of each pixel.
 template <class P>
+TESSARO_INLINE P mix(P d, Halves<P> s, typename P::Half w, typename P::Half rest) {
+  return join_high(even(d) * rest + s.even * w, odd(d) * rest + s.odd * w);
+}
+template <class P>
 TESSARO_INLINE P mix(P d, P s, typename P::Half w, typename P::Half rest) {
-  return join_high(even(d) * rest + even(s) * w, odd(d) * rest + odd(s) * w);
+  return mix(d, Halves<P>::of(s), w, rest);
 }
 template <class P>
 TESSARO_INLINE P mix(P d, P s, typename P::Half w) {
@@ -25,24 +36,29 @@ TESSARO_INLINE P half_bytes(P a) {
 // negative.
 template <class P>
 struct Saturate {
-  typename P::Half k, m, negative;
-  TESSARO_INLINE Saturate(int32_t of_channel, int32_t of_sum)
-      : k(P::Half::splat(static_cast<uint32_t>(of_channel))),
-        m(P::Half::splat(static_cast<uint32_t>(2 * of_sum))),
-        negative(P::Half::splat(of_sum < 0 ? 0x7FFF : 0)) {}
+  using H = typename P::Half;
+  H even_k, odd_k, even_m, odd_m;  // alpha stays: 1 and 0
+  TESSARO_INLINE Saturate(int32_t k, int32_t m) {
+    const auto of_channel = static_cast<uint32_t>(k), of_sum = static_cast<uint32_t>(2 * m) & 0xFFFF;
+    even_k = H::splat(of_channel);
+    odd_k = halves(P::splat(of_channel | 1024 << 16));
+    even_m = H::splat(of_sum);
+    odd_m = halves(P::splat(of_sum));
+  }
+  // Not yet kept within a byte.
+  TESSARO_INLINE Halves<P> sums(P s) const {
+    const H grey = shl<5>(colour_sums(s));
+    const auto sum = [&](H c, H k, H m) { return mul_high_signed(shl<6>(c), k) + mul_high_signed(grey, m); };
+    return {sum(even(s), even_k, even_m), sum(odd(s), odd_k, odd_m)};
+  }
   TESSARO_INLINE P operator()(P s) const {
-    using H = typename P::Half;
-    // As an unsigned factor a negative m is 65536 too high, which adds the other factor to the high product.
-    const H sums = shl<5>(colour_sums(s));
-    const H grey = mul_high(sums, m) - min(sums, negative);
-    const auto channels = [&](H c) {
-      return min(max(mul_high(shl<6>(c), k) + grey, H::splat(0)), H::splat(255));
-    };
-    return with_alpha(join(channels(even(s)), channels(odd(s))), s);
+    const auto byte = [](H c) { return min(max(c, H::splat(0)), H::splat(255)); };
+    const Halves<P> c = sums(s);
+    return join(byte(c.even), byte(c.odd));
   }
 };
-// With 16 bits a factor must stay below 64; beyond that, one pixel at a time.
-inline constexpr int32_t saturation_limit = 65535;
+// With 16 bits a factor must stay below 32; beyond that, one pixel at a time.
+inline constexpr int32_t saturation_limit = 32767;
 template <>
 struct Saturate<One> {
   int32_t k, m;
@@ -56,6 +72,7 @@ struct Saturate<One> {
     }
     return {v};
   }
+  TESSARO_INLINE Halves<One> sums(One s) const { return Halves<One>::of((*this)(s)); }
 };
 
 }  // namespace

@@ -60,6 +60,7 @@ TESSARO_INLINE One operator|(One a, One b) { return {a.v | b.v}; }
 TESSARO_INLINE One operator^(One a, One b) { return {a.v ^ b.v}; }
 TESSARO_INLINE One operator~(One a) { return {~a.v}; }
 TESSARO_INLINE One and_not(One a, One b) { return {a.v & ~b.v}; }
+TESSARO_INLINE One choose_bits(One mask, One a, One b) { return {(a.v & mask.v) | (b.v & ~mask.v)}; }
 template <int k>
 TESSARO_INLINE One shl(One a) {
   return {a.v << k};
@@ -117,6 +118,11 @@ TESSARO_INLINE One::Half plus_equal(One::Half a, One::Half b) {
 }
 TESSARO_INLINE One::Half mul_high(One::Half a, One::Half b) {
   return per_lane(a, b, [](uint32_t x, uint32_t y) { return x * y >> 16; });
+}
+TESSARO_INLINE One::Half mul_high_signed(One::Half a, One::Half b) {
+  return per_lane(a, b, [](uint32_t x, uint32_t y) {
+    return static_cast<uint32_t>(static_cast<int16_t>(x) * static_cast<int16_t>(y) >> 16);
+  });
 }
 TESSARO_INLINE One::Half min(One::Half a, One::Half b) {
   return per_lane(

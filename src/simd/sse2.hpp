@@ -59,6 +59,7 @@ TESSARO_INLINE Px operator|(Px a, Px b) { return {_mm_or_si128(a.v, b.v)}; }
 TESSARO_INLINE Px operator^(Px a, Px b) { return {_mm_xor_si128(a.v, b.v)}; }
 TESSARO_INLINE Px operator~(Px a) { return {_mm_xor_si128(a.v, _mm_set1_epi32(-1))}; }
 TESSARO_INLINE Px and_not(Px a, Px b) { return {_mm_andnot_si128(b.v, a.v)}; }
+TESSARO_INLINE Px choose_bits(Px mask, Px a, Px b) { return (a & mask) | and_not(b, mask); }
 template <int k>
 TESSARO_INLINE Px shl(Px a) {
   return {_mm_slli_epi32(a.v, k)};
@@ -106,6 +107,7 @@ TESSARO_INLINE Px::Half plus_equal(Px::Half a, Px::Half b) {
   return {_mm_sub_epi16(a.v, _mm_cmpeq_epi16(a.v, b.v))};
 }
 TESSARO_INLINE Px::Half mul_high(Px::Half a, Px::Half b) { return {_mm_mulhi_epu16(a.v, b.v)}; }
+TESSARO_INLINE Px::Half mul_high_signed(Px::Half a, Px::Half b) { return {_mm_mulhi_epi16(a.v, b.v)}; }
 TESSARO_INLINE Px::Half min(Px::Half a, Px::Half b) { return {_mm_min_epi16(a.v, b.v)}; }
 TESSARO_INLINE Px::Half max(Px::Half a, Px::Half b) { return {_mm_max_epi16(a.v, b.v)}; }
 template <int k>

@@ -8,7 +8,7 @@
 //   P::splat(word)               the same pixel in every lane
 //   add_sat sub_sat add sub      per byte; the first two saturate, the others wrap
 //   min max difference           per unsigned byte
-//   & | ^ ~                      bitwise; and_not(a, b) = a & ~b
+//   & | ^ ~                      bitwise; and_not(a, b) = a & ~b; choose_bits(mask, a, b) = (a & mask) | (b & ~mask)
 //   shl<k> shr<k>                per 32-bit pixel, logical; shl(a, k) shr(a, k) where k is known at run time
 //   unzip(a, b)                  of the 2 * lanes pixels a, b: .even every other one from the first, .odd the rest
 //   alphas(a)                    the alpha byte in all four bytes
@@ -25,7 +25,7 @@
 //   lookup_alpha(a, table)       table[alpha] in both lanes; table has 256 32-bit entries below 65536
 //   scaled_alpha(a, m)           (alpha * m) >> 16 in both lanes; m at most 65794
 //   P::Half::splat(v)  + - *     modulo 65536;  shl<k> shr<k> (logical);  min max (signed)
-//   mul_high(a, b)               (a * b) >> 16, unsigned
+//   mul_high(a, b)               (a * b) >> 16, unsigned; mul_high_signed(a, b) signed
 //   plus_equal(a, b)             a + 1 where a == b, else a
 #pragma once
 
@@ -60,6 +60,7 @@ concept PixelVector = requires(P a, typename P::Half h, const void* in, void* ou
   { difference(a, a) } -> std::same_as<P>;
   { (a & a) | (a ^ ~a) } -> std::same_as<P>;
   { and_not(a, a) } -> std::same_as<P>;
+  { choose_bits(a, a, a) } -> std::same_as<P>;
   { shl<8>(shr<8>(a)) } -> std::same_as<P>;
   { shl(shr(a, 8), 8) } -> std::same_as<P>;
   { unzip(a, a).even } -> std::convertible_to<P>;
@@ -78,6 +79,7 @@ concept PixelVector = requires(P a, typename P::Half h, const void* in, void* ou
   { min(max(h, h), P::Half::splat(1)) } -> std::same_as<typename P::Half>;
   { plus_equal(h, h) } -> std::same_as<typename P::Half>;
   { mul_high(h, h) } -> std::same_as<typename P::Half>;
+  { mul_high_signed(h, h) } -> std::same_as<typename P::Half>;
   { shl<1>(shr<1>(h)) } -> std::same_as<typename P::Half>;
 };
 

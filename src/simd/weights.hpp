@@ -18,17 +18,17 @@ inline uint32_t alpha_weight(uint32_t alpha, float opacity) {
 // No table needs to be built and no vector has to gather: use scaled_alpha(pixel, m) in rules.
 //
 // It always exists. The weights are floor(alpha * s), s = opacity * 256 / 255, so m must lie in
-// [max(w / alpha), min((w + 1) / alpha)) * 65536; the ends are different fractions with denominators of at
-// most 255, hence more than 1 / 65536 apart, and s lies between them: m is one of the integers beside s *
-// 65536. (Rounding of the double product never breaks this: checked for every single-precision opacity.) Only
-// alphas from 128 up can tell the two apart, because a smaller alpha has a multiple there with the same or a
-// narrower bound.
+// [max(w / alpha), min((w + 1) / alpha)) * 65536; the ends are different fractions with denominators of at most 255,
+// hence more than 1 / 65536 apart, and s lies between them: m is one of the two integers beside s * 65536. They differ where
+// a fraction lies between them, and it is one only: on which side of s, its own weight tells. Denominators from 128 up have
+// all fractions among them. (Rounding of the double product never breaks this: checked for every single-precision opacity.)
 inline uint32_t alpha_factor(float opacity) {
   if (opacity == 1.0f) return 65794;
   const double slope = static_cast<double>(opacity) * static_cast<double>(0.003921569f) * 256.0;
   const auto below = static_cast<uint32_t>(trunc32(slope * 65536.0));
   for (uint32_t alpha = 128; alpha < 256; ++alpha)
-    if (alpha * below >> 16 != alpha_weight(alpha, opacity)) return below + 1;
+    if (const uint32_t above = (below + 1) * alpha >> 16; above != below * alpha >> 16)
+      return alpha_weight(alpha, opacity) >= above ? below + 1 : below;
   return below;
 }
 

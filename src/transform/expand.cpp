@@ -51,7 +51,9 @@ Stretch stretch_of(const ImageView& d, const ImageView& s, const ScaledBlit& r) 
                .sh = static_cast<int32_t>(r.sh),
                .shared = false,
                .columns = nullptr};
-  n.shared = share_memory(n);
+  // Nor may rows that overlap one another be written but one pixel after another.
+  const ptrdiff_t row = 4 * static_cast<ptrdiff_t>(n.dw);
+  n.shared = share_memory(n) || (n.dst_pitch < row && n.dst_pitch > -row);
   return n;
 }
 

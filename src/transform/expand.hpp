@@ -19,7 +19,7 @@ struct Stretch {
   int32_t dw, dh, sw, sh;
   // The areas have bytes in common: a source pixel must be read when its turn comes, not before.
   bool shared;
-  int32_t* columns;  // room for the source column of each destination column; null where there is none
+  int32_t* columns;  // room for columns_room(dw) numbers: the source columns; null where there is none
 };
 
 // The clip and the size checks of every stretched blit. Leaves the clipped rectangles in `rect`; false when nothing is to
@@ -28,13 +28,14 @@ bool clip_stretch(const ImageView& dst, const ImageView& src, ScaledBlit& rect);
 
 // The clipped call, its columns to be given room.
 Stretch stretch_of(const ImageView& dst, const ImageView& src, const ScaledBlit& rect);
-// Small rectangles stay off the heap.
+// A column for each pixel, and one for each vector of at least eight. Small rectangles stay off the heap.
+inline size_t columns_room(int32_t dw) { return static_cast<size_t>(dw) + static_cast<size_t>(dw) / 8 + 1; }
 using Columns = ScratchArray<int32_t, 256>;
 // Gives a clipped call room for its columns, where they are of use, and runs it.
 template <class Run>
 void run_stretch(const ImageView& dst, const ImageView& src, const ScaledBlit& rect, Run run) {
   Stretch n = stretch_of(dst, src, rect);
-  Columns columns(n.dw == n.sw || n.shared ? 0 : static_cast<size_t>(n.dw));
+  Columns columns(n.dw == n.sw || n.shared ? 0 : columns_room(n.dw));
   n.columns = columns.data();
   run(n);
 }

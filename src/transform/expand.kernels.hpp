@@ -10,11 +10,6 @@ using tessaro::AreaPair;
 using tessaro::Choice;
 using tessaro::Gradient;
 
-template <class P>
-struct Replace {
-  TESSARO_INLINE P operator()(P, P s) const { return s; }
-};
-
 // The colour of a row runs from left to right; the columns' weights come as pixels.
 template <class P>
 struct GradientRule {
@@ -28,9 +23,9 @@ struct GradientRule {
   }
   TESSARO_INLINE P operator()(P d, P s, P column) const {
     const P mask = P::splat(g.mask), keep = P::splat(g.keep);
-    s = (s & mask) | and_not(mix(left, right, halves(column)), mask);
+    s = choose_bits(mask, s, mix(left, right, halves(column)));
     const auto weight = g.by_alpha ? scaled_alpha(s, g.factor) : P::Half::splat(g.weight);
-    return (d & keep) | and_not(mix(d, s, weight), keep);
+    return choose_bits(keep, d, mix(d, s, weight));
   }
 };
 
@@ -52,46 +47,48 @@ void gradient(const Stretch& n, const Gradient& g) {
 }
 
 // Stretches low..high of each colour to 0..255: floor(255 * (v - low) / (high - low)). From above the high end it is 255
-// and up to the low end 0, except that equal ends give 255 - low at that value.
+// and up to the low end 0, except that equal ends give 255 - low at that value. Takes what is not yet kept within a byte.
 template <class P>
 struct Levels {
   using H = typename P::Half;
-  P low, range, equal_ends;
-  H even_range, odd_range, even_inverse, odd_inverse;
+  P low, equal_ends;
+  Halves<P> lows, ranges, inverses;
   bool any_equal = false;
   TESSARO_INLINE Levels(uint32_t from, uint32_t to) {
-    uint32_t lows = 0, ranges = 0xFF000000, patch = 0, inverse[4] = {0, 0, 0, 256};
+    uint32_t start = 0, range = 0xFF000000, patch = 0, inverse[4] = {0, 0, 0, 256};  // alpha stays
     for (int k = 0; k < 3; ++k) {
       const uint32_t a = from >> 8 * k & 255, b = to >> 8 * k & 255;
-      const uint32_t r = b > a ? b - a : 1;
-      lows |= a << 8 * k;
-      ranges |= r << 8 * k;
-      inverse[k] = (255 * 256 + r - 1) / r;
+      const uint32_t r = b > a ? b - a : a < 255 ? 1 : 0;  // nothing lies above 255
+      start |= a << 8 * k;
+      range |= r << 8 * k;
+      inverse[k] = r ? (255 * 256 + r - 1) / r : 0;
       if (a == b) {
         any_equal = true;
         patch |= (255 - a) << 8 * k;
       }
     }
-    low = P::splat(lows);
-    range = P::splat(ranges);
+    low = P::splat(start);
     equal_ends = P::splat(patch);
-    even_range = even(range);
-    odd_range = odd(range);
-    even_inverse = halves(P::splat(inverse[0] | inverse[2] << 16));
-    odd_inverse = halves(P::splat(inverse[1] | inverse[3] << 16));
+    lows = Halves<P>::of(low);
+    ranges = Halves<P>::of(P::splat(range));
+    inverses = {halves(P::splat(inverse[0] | inverse[2] << 16)),
+                halves(P::splat(inverse[1] | inverse[3] << 16))};
   }
   // The product with the inverse is the quotient or one more, never less; the remainder tells.
-  TESSARO_INLINE static H scaled(H t, H r, H inverse) {
+  TESSARO_INLINE static H scaled(H v, H from, H range, H inverse) {
+    const H t = min(max(v - from, H::splat(0)), range);
     const H up = shl<8>(t);
     const H q = mul_high(up, inverse);
-    return q - shr<15>(up - t - q * r);
+    return q - shr<15>(up - t - q * range);
   }
-  TESSARO_INLINE P operator()(P v) const {
-    const P t = min(sub_sat(v, low), range);
-    P out = join(scaled(even(t), even_range, even_inverse), scaled(odd(t), odd_range, odd_inverse));
+  TESSARO_INLINE Halves<P> operator()(Halves<P> v) const {
+    Halves<P> out = {scaled(v.even, lows.even, ranges.even, inverses.even),
+                     scaled(v.odd, lows.odd, ranges.odd, inverses.odd)};
     if (any_equal) {
+      const auto byte = [](H c) { return min(max(c, H::splat(0)), H::splat(255)); };
       const P one = P::splat(0x01010101);
-      out = out | (sub(min(difference(v, low), one), one) & equal_ends);
+      const P patch = sub(min(difference(join(byte(v.even), byte(v.odd)), low), one), one) & equal_ends;
+      out = {out.even + even(patch), out.odd + odd(patch)};
     }
     return out;
   }
@@ -100,36 +97,40 @@ struct Levels {
 template <class P>
 struct Choose {
   using H = typename P::Half;
-  const Choice& c;
-  P mask, color, invert, keep;
+  const Choice c;
+  P vary, flip, set,
+      keep;  // the mask, the inverted bits and the colour as one rule: ((s & vary) ^ flip) | set
+  H weight;
   Saturate<P> saturate;
   Levels<P> levels;
   TESSARO_INLINE explicit Choose(const Choice& choice)
       : c(choice),
-        mask(P::splat(c.mask)),
-        color(P::splat(c.color)),
-        invert(P::splat(c.invert)),
+        vary(P::splat(c.mask | (c.invert & ~c.color))),
+        flip(P::splat(c.invert & ~c.color & ~c.mask)),
+        set(P::splat(c.color & ~c.mask)),
         keep(P::splat(c.keep)),
+        weight(H::splat(c.weight)),
         saturate{c.saturation, c.grey},
         levels{c.low, c.high} {}
   TESSARO_INLINE P operator()(P d, P s) const {
     const P base = c.source_is_base ? s : d;
-    if (c.mask != 0xFFFFFFFF) s = (s & mask) | and_not(and_not(invert, s) | color, mask);
-    if (c.saturated) s = saturate(s);
-    if (c.levelled) s = levels(s);
-    const H weight = c.by_alpha ? scaled_alpha(s, c.factor) : H::splat(c.weight);
-    if (!c.add_color && !c.add_alpha) {
-      s = mix(base, s, weight);
+    if (c.mask != 0xFFFFFFFF) s = ((s & vary) ^ flip) | set;
+    const H w = c.by_alpha ? scaled_alpha(s, c.factor) : weight;
+    Halves<P> v = Halves<P>::of(s);
+    if (c.levelled)
+      v = levels(c.saturated ? saturate.sums(s) : v);
+    else if (c.saturated)
+      v = Halves<P>::of(saturate(s));
+    if (c.add_color && c.add_alpha) {
+      s = add_sat(base, join_high(v.even * w, v.odd * w));
     } else {
-      const P part = join_high(even(s) * weight, odd(s) * weight);
-      if (c.add_color && c.add_alpha) {
-        s = add_sat(base, part);
-      } else {
-        const P mixed = mix(base, s, weight), sum = add_sat(base, part);
-        s = c.add_color ? with_alpha(sum, mixed) : with_alpha(mixed, sum);
+      s = mix(base, v, w, H::splat(256) - w);
+      if (c.add_color || c.add_alpha) {
+        const P sum = add_sat(base, join_high(v.even * w, v.odd * w));
+        s = c.add_color ? with_alpha(sum, s) : with_alpha(s, sum);
       }
     }
-    if (c.keep != 0) s = (base & keep) | and_not(s, keep);
+    if (c.keep != 0) s = choose_bits(keep, base, s);
     return s;
   }
 };
@@ -145,9 +146,9 @@ struct FillByAlpha {
 }  // namespace
 
 TESSARO_KERNELS(ExpandKernels){
-    .copy = [](const Stretch& n) { stretch<Px, Replace, true>(n); },
-    .mix = [](const Stretch& n, uint32_t weight) { stretch<Px, ConstantMix>(n, weight); },
-    .blend = [](const Stretch& n, uint32_t factor) { stretch<Px, AlphaMix>(n, factor); },
+    .copy = [](const Stretch& n) { stretch_copy(n); },
+    .mix = [](const Stretch& n, uint32_t weight) { stretch_short<ConstantMix>(n, weight); },
+    .blend = [](const Stretch& n, uint32_t factor) { stretch_short<AlphaMix>(n, factor); },
     .gradient = gradient,
     .choose =
         [](const Stretch& n, const Choice& choice) {

@@ -23,11 +23,6 @@ struct RenderRule {
   }
 };
 
-template <class P>
-struct ReplaceRule {
-  TESSARO_INLINE P operator()(P, P s) const { return s; }
-};
-
 // The sample between two interpolated rows, then the rule.
 template <class P, class Rule>
 struct Between {
@@ -156,7 +151,7 @@ TESSARO_INLINE void bilinear(const Bilinear& b, const Args&... args) {
 }  // namespace
 
 TESSARO_KERNELS(LinearKernels){
-    .replace = [](const Bilinear& b) { bilinear<ReplaceRule>(b); },
+    .replace = [](const Bilinear& b) { bilinear<Replace>(b); },
     .render = [](const Bilinear& b, const Render& render) { bilinear<RenderRule>(b, render); },
     .render_nearest = [](const Stretch& n, const Render& render) { stretch<Px, RenderRule>(n, render); },
 };
