@@ -175,7 +175,73 @@ TESSARO_API int32_t TESSARO_CALL BBIBltToF(void* dst, const uint32_t* src, int32
                                            const void* table);
 
 /* ---- Whole-image operations
- * ------------------------------------------------------------------------------------- */
+ * -------------------------------------------------------------------------------------
+ *
+ * Colour components are kept within 0..255. Operations that change a whole image return 0, or 1 for an image
+ * whose width or height is below 1. */
+
+/* Compares two images, or tests the first. 0: the test holds for every pixel (also where there is none); 1: it
+ * fails, or the sizes differ, in every mode; 2: unknown mode, for images with rows.
+ *   0  all 32 bits equal          4  alpha of a is 0
+ *   1  colours equal              5  alpha of a is 255
+ *   2  alphas equal               6  a is only black (0x000000) and white (0xFFFFFF), alpha aside
+ *                                 7  a is only grey: blue = green = red */
+TESSARO_API int32_t TESSARO_CALL BBICompare(const ImageRecord* a, const ImageRecord* b, int32_t mode);
+
+/* Counts pixels that differ under the mask and of which at least one of the four masked bytes differs by no
+ * more than the tolerance (kept within 1..255). Bytes that are equal, or masked away, count as close: equal
+ * pixels are not counted, pixels that differ in every byte by more than the tolerance are not counted either.
+ * -1 if the sizes differ. */
+TESSARO_API int32_t TESSARO_CALL BBICompareAny(const ImageRecord* a, const ImageRecord* b, uint32_t mask,
+                                               int32_t tolerance);
+
+/* The number of different colours, alpha aside. 0 if flag is not 0, or if 2 MiB of working memory cannot be
+ * had. */
+TESSARO_API int32_t TESSARO_CALL BBIColorCount(const ImageRecord* image, int32_t flag);
+
+/* Collects up to max (0..256, otherwise 0 is returned and nothing done) colours in order of appearance, with
+ * alpha 0, into the palette, and replaces every pixel's alpha by its colour's index there; 0 for a colour that
+ * found no room. Returns the number of colours collected plus the number of pixels whose colour found none, so
+ * that a result above max tells that the palette was too small. */
+TESSARO_API int32_t TESSARO_CALL BBIColorPalette(ImageRecord* image, uint32_t* palette, int32_t max);
+
+/* The smallest rectangle around all content, that is pixels with (p & mask) != key. Without any: 0, 0, 1, 1.
+ * A flag other than 0 returns 1 and writes nothing. */
+TESSARO_API int32_t TESSARO_CALL BBITrim(const ImageRecord* image, int32_t flag, uint32_t mask, uint32_t key,
+                                         int32_t* left, int32_t* top, int32_t* width, int32_t* height);
+
+/* Fill an image; keep its alpha; keep the bits that the mask has set. */
+TESSARO_API int32_t TESSARO_CALL BBIClear(ImageRecord* image, int32_t red, int32_t green, int32_t blue,
+                                          int32_t alpha);
+TESSARO_API int32_t TESSARO_CALL BBIClearRGB(ImageRecord* image, int32_t red, int32_t green, int32_t blue);
+TESSARO_API int32_t TESSARO_CALL BBIClearMask(ImageRecord* image, int32_t red, int32_t green, int32_t blue,
+                                              int32_t alpha, uint32_t mask);
+
+/* Mirror in place: left to right, top to bottom. */
+TESSARO_API int32_t TESSARO_CALL BBIMirror(ImageRecord* image);
+TESSARO_API int32_t TESSARO_CALL BBIVMirror(ImageRecord* image);
+
+/* Turns src into dst: mode 0 a quarter clockwise, 1 a half, 2 a quarter counter-clockwise. Returns 1 if the
+ * size of dst is not that of src, with width and height exchanged for a quarter; any other mode returns 0
+ * and does nothing. The images must not share pixels: what dst holds afterwards is undefined if they do. */
+TESSARO_API int32_t TESSARO_CALL BBIRotation(ImageRecord* dst, const ImageRecord* src, int32_t mode);
+
+/* Alpha becomes 0 for pixels of the key colour (alphas of key and pixel aside) and 255 for all others. */
+TESSARO_API int32_t TESSARO_CALL BBIKeying(ImageRecord* image, uint32_t key);
+
+/* Gives pixels with alpha 0 the mean colour of those of their four neighbours whose alpha is not 0, truncated;
+ * alpha stays 0. Pixels without such a neighbour stay. Keeps a keyed picture's edges clean when it is scaled. */
+TESSARO_API int32_t TESSARO_CALL BBIKeyingFilter(ImageRecord* image);
+
+/* Does nothing; 0. */
+TESSARO_API int32_t TESSARO_CALL BBIAntiAreas(int32_t a, int32_t b, int32_t c);
+
+/* Flood fill: the pixel at (x, y) and all that are connected to it through their four neighbours and equal it
+ * in all 32 bits take the colour. Writes the rectangle filled, both ends included. Returns 1, and touches
+ * neither image nor outputs, if (x, y) lies outside, has the colour already, or working memory (at most three
+ * bytes a pixel, of which only what the fill needs is touched) cannot be had. */
+TESSARO_API int32_t TESSARO_CALL BBIPaint(ImageRecord* image, int32_t x, int32_t y, uint32_t colour,
+                                          int32_t* left, int32_t* top, int32_t* right, int32_t* bottom);
 
 /* ---- Tone and levels
  * --------------------------------------------------------------------------------------------

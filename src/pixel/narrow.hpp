@@ -39,7 +39,7 @@ TESSARO_INLINE void store_words(uint8_t* p, One a, One b, One c, One d) { store_
 TESSARO_INLINE void store_triples(uint8_t* p, One a, One b, One c, One d) { store_ones<3>(p, a, b, c, d); }
 TESSARO_INLINE void store_bytes(uint8_t* p, One a, One b, One c, One d) { store_ones<1>(p, a, b, c, d); }
 
-#if defined(__AVX512BW__)
+#if TESSARO_LANES == 16
 template <>
 TESSARO_INLINE Px load_words<Px>(const uint8_t* p) {
   return {_mm512_cvtepu16_epi32(_mm256_loadu_si256(reinterpret_cast<const __m256i*>(p)))};
@@ -84,7 +84,7 @@ TESSARO_INLINE void store_bits(uint8_t* p, Px a, Px b, Px c, Px d) {
   const uint64_t bits = _mm512_movepi8_mask(_mm512_shuffle_epi8(packed_bytes(a, b, c, d), turn));
   std::memcpy(p, &bits, sizeof bits);
 }
-#elif defined(__AVX2__)
+#elif TESSARO_LANES == 8
 template <>
 TESSARO_INLINE Px load_words<Px>(const uint8_t* p) {
   return {_mm256_cvtepu16_epi32(_mm_loadu_si128(reinterpret_cast<const __m128i*>(p)))};

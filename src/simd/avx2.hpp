@@ -33,6 +33,9 @@ struct Px {
     _mm256_maskstore_epi32(static_cast<int*>(p), first(n), v);
   }
   TESSARO_INLINE static Px splat(uint32_t x) { return {_mm256_set1_epi32(static_cast<int>(x))}; }
+  TESSARO_INLINE static uint32_t bits(__m256i mask) {
+    return static_cast<uint32_t>(_mm256_movemask_ps(_mm256_castsi256_ps(mask)));
+  }
 };
 
 TESSARO_INLINE Px add_sat(Px a, Px b) { return {_mm256_adds_epu8(a.v, b.v)}; }

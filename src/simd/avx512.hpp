@@ -23,6 +23,7 @@ struct Px {
   TESSARO_INLINE void store(void* p) const { _mm512_storeu_si512(p, v); }
   TESSARO_INLINE void store(void* p, size_t n) const { _mm512_mask_storeu_epi32(p, first(n), v); }
   TESSARO_INLINE static Px splat(uint32_t x) { return {_mm512_set1_epi32(static_cast<int>(x))}; }
+  TESSARO_INLINE static uint32_t bits(__mmask16 mask) { return mask; }
 };
 
 TESSARO_INLINE Px add_sat(Px a, Px b) { return {_mm512_adds_epu8(a.v, b.v)}; }

@@ -43,6 +43,9 @@ struct Px {
     }
   }
   TESSARO_INLINE static Px splat(uint32_t x) { return {_mm_set1_epi32(static_cast<int>(x))}; }
+  TESSARO_INLINE static uint32_t bits(__m128i mask) {
+    return static_cast<uint32_t>(_mm_movemask_ps(_mm_castsi128_ps(mask)));
+  }
 };
 
 TESSARO_INLINE Px add_sat(Px a, Px b) { return {_mm_adds_epu8(a.v, b.v)}; }

@@ -14,6 +14,7 @@
 //   alphas(a)                    the alpha byte in all four bytes
 //   with_alpha(colour, a)        the colours of one and the alpha of the other
 //   equal(a, b) above(a, b)      per unsigned 32-bit pixel, a P::Mask; select(mask, yes, no)
+//   P::bits(mask)                one bit a pixel, the first in bit 0
 //
 // Products need 16 bits: a P::Half has two 16-bit lanes per pixel.
 //   even(a) odd(a)               bytes 0 and 2 (blue, red); bytes 1 and 3 (green, alpha)
@@ -68,6 +69,7 @@ concept PixelVector = requires(P a, typename P::Half h, const void* in, void* ou
   { with_alpha(a, a) } -> std::same_as<P>;
   { select(equal(a, a), a, a) } -> std::same_as<P>;
   { select(above(a, a), a, a) } -> std::same_as<P>;
+  { P::bits(equal(a, a)) } -> std::same_as<uint32_t>;
   { join(even(a), odd(a)) } -> std::same_as<P>;
   { join_high(even(a), odd(a)) } -> std::same_as<P>;
   { halves(a) } -> std::same_as<typename P::Half>;

@@ -1,0 +1,320 @@
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <set>
+
+#include "support/images.hpp"
+
+namespace tessaro::test {
+namespace {
+
+int at(uint32_t p, int channel) { return static_cast<int>(p >> (8 * channel) & 255); }
+
+// Any pitch and alignment.
+Image any_image(Random& random, int32_t width, int32_t height) {
+  const int32_t gap = random.between(0, 3) ? 0 : random.between(0, 9);
+  Image image(width, height, (4 * width + gap) * (random.between(0, 2) ? 1 : -1),
+              static_cast<size_t>(random.between(0, 3)));
+  image.randomize(random.word());
+  return image;
+}
+void for_pixels(Image& image, const std::function<void(int32_t x, int32_t y)>& visit) {
+  for (int32_t y = 0; y < image.height(); ++y)
+    for (int32_t x = 0; x < image.width(); ++x) visit(x, y);
+}
+
+TEST(Compare, FailsAtTheOneWrongPixel) {
+  const std::function<bool(uint32_t, uint32_t)> tests[] = {
+      [](uint32_t a, uint32_t b) { return a == b; },
+      [](uint32_t a, uint32_t b) { return a % 0x1000000 == b % 0x1000000; },
+      [](uint32_t a, uint32_t b) { return at(a, 3) == at(b, 3); },
+      nullptr,
+      [](uint32_t a, uint32_t) { return at(a, 3) == 0; },
+      [](uint32_t a, uint32_t) { return at(a, 3) == 255; },
+      [](uint32_t a, uint32_t) { return a % 0x1000000 == 0 || a % 0x1000000 == 0xFFFFFF; },
+      [](uint32_t a, uint32_t) { return at(a, 0) == at(a, 1) && at(a, 1) == at(a, 2); }};
+  const uint32_t pass[8][2] = {
+      {0x12345678, 0x12345678}, {0x12345678, 0x99345678}, {0x12345678, 0x12FFFFFF}, {},
+      {0x00345678, 0},          {0xFF345678, 0},          {0x12FFFFFF, 0},          {0x11232323, 0}};
+  for (const Backend backend : supported_backends()) {
+    Forced forced(backend);
+    Random random(1);
+    for (int32_t mode = 0; mode < 8; ++mode)
+      for (int32_t w = 1; w < 150; w += 1 + w / 40) {
+        Image a = any_image(random, w, 3), b = any_image(random, w, 3);
+        a.fill(pass[mode][0]);
+        b.fill(pass[mode][1]);
+        ASSERT_EQ(BBICompare(a, b, mode), mode == 3 ? 2 : 0)
+            << name_of(backend) << " mode " << mode << " width " << w;
+        if (mode == 3) continue;
+        for (int trial = 0; trial < 60; ++trial) {
+          const int32_t x = random.between(0, w - 1), y = random.between(0, 2);
+          const uint32_t flip = 1u << random.between(0, 31);
+          Image& changed = trial % 2 ? a : b;
+          changed.set(x, y, changed.get(x, y) ^ flip);
+          ASSERT_EQ(BBICompare(a, b, mode), tests[mode](a.get(x, y), b.get(x, y)) ? 0 : 1)
+              << name_of(backend) << " mode " << mode << " width " << w << " flip " << flip;
+          changed.set(x, y, changed.get(x, y) ^ flip);
+        }
+      }
+  }
+  Image a(5, 2), narrow(4, 2), flat(5, 0), thin(0, 5);
+  a.fill(0);
+  EXPECT_EQ(BBICompare(a, narrow, 4), 1);
+  EXPECT_EQ(BBICompare(flat, flat, 3), 0);
+  EXPECT_EQ(BBICompare(thin, thin, 0), 0);
+  for (const int32_t mode : {3, 8, -1, INT32_MIN, INT32_MAX}) {
+    EXPECT_EQ(BBICompare(a, a, mode), 2);
+    EXPECT_EQ(BBICompare(thin, thin, mode), 2);
+  }
+}
+
+TEST(Compare, CountsPixelsThatDifferALittle) {
+  for (const Backend backend : supported_backends()) {
+    Forced forced(backend);
+    Random random(2);
+    for (const int32_t w : {1, 3, 17, 70, 9000}) {
+      Image a = w > 8000 ? Image(w, 1, 4) : any_image(random, w, 4), b = a;
+      for_pixels(b, [&](int32_t x, int32_t y) {
+        if (random.between(0, 4)) b.set(x, y, random.pixel());
+      });
+      for (const int32_t tolerance : {0, 1, 2, 20, 254, 255, 256, -5, INT32_MIN, INT32_MAX})
+        for (const uint32_t mask : {0xFFFFFFFFu, 0u, 0x00FF00FFu, 0xF0F0F0F0u}) {
+          int32_t count = 0;
+          const int t = tolerance < 1 ? 1 : tolerance > 255 ? 255 : tolerance;
+          for_pixels(a, [&](int32_t x, int32_t y) {
+            const uint32_t ma = a.get(x, y) & mask, mb = b.get(x, y) & mask;
+            bool near = false;
+            for (int c = 0; c < 4; ++c) near = near || std::abs(at(ma, c) - at(mb, c)) <= t;
+            count += ma != mb && near;
+          });
+          ASSERT_EQ(BBICompareAny(a, b, mask, tolerance), count) << name_of(backend) << ' ' << w;
+        }
+    }
+  }
+  Image a(5, 2), b(5, 3), flat(5, 0);
+  EXPECT_EQ(BBICompareAny(a, b, 0, 1), -1);
+  EXPECT_EQ(BBICompareAny(flat, flat, ~0u, 1), 0);
+}
+
+TEST(Colours, CountsAndCollects) {
+  Random random(3);
+  for (int trial = 0; trial < 40; ++trial) {
+    // Past 2^15 pixels another way of counting begins.
+    const bool large = trial % 8 == 0;
+    Image image =
+        large ? Image(300, 200, -1204, 1) : any_image(random, random.between(1, 60), random.between(1, 9));
+    const int32_t kinds = random.between(1, 400);
+    for_pixels(image, [&](int32_t x, int32_t y) {
+      image.set(x, y, static_cast<uint32_t>(random.between(0, kinds)) * 0x2F1E35u ^ random.word() << 24);
+    });
+    std::set<uint32_t> colours;
+    for_pixels(image, [&](int32_t x, int32_t y) { colours.insert(image.get(x, y) & 0xFFFFFF); });
+    EXPECT_EQ(BBIColorCount(image, 0), static_cast<int32_t>(colours.size()));
+    EXPECT_EQ(BBIColorCount(image, 1), 0);
+
+    const int32_t max = trial % 4 == 0 ? 256 : trial % 4 == 1 ? 0 : random.between(1, 255);
+    Image model = image;
+    std::vector<uint32_t> palette(257, 0xCCCCCCCC), expected = palette;
+    int32_t n = 0;
+    for_pixels(model, [&](int32_t x, int32_t y) {
+      const uint32_t colour = model.get(x, y) & 0xFFFFFF;
+      const auto kept = expected.begin() + std::min(n, max);
+      auto slot = std::find(expected.begin(), kept, colour);
+      uint32_t index = static_cast<uint32_t>(slot - expected.begin());
+      if (slot == kept) {
+        if (n++ < max)
+          *slot = colour;
+        else
+          index = 0;
+      }
+      model.set(x, y, index << 24 | colour);
+    });
+    EXPECT_EQ(BBIColorPalette(image, palette.data(), max), n);
+    EXPECT_EQ(palette, expected);
+    EXPECT_EQ(image, model) << "max " << max;
+  }
+  Image image(3, 3), before = image;
+  for (const int32_t max : {-1, 257, INT32_MIN, INT32_MAX})
+    EXPECT_EQ(BBIColorPalette(image, nullptr, max), 0);
+  EXPECT_EQ(image, before);
+}
+
+TEST(Trim, FindsTheContent) {
+  for (const Backend backend : supported_backends()) {
+    Forced forced(backend);
+    Random random(4);
+    for (int trial = 0; trial < 400; ++trial) {
+      Image image = any_image(random, random.between(1, 150), random.between(1, 9));
+      image.fill(0x7F332211);
+      int32_t box[4] = {-7, -7, -7, -7}, x0 = INT32_MAX, y0 = INT32_MAX, x1 = -1, y1 = -1;
+      for (int dots = random.between(0, 3); dots > 0; --dots) {
+        const int32_t x = random.between(0, image.width() - 1), y = random.between(0, image.height() - 1);
+        const bool masked = random.between(0, 3) == 0;  // differs only where the mask does not look
+        image.set(x, y, masked ? 0x00332211 : 0x7F332210);
+      }
+      for_pixels(image, [&](int32_t x, int32_t y) {
+        if ((image.get(x, y) & 0xFFFFFF) != 0x332211)
+          x0 = std::min(x0, x), x1 = std::max(x1, x), y0 = std::min(y0, y), y1 = std::max(y1, y);
+      });
+      const Image before = image;
+      ASSERT_EQ(BBITrim(image, 0, 0xFFFFFF, 0x332211, box, box + 1, box + 2, box + 3), 0);
+      ASSERT_EQ(image, before);
+      if (x1 < 0) x0 = y0 = x1 = y1 = 0;
+      ASSERT_EQ((std::vector<int32_t>{x0, y0, x1 - x0 + 1, y1 - y0 + 1}), std::vector<int32_t>(box, box + 4))
+          << name_of(backend) << image;
+    }
+  }
+  int32_t box[4] = {9, 9, 9, 9};
+  Image empty(0, 4);
+  EXPECT_EQ(BBITrim(empty, -1, 0, 1, box, box + 1, box + 2, box + 3), 1);
+  EXPECT_EQ(box[2], 9);
+  EXPECT_EQ(BBITrim(empty, 0, 0, 1, box, box + 1, box + 2, box + 3), 0);
+  EXPECT_EQ((std::vector<int32_t>{0, 0, 1, 1}), std::vector<int32_t>(box, box + 4));
+}
+
+// Every operation that makes a new pixel from an old image.
+TEST(Whole, EqualsTheModelInEveryShape) {
+  struct Row {
+    const char* name;
+    std::function<int32_t(ImageRecord*)> run;
+    std::function<uint32_t(Image&, int32_t x, int32_t y)> model;
+  };
+  const auto mean_of_neighbours = [](Image& image, int32_t x, int32_t y) {
+    const uint32_t here = image.get(x, y);
+    int sums[3] = {}, n = 0;
+    for (const auto& [dx, dy] : {std::pair{-1, 0}, {1, 0}, {0, -1}, {0, 1}}) {
+      if (x + dx < 0 || y + dy < 0 || x + dx >= image.width() || y + dy >= image.height()) continue;
+      const uint32_t p = image.get(x + dx, y + dy);
+      if (at(p, 3) == 0) continue;
+      ++n;
+      for (int c = 0; c < 3; ++c) sums[c] += at(p, c);
+    }
+    if (at(here, 3) != 0 || n == 0) return here;
+    return static_cast<uint32_t>(sums[0] / n | (sums[1] / n) << 8 | (sums[2] / n) << 16);
+  };
+  const Row rows[] = {
+      {"Clear", [](auto* i) { return BBIClear(i, 300, -4, 7, 256); },
+       [](auto&, int, int) { return 0xFFFF0007u; }},
+      {"ClearRGB", [](auto* i) { return BBIClearRGB(i, 1, INT32_MAX, INT32_MIN); },
+       [](auto& i, int x, int y) { return (i.get(x, y) & 0xFF000000) | 0x01FF00; }},
+      {"ClearMask", [](auto* i) { return BBIClearMask(i, 0x11, 0x22, 0x33, 0x44, 0x0FF000F3u); },
+       [](auto& i, int x, int y) { return (i.get(x, y) & 0x0FF000F3u) | (0x44112233u & ~0x0FF000F3u); }},
+      {"ClearMask 0", [](auto* i) { return BBIClearMask(i, 0x11, 0x22, 0x33, 0x44, 0); },
+       [](auto&, int, int) { return 0x44112233u; }},
+      {"Mirror", BBIMirror, [](auto& i, int x, int y) { return i.get(i.width() - 1 - x, y); }},
+      {"VMirror", BBIVMirror, [](auto& i, int x, int y) { return i.get(x, i.height() - 1 - y); }},
+      {"Keying", [](auto* i) { return BBIKeying(i, 0x99FF00FF); },
+       [](auto& i, int x, int y) {
+         const uint32_t p = i.get(x, y) & 0xFFFFFF;
+         return p == 0xFF00FF ? p : p | 0xFF000000;
+       }},
+      {"KeyingFilter", BBIKeyingFilter, mean_of_neighbours},
+  };
+  for (const Backend backend : supported_backends()) {
+    Forced forced(backend);
+    Random random(5);
+    for (const Row& row : rows)
+      for (int32_t w = 0; w < 75; ++w) {
+        Image image = any_image(random, w, random.between(w == 70 ? 0 : 1, 5));
+        for_pixels(image, [&](int32_t x, int32_t y) {
+          const int32_t kind = random.between(0, 5);
+          const uint32_t p = image.get(x, y);
+          if (kind < 4) image.set(x, y, kind == 0 ? 0xFF00FF | p << 24 : p & 0xFFFFFF);
+        });
+        Image before = image, model = image;
+        for_pixels(model, [&](int32_t x, int32_t y) { model.set(x, y, row.model(before, x, y)); });
+        ASSERT_EQ(row.run(image), w == 0 || image.height() == 0 ? 1 : 0);
+        ASSERT_EQ(image, model) << row.name << ' ' << name_of(backend) << " width " << w;
+      }
+  }
+  EXPECT_EQ(BBIAntiAreas(INT32_MIN, 0, -1), 0);
+}
+
+TEST(Rotation, PutsEveryPixelInItsPlace) {
+  for (const Backend backend : supported_backends()) {
+    Forced forced(backend);
+    Random random(6);
+    for (int trial = 0; trial < 300; ++trial) {
+      const int32_t w = random.between(1, trial % 3 ? 40 : 150), h = random.between(1, trial % 5 ? 40 : 150);
+      const int32_t mode = trial % 3;
+      Image src = any_image(random, w, h),
+            dst = mode == 1 ? any_image(random, w, h) : any_image(random, h, w);
+      Image model = dst;
+      for_pixels(src, [&](int32_t x, int32_t y) {
+        const uint32_t p = src.get(x, y);
+        if (mode == 0) model.set(h - 1 - y, x, p);
+        if (mode == 1) model.set(w - 1 - x, h - 1 - y, p);
+        if (mode == 2) model.set(y, w - 1 - x, p);
+      });
+      ASSERT_EQ(BBIRotation(dst, src, mode), 0);
+      ASSERT_EQ(dst, model) << name_of(backend) << " mode " << mode << ' ' << w << " x " << h;
+    }
+  }
+  Image dst(3, 2), src(2, 3), flat(5, 0), tall(0, 5), before = dst;
+  EXPECT_EQ(BBIRotation(dst, src, 1), 1);
+  EXPECT_EQ(BBIRotation(dst, dst, 0), 1);
+  EXPECT_EQ(BBIRotation(dst, dst, 2), 1);
+  EXPECT_EQ(BBIRotation(tall, flat, 0), 0);
+  EXPECT_EQ(BBIRotation(flat, tall, 2), 0);
+  for (const int32_t mode : {3, -1, INT32_MIN, INT32_MAX}) EXPECT_EQ(BBIRotation(dst, src, mode), 0);
+  EXPECT_EQ(dst, before);
+}
+
+// One neighbour after another, from a list.
+int32_t naive_paint(Image& image, int32_t x, int32_t y, uint32_t colour, int32_t (&box)[4]) {
+  if (x < 0 || y < 0 || x >= image.width() || y >= image.height()) return 1;
+  const uint32_t old = image.get(x, y);
+  if (old == colour) return 1;
+  std::vector<std::pair<int32_t, int32_t>> list{{x, y}};
+  box[0] = box[2] = x, box[1] = box[3] = y;
+  image.set(x, y, colour);
+  while (!list.empty()) {
+    const auto [px, py] = list.back();
+    list.pop_back();
+    box[0] = std::min(box[0], px), box[1] = std::min(box[1], py);
+    box[2] = std::max(box[2], px), box[3] = std::max(box[3], py);
+    for (const auto& [nx, ny] : {std::pair{px, py + 1}, {px, py - 1}, {px + 1, py}, {px - 1, py}})
+      if (nx >= 0 && ny >= 0 && nx < image.width() && ny < image.height() && image.get(nx, ny) == old) {
+        image.set(nx, ny, colour);
+        list.push_back({nx, ny});
+      }
+  }
+  return 0;
+}
+
+TEST(Paint, FillsExactlyTheConnectedPixels) {
+  const uint32_t values[] = {0, 0xFF000000, 0x00000001, 0xFF00FF00};
+  for (const Backend backend : supported_backends()) {
+    Forced forced(backend);
+    Random random(7);
+    for (int trial = 0; trial < 1500; ++trial) {
+      Image image = any_image(random, random.between(1, trial % 4 ? 24 : 90), random.between(1, 24));
+      // From open ground with a few stones over mazes of corridors to scattered pixels.
+      const int32_t density = random.between(0, 9), step = random.between(1, 4);
+      const bool corridors = trial % 3 == 0;
+      for_pixels(image, [&](int32_t x, int32_t y) {
+        const bool wall = corridors ? (x % (step + 1) == step || y % 5 == 4) && random.between(0, 3)
+                                    : random.between(0, 20) < density;
+        image.set(x, y, values[wall ? random.between(1, 3) : 0]);
+      });
+      Image model = image;
+      const int32_t x = random.between(-1, image.width()), y = random.between(-1, image.height());
+      const uint32_t colour = values[random.between(0, 3)];
+      int32_t got[4] = {-5, -5, -5, -5}, box[4] = {-5, -5, -5, -5};
+      const int32_t status = naive_paint(model, x, y, colour, box);
+      ASSERT_EQ(BBIPaint(image, x, y, colour, got, got + 1, got + 2, got + 3), status);
+      ASSERT_EQ(image, model) << name_of(backend) << " from " << x << ", " << y;
+      ASSERT_EQ(std::vector<int32_t>(got, got + 4), std::vector<int32_t>(box, box + 4));
+    }
+  }
+  Image image(4, 4);
+  for (const int32_t v : extreme_values)
+    if (v < 0 || v > 3) {
+      EXPECT_EQ(BBIPaint(image, v, 1, 5, nullptr, nullptr, nullptr, nullptr), 1);
+      EXPECT_EQ(BBIPaint(image, 1, v, 5, nullptr, nullptr, nullptr, nullptr), 1);
+    }
+}
+
+}  // namespace
+}  // namespace tessaro::test
