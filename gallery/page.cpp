@@ -128,7 +128,7 @@ class Page : public Gallery {
 
   void plot(const std::string& title, const std::string& notice, const std::vector<Series>& series) override {
     ++entries_;
-    body_ += "<figure class=\"wide\">\n" + chart(series);
+    body_ += "<figure class=\"double\">\n" + chart(series);
     caption(title, "", notice, "", -1);
     body_ += "</figure>\n";
   }
@@ -232,6 +232,12 @@ class Page : public Gallery {
     return svg + "</svg>\n";
   }
 
+  // About four ticks to a range, at 1, 2 or 5 times a power of ten.
+  static double tick(double range) {
+    const double power = std::pow(10, std::floor(std::log10(range / 4))), steps = range / 4 / power;
+    return (steps <= 1 ? 1 : steps <= 2 ? 2 : steps <= 5 ? 5 : 10) * power;
+  }
+
   static std::string chart(const std::vector<Series>& series) {
     constexpr double left = 56, right = 708, top = 12, bottom = 232;
     double low = INFINITY, high = -INFINITY;
@@ -243,13 +249,7 @@ class Page : public Gallery {
     }
     if (!(low <= high)) low = 0, high = 1;
     if (low == high) low -= 1, high += 1;
-    // Ticks at 1, 2 or 5 times a power of ten.
-    const double power = std::pow(10, std::floor(std::log10((high - low) / 4)));
-    const double wanted = (high - low) / 4 / power, step = (wanted <= 1   ? 1
-                                                            : wanted <= 2 ? 2
-                                                            : wanted <= 5 ? 5
-                                                                          : 10) *
-                                                           power;
+    const double step = tick(high - low), across = std::max(1.0, tick(static_cast<double>(count - 1)));
     const auto px = [&](double x) { return left + (right - left) * x / static_cast<double>(count - 1); };
     const auto py = [&](double v) { return bottom - (bottom - top) * (v - low) / (high - low); };
     std::string svg = "<svg class=\"plot\" viewBox=\"0 0 720 260\" role=\"img\">";
@@ -257,10 +257,8 @@ class Page : public Gallery {
       svg += format(
           "<path class=\"grid\" d=\"M%.0f %.1fH%.0f\"/><text x=\"%.0f\" y=\"%.1f\" class=\"y\">%g</text>",
           left, py(v), right, left - 8, py(v) + 4, std::abs(v) < step * 1e-6 ? 0.0 : v);
-    for (int i = 0; i <= 4; ++i) {
-      const double x = std::round(static_cast<double>(count - 1) * i / 4);
+    for (double x = 0; x <= static_cast<double>(count - 1); x += across)
       svg += format("<text x=\"%.1f\" y=\"%.0f\" class=\"x\">%g</text>", px(x), bottom + 20, x);
-    }
     for (size_t i = 0; i < series.size(); ++i) {
       svg += format("<path class=\"line c%d\" d=\"", static_cast<int>(i % 6));
       bool drawing = false;

@@ -36,11 +36,14 @@ h3 { font-size: 1rem; margin: 0 0 .4rem; }
 .lead { max-width: 46rem; color: var(--quiet); margin: 0 0 1.4rem; }
 .facts { color: var(--quiet); font-size: .82rem; margin: 0; font-variant-numeric: tabular-nums; }
 .facts b { color: var(--accent); font-weight: 600; }
-.photos { display: flex; gap: 1rem; flex-wrap: wrap; margin-bottom: 1rem; }
-.photos img { height: clamp(110px, 17vw, 240px); border-radius: 8px; }
-.grid { display: grid; grid-template-columns: repeat(auto-fill, minmax(320px, 1fr)); gap: 1.4rem; align-items: start; }
+.photos { display: grid; grid-template-columns: repeat(auto-fit, minmax(160px, 1fr)); gap: 1rem; max-width: 64rem;
+          margin-bottom: 1rem; }
+.photos img { width: 100%; aspect-ratio: 3 / 2; object-fit: cover; border-radius: 8px; }
+.grid { display: grid; grid-template-columns: repeat(auto-fill, minmax(320px, 1fr)); gap: 1.4rem; align-items: start;
+        grid-auto-flow: dense; }
 figure { margin: 0; background: var(--card); border: 1px solid var(--line); border-radius: 10px; overflow: hidden; }
 figure.wide { grid-column: 1 / -1; padding-top: 1rem; }
+figure.double { grid-column: span 2; padding-top: 1rem; }
 figure > a { display: grid; place-items: center; background: var(--code); }
 figure img { display: block; max-width: 100%; height: auto; }
 img.pixels { image-rendering: pixelated; }
@@ -78,7 +81,8 @@ th { color: var(--quiet); font-weight: 600; }
   nav ol { display: block; } nav li { display: block; margin: 0 0 .45rem; }
   main { width: 100%; padding: 2.5rem 2.5rem 6rem; }
 }
-@media (max-width: 700px) { .grid { grid-template-columns: 1fr; } main { padding: 1.2rem 1rem 4rem; } }
+@media (max-width: 700px) { .grid { grid-template-columns: 1fr; }
+  figure.double { grid-column: auto; } main { padding: 1.2rem 1rem 4rem; } }
 )css";
 
 }  // namespace gallery

@@ -96,15 +96,13 @@ void read_bitmap_file(const PictureFile& file, Canvas& canvas) {
   const size_t stated = file.field(10, 4), at = stated ? stated : palette_at + used;
   const size_t step = (static_cast<size_t>(width) * layout.bits + 31) / 32 * 4;
   const size_t row = (static_cast<size_t>(width) * layout.bits + 7) / 8;  // the last row may lack its padding
-  int32_t rows = 0;
-  for (; rows < height; ++rows) {
-    const size_t from = at + static_cast<size_t>(rows) * step;
-    if (from > file.size || file.size - from < row) break;
-    layout.convert(file.bytes + from, canvas.row(top_down ? rows : height - 1 - rows),
-                   static_cast<size_t>(width));
+  for (int32_t y = 0; y < canvas.rows; ++y) {
+    const size_t from = at + static_cast<size_t>(top_down ? y : height - 1 - y) * step;
+    if (from > file.size || file.size - from < row) continue;
+    layout.convert(file.bytes + from, canvas.row(y), static_cast<size_t>(width));
+    if (canvas.last == 0) canvas.first = y;
+    canvas.last = y + 1;
   }
-  canvas.first = top_down ? 0 : canvas.height - rows;
-  canvas.last = top_down ? rows : canvas.height;
 }
 
 }  // namespace tessaro::platform

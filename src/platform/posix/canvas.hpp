@@ -28,7 +28,9 @@ struct PictureFile {
 // a damaged file does not give are not drawn.
 class Canvas {
  public:
-  explicit Canvas(bool wants_pixels) : wants_pixels_(wants_pixels) {}
+  // No more rows than `wanted` are kept, so that a picture costs what is seen of it. With none, nothing but the size
+  // is asked for.
+  explicit Canvas(int32_t wanted) : wanted_(wanted) {}
   Canvas(const Canvas&) = delete;
   Canvas& operator=(const Canvas&) = delete;
   ~Canvas() { std::free(pixels_); }
@@ -38,21 +40,21 @@ class Canvas {
   bool open(int64_t width, int64_t height) {
     constexpr int64_t edge = 32767, bytes = int64_t{512} << 20;
     if (width < 1 || height < 1 || width > edge || height > edge || width * height * 4 > bytes) return false;
-    if (wants_pixels_) {
-      pixels_ = static_cast<uint32_t*>(std::calloc(static_cast<size_t>(width * height), 4));
-      if (!pixels_) return false;
-    }
     this->width = static_cast<int32_t>(width);
     this->height = static_cast<int32_t>(height);
-    return wants_pixels_;
+    rows = this->height < wanted_ ? this->height : wanted_;
+    if (rows < 1) return false;
+    pixels_ = static_cast<uint32_t*>(std::calloc(static_cast<size_t>(width) * static_cast<size_t>(rows), 4));
+    return pixels_ != nullptr;
   }
   uint32_t* row(int64_t y) { return pixels_ + y * width; }
 
   int32_t width = 0, height = 0;
+  int32_t rows = 0;             // those kept: 0 <= y < rows
   int32_t first = 0, last = 0;  // the rows that were decoded: first <= y < last
 
  private:
-  bool wants_pixels_;
+  int32_t wanted_;
   uint32_t* pixels_ = nullptr;
 };
 

@@ -29,7 +29,7 @@ int32_t least(int32_t a, int32_t b, int32_t c) { return a < b ? (a < c ? a : c) 
 }  // namespace
 
 bool picture_extent(const uint8_t* file, size_t size, PictureExtent& extent) {
-  Canvas canvas(false);
+  Canvas canvas(0);
   read({file, size}, canvas);
   extent = {himetric(canvas.width), himetric(canvas.height)};
   return true;
@@ -37,12 +37,11 @@ bool picture_extent(const uint8_t* file, size_t size, PictureExtent& extent) {
 
 bool draw_picture(void* device, const uint8_t* file, size_t size) {
   if (!device) return true;
-  Canvas canvas(true);
-  read({file, size}, canvas);
   const ImageView dst = ImageView::of(static_cast<const ImageRecord*>(device));
+  Canvas canvas(dst.width > 0 ? dst.height : 0);
+  read({file, size}, canvas);
   const int32_t width = least(himetric(canvas.height), canvas.width, dst.width);
-  const int32_t height = least(himetric(canvas.width), canvas.last, dst.height);
-  if (width < 1) return true;
+  const int32_t height = least(himetric(canvas.width), canvas.last, canvas.rows);
   for (int32_t y = canvas.first; y < height; ++y)
     std::memcpy(dst.at(0, y), canvas.row(y), 4 * static_cast<size_t>(width));
   return true;

@@ -95,8 +95,9 @@ void read_jpeg(const PictureFile& file, Canvas& canvas) {
     reader.out_color_space = inks ? JCS_CMYK : JCS_EXT_BGRX;
     jpeg_start_decompress(&reader);
     const size_t width = static_cast<size_t>(canvas.width);
-    while (canvas.last < canvas.height &&
-           (reader.buffered_image || reader.progressive_mode || !errors.drained)) {
+    // Of several passes all were read before the first row; with one, rows come as they are read.
+    const bool passes = jpeg_has_multiple_scans(&reader);
+    while (canvas.last < canvas.rows && (passes || !errors.drained)) {
       uint32_t* row = canvas.row(canvas.last);
       auto* bytes = reinterpret_cast<JSAMPROW>(row);
       jpeg_read_scanlines(&reader, &bytes, 1);
@@ -132,11 +133,13 @@ void read_png(const PictureFile& file, Canvas& canvas) {
     const int passes = png_set_interlace_handling(png);
     png_read_update_info(png, info);
     if (png_get_rowbytes(png, info) != 4 * static_cast<size_t>(canvas.width)) return;
-    for (int pass = 0; pass < passes; ++pass)
-      for (int32_t y = 0; y < canvas.height; ++y) {
-        png_read_row(png, reinterpret_cast<png_bytep>(canvas.row(y)), nullptr);
-        if (pass == passes - 1) canvas.last = y + 1;
+    for (int pass = 0; pass < passes; ++pass) {
+      const bool last = pass == passes - 1;
+      for (int32_t y = 0; y < (last ? canvas.rows : canvas.height); ++y) {
+        png_read_row(png, y < canvas.rows ? reinterpret_cast<png_bytep>(canvas.row(y)) : nullptr, nullptr);
+        if (last) canvas.last = y + 1;
       }
+    }
   });
   png_destroy_read_struct(&png, &info, nullptr);
 }
@@ -200,11 +203,13 @@ void gif_read_image(GifFileType* gif, Canvas& canvas) {
          y += image.Interlace ? step[pass] : 1) {
       if (DGifGetLine(gif, line, image.Width) == GIF_ERROR) return;
       const int32_t at = image.Top + y;
-      if (at < canvas.height)
+      if (at < canvas.rows)
         for (int32_t x = 0; x < right; ++x) canvas.row(at)[image.Left + x] = palette[line[x]];
-      if (!image.Interlace && at < canvas.height) canvas.last = at + 1;
+      else if (!image.Interlace)
+        break;
+      if (!image.Interlace) canvas.last = at + 1;
     }
-  canvas.last = canvas.height;
+  canvas.last = canvas.rows;
 }
 
 }  // namespace
