@@ -1,4 +1,6 @@
 // ib18: blocks of six bytes, each byte a repeat of the one before, the one predicted to follow it, or a literal.
+#include <emmintrin.h>
+
 #include "codec/bits.hpp"
 #include "codec/channel_order.hpp"
 #include "tessaro/codec.h"
@@ -8,25 +10,64 @@ namespace {
 
 constexpr uint32_t shortest = 512;
 constexpr uint32_t margin = 32;
-constexpr unsigned block = 6;
+constexpr unsigned block_size = 6;
+constexpr unsigned all_of_block = 0x3F;
 constexpr unsigned longest_run = 16;  // doublings of a block
 
-// What the encoder reads: the source in its order, and zeros behind it.
+// What the encoder reads: the source in its order, and zeros behind it. block(i) is the six bytes from i on, the first
+// one lowest, with anything above them.
 struct PlainOrder {
   const uint8_t* source;
   uint64_t n;
   uint8_t operator[](uint64_t i) const { return i < n ? source[i] : uint8_t{0}; }
+  uint64_t block(uint64_t i) const {
+    if (i + 8 <= n) [[likely]]
+      return load<uint64_t>(source + i);
+    uint64_t bytes = 0;
+    for (unsigned k = 0; k < block_size; ++k) bytes |= uint64_t{(*this)[i + k]} << 8 * k;
+    return bytes;
+  }
 };
 // Every fourth byte from 0, then from 1, 2 and 3. Lengths that are not a multiple of 4 give what these formulas give.
 struct ChannelsOrder {
   const uint8_t* source;
   uint64_t n;
-  uint8_t operator[](uint64_t i) const {
+  uint64_t position(uint64_t i) const {
     const uint64_t q = 4 * i < 2 * n ? 4 * i : 4 * i + 2 - 2 * n;
-    if (q < n) return source[q];
-    return q + 1 - n < n ? source[q + 1 - n] : uint8_t{0};
+    return q < n ? q : q + 1 - n;
+  }
+  uint8_t operator[](uint64_t i) const {
+    const uint64_t at = position(i);
+    return at < n ? source[at] : uint8_t{0};
+  }
+  uint64_t block(uint64_t i) const {
+    uint64_t bytes = 0;
+    const uint64_t first = position(i), last = position(i + block_size - 1);
+    if (last - first == 4 * (block_size - 1) && last < n) [[likely]] {  // all in one channel
+      for (unsigned k = 0; k < block_size; ++k) bytes |= uint64_t{source[first + 4 * k]} << 8 * k;
+    } else {
+      for (unsigned k = 0; k < block_size; ++k) bytes |= uint64_t{(*this)[i + k]} << 8 * k;
+    }
+    return bytes;
   }
 };
+
+// One of two values without a jump: no processor guesses which of them the data asks for.
+inline uint64_t either(bool first, uint64_t a, uint64_t b) { return b ^ ((a ^ b) & (uint64_t{0} - first)); }
+
+// Flags of the bytes of a block that are the same in both.
+inline unsigned equal_bytes(uint64_t a, uint64_t b) {
+  const __m128i equal = _mm_cmpeq_epi8(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(&a)),
+                                       _mm_loadl_epi64(reinterpret_cast<const __m128i*>(&b)));
+  return static_cast<unsigned>(_mm_movemask_epi8(equal)) & all_of_block;
+}
+
+// How many of six bits are set.
+inline unsigned bits_in(unsigned flags) {
+  unsigned n = flags - (flags >> 1 & 0x15);
+  n = (n & 0x33) + (n >> 2 & 0x33);
+  return (n + (n >> 4)) & 0xF;
+}
 
 // For every byte the one that follows it most often; the smallest of equals, and never itself.
 void find_successors(const uint8_t* source, uint32_t n, uint8_t* successors) {
@@ -53,48 +94,47 @@ int32_t encode(const void* source, void* destination, uint32_t length, uint32_t*
   uint8_t successors[256];
   find_successors(in.source, length, successors);
   std::memcpy(begin, successors, sizeof successors);
-  uint8_t* out = begin + 256;
+  uint8_t* out = begin + sizeof successors;
   const uint8_t* const limit = begin + (length - margin);
   uint8_t last = 0;
+  // The last eight bytes of the stream: an operation with its literals is stored together with those before it, without
+  // a branch for their number and without touching what follows.
+  uint64_t tail = load_big_endian64(out - 8);
   for (uint64_t at = 0; at < length;) {
-    // Both lists are made as if every byte belonged to them; those that do not are overwritten.
-    uint8_t unpredicted[block + 1], unrepeated[block + 1];
-    unsigned repeats = 0, predictions = 0, repeated = 0, predicted = 0;
-    for (unsigned k = 0; k < block; ++k) {
-      const uint8_t byte = in[at + k];
-      const unsigned r = byte == last, p = !r & (byte == successors[last]);
-      repeats |= r << k;
-      predictions |= p << k;
-      unrepeated[k - repeated] = byte;
-      unpredicted[k - predicted] = byte;
-      repeated += r;
-      predicted += p;
-      last = byte;
-    }
-    at += block;
-    const auto put = [&](unsigned operation, const uint8_t* literals, unsigned count) {
-      *out++ = static_cast<uint8_t>(operation);
-      for (unsigned k = 0; k < count; ++k) out[k] = literals[k];
-      out += count;
-    };
-    if (repeated == block) {
+    const uint64_t bytes = in.block(at), before = bytes << 8 | last;
+    uint64_t expected = 0;
+    for (unsigned k = 0; k < block_size; ++k)
+      expected |= uint64_t{successors[before >> 8 * k & 0xFF]} << 8 * k;
+    // No byte is its own successor, so none is both.
+    const unsigned repeats = equal_bytes(bytes, before), predictions = equal_bytes(bytes, expected);
+    last = static_cast<uint8_t>(bytes >> 8 * (block_size - 1));
+    at += block_size;
+    const unsigned repeated = bits_in(repeats), predicted = bits_in(predictions);
+    uint64_t operation, unsent;  // the flags of the bytes that are not sent
+    if (repeated == block_size) {
       unsigned level = 0;
-      for (uint64_t size = block; level < longest_run; ++level, size *= 2) {
+      for (uint64_t size = block_size; level < longest_run; ++level, size *= 2) {
         uint64_t same = 0;
         while (same < size && in[at + same] == last) ++same;
         if (same < size) break;
         at += size;
       }
-      put(level == 0 ? 0x7F : 0x10 | (level - 1), nullptr, 0);
-    } else if (predicted == block) {
-      put(0xBF, nullptr, 0);
-    } else if (repeated + predicted == block) {
-      put(0xC0 | repeats, nullptr, 0);
-    } else if (repeated < predicted) {
-      put(0x80 | predictions, unpredicted, block - predicted);
+      operation = level == 0 ? 0x7F : 0x10 | (level - 1);
+      unsent = all_of_block;
     } else {
-      put(0x40 | repeats, unrepeated, block - repeated);
+      const bool by_prediction = repeated < predicted;
+      const bool mixed = repeated + predicted == block_size && predicted != block_size;
+      operation = either(by_prediction, 0x80 | predictions, 0x40 | repeats);
+      operation = either(mixed, 0xC0 | repeats, operation);
+      unsent = either(mixed, all_of_block, either(by_prediction, predictions, repeats));
     }
+    uint64_t sent = 0;  // literals, the last one lowest
+    for (unsigned k = 0; k < block_size; ++k)
+      sent = either(unsent >> k & 1, sent, sent << 8 | (bytes >> 8 * k & 0xFF));
+    const unsigned literals = block_size - bits_in(static_cast<unsigned>(unsent));
+    out += 1 + literals;
+    tail = (tail << 8 | operation) << 8 * literals | sent;
+    store(out - 8, __builtin_bswap64(tail));
     if (out >= limit) break;
   }
   store(written, static_cast<uint32_t>(out - begin));
@@ -143,7 +183,8 @@ class Decoder {
 
   int32_t run() {
     if (!in_.has(256)) return 1;
-    successors_ = in_.at;
+    std::memcpy(tables_.successors, in_.at, 256);
+    for (unsigned v = 0; v < 256; ++v) tables_.same[v] = static_cast<uint8_t>(v);
     in_.at += 256;
     while (state_ == State::going) {
       if (!in_.has(1)) return 1;
@@ -176,7 +217,7 @@ class Decoder {
       }
       last_ = *in_.at++;
     } else if (what == Is::predicted) {
-      last_ = successors_[last_];
+      last_ = tables_.successors[last_];
     }
     if (!out_.put(last_)) state_ = State::done;
   }
@@ -196,34 +237,44 @@ class Decoder {
 
   template <Is one, Is zero>
   void take_block(unsigned flags) {
-    const auto literals =
-        zero == Is::literal ? block - static_cast<unsigned>(__builtin_popcount(flags & 0x3F)) : 0;
-    uint8_t* const to = out_.room(block);
+    const auto literals = zero == Is::literal ? block_size - bits_in(flags & 0x3F) : 0;
+    uint8_t* const to = out_.room(block_size);
     if (to == nullptr || !in_.has(literals)) {
-      for (unsigned k = 0; k < block && state_ == State::going; ++k) put(flags >> k & 1 ? one : zero);
+      for (unsigned k = 0; k < block_size && state_ == State::going; ++k) put(flags >> k & 1 ? one : zero);
       return;
     }
     const uint8_t* literal = in_.at - 1;  // the last one taken, or the operation
     uint8_t last = last_;
-    for (unsigned k = 0; k < block; ++k) {
-      const bool flag = flags >> k & 1;
-      const uint8_t repeated_or_predicted = one == Is::repeat ? last : successors_[last];
-      if constexpr (zero == Is::literal) {
-        literal += !flag;
-        last = flag ? repeated_or_predicted : *literal;
+    for (unsigned k = 0; k < block_size; ++k) {
+      const int flag = flags >> k & 1;
+      if constexpr (zero == Is::literal) literal += !flag;
+      if constexpr (Sink::step == 1) {
+        // The flags of interleaved pixels are alike from pixel to pixel, and jumps are guessed well: a literal then does
+        // not wait for the byte before it.
+        if (flag)
+          last = one == Is::repeat ? last : tables_.successors[last];
+        else
+          last = zero == Is::literal ? *literal : tables_.successors[last];
+      } else if constexpr (zero == Is::literal && one == Is::repeat) {
+        last = static_cast<uint8_t>((last & -flag) | (*literal & (flag - 1)));
+      } else if constexpr (zero == Is::literal) {
+        last =
+            static_cast<uint8_t>((flag ? tables_.successors : tables_.none)[last] | (*literal & (flag - 1)));
       } else {
-        last = flag ? last : successors_[last];
+        last = (flag ? tables_.same : tables_.successors)[last];
       }
       to[k * Sink::step] = last;
     }
     last_ = last;
     in_.at += literals;
-    out_.skip(block);
+    out_.skip(block_size);
   }
 
   Source in_;
   Sink out_;
-  const uint8_t* successors_ = nullptr;
+  struct {
+    uint8_t none[256], successors[256], same[256];
+  } tables_ = {};
   uint8_t last_ = 0;
   State state_ = State::going;
 };

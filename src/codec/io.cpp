@@ -56,16 +56,22 @@ extern "C" int32_t TESSARO_CALL ioEncoder(const void* source, void* destination,
   const uint32_t limit = length - margin;
   BitWriter out(static_cast<uint8_t*>(destination));
   uint32_t before = 0, left = length;
-  // Far from the limit and from the end, where at least 8 more bytes follow: one store a group and no tests.
-  while (left >= 4 * 64 && out.written() + 16 < limit) {
+  // A run of repeats in one field, and nothing to test, while no run can reach the limit or the end.
+  constexpr uint32_t longest = 32;
+  while (left >= 4 * longest && out.written() + 8 < limit) {
     const uint32_t group = __builtin_bswap32(load<uint32_t>(in));
-    if (group == before)
-      out.put_ahead(1, 1);
-    else
-      out.put_ahead(group, 33);
+    uint32_t groups = 1;
+    if (group == before) {
+      const uint64_t two = load<uint32_t>(in) * 0x100000001u;
+      while (groups + 2 <= longest && load<uint64_t>(in + 4 * groups) == two) groups += 2;
+      out.put(~0u >> (longest - groups), groups);
+    } else {
+      out.put(0, 1);
+      out.put(group, 32);
+    }
     before = group;
-    in += 4;
-    left -= 4;
+    in += 4 * groups;
+    left -= 4 * groups;
   }
   while (left != 0) {
     const unsigned n = left < 4 ? left : 4;

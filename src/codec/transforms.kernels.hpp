@@ -257,6 +257,42 @@ TESSARO_INLINE size_t plane_start(size_t n, size_t count, size_t k) {
   return n / count * k + (k < n % count ? k : n % count);
 }
 
+#if defined(__AVX2__)
+// Where the bytes of 16 triples come from, 16 at a time, for each channel; above 127 from another channel.
+struct Triples {
+  alignas(32) uint8_t from[3][3][32];
+};
+constexpr Triples triples = [] {
+  Triples t{};
+  for (unsigned part = 0; part < 3; ++part)
+    for (unsigned channel = 0; channel < 3; ++channel)
+      for (unsigned i = 0; i < 32; ++i) {
+        const unsigned at = 16 * part + i % 16;
+        t.from[part][channel][i] = static_cast<uint8_t>(at % 3 == channel ? at / 3 : 0x80);
+      }
+  return t;
+}();
+
+TESSARO_INLINE __m256i load256(const void* p) { return _mm256_loadu_si256(static_cast<const __m256i*>(p)); }
+TESSARO_INLINE void store256(void* p, __m256i v) { _mm256_storeu_si256(static_cast<__m256i*>(p), v); }
+
+// Joins the first n bytes of three planes, n a multiple of 32. Both compilers shuffle twice as much.
+TESSARO_INLINE void join_triples(const uint8_t* a, const uint8_t* b, const uint8_t* c, uint8_t* dst,
+                                 size_t n) {
+  for (size_t i = 0; i < n; i += 32, dst += 96) {
+    const __m256i x = load256(a + i), y = load256(b + i), z = load256(c + i);
+    __m256i part[3];  // of the first 16 triples in the lower half, of the others in the upper
+    for (int p = 0; p < 3; ++p)
+      part[p] = _mm256_or_si256(_mm256_or_si256(_mm256_shuffle_epi8(x, load256(triples.from[p][0])),
+                                                _mm256_shuffle_epi8(y, load256(triples.from[p][1]))),
+                                _mm256_shuffle_epi8(z, load256(triples.from[p][2])));
+    store256(dst, _mm256_permute2x128_si256(part[0], part[1], 0x20));
+    store256(dst + 32, _mm256_permute2x128_si256(part[2], part[0], 0x30));
+    store256(dst + 64, _mm256_permute2x128_si256(part[1], part[2], 0x31));
+  }
+}
+#endif
+
 // In the wide forms the memories do not overlap.
 template <size_t count>
 struct Planes {
@@ -268,7 +304,14 @@ struct Planes {
   }
   static void decode(const uint8_t* __restrict src, uint8_t* __restrict dst, size_t n) {
     const size_t whole = n / count;
-    for (size_t i = 0; i < whole; ++i)
+    size_t done = 0;
+#if defined(__AVX2__)
+    if constexpr (count == 3) {
+      done = whole / 32 * 32;
+      join_triples(src, src + plane_start(n, 3, 1), src + plane_start(n, 3, 2), dst, done);
+    }
+#endif
+    for (size_t i = done; i < whole; ++i)
       for (size_t k = 0; k < count; ++k) dst[count * i + k] = src[plane_start(n, count, k) + i];
     for (size_t k = 0; k < n % count; ++k) dst[count * whole + k] = src[plane_start(n, count, k) + whole];
   }
