@@ -1,6 +1,6 @@
 // kernels: EllipseKernels for scalar sse2 avx2 avx512
+#include "draw/arctan.hpp"
 #include "draw/ellipses.hpp"
-#include "draw/polar.hpp"
 #include "simd/vocabulary.hpp"
 
 namespace {
@@ -31,19 +31,23 @@ void radial(const EllipseRow& row) {
   });
 }
 
+// The angle is 0 along the middle row, to the left of the centre half a turn.
 void polar(const EllipseRow& row) {
   const double columns = row.palette_width - 1, rows = row.palette_height;
-  const double v = row.v, v2 = row.v_squared;
+  const double v = row.v, v2 = row.v_squared, half_plane = v < 0 ? 0.25 : 0.75;
   const auto pitch = static_cast<int32_t>(row.palette_pitch);
   const int32_t last = row.palette_height - 1;
   copy_places(row, [&](size_t done, size_t n, int32_t* offsets) {
     const double *u = row.u + done, *u2 = row.u_squared + done;
-    for (size_t i = 0; i < n; ++i) {
+    const auto place = [&](size_t i, double turns) {
       const auto column = static_cast<int32_t>((1.0 - __builtin_sqrt(u2[i] + v2)) * columns);
-      auto turn = static_cast<int32_t>(polar_fraction(u[i], v) * rows);
-      turn = turn < last ? turn : last;
-      offsets[i] = turn * pitch + 4 * column;
-    }
+      const auto turn = static_cast<int32_t>(turns * rows);
+      offsets[i] = (turn < last ? turn : last) * pitch + 4 * column;
+    };
+    if (v == 0)
+      for (size_t i = 0; i < n; ++i) place(i, u[i] < 0 ? 0.5 : 0.0);
+    else
+      for (size_t i = 0; i < n; ++i) place(i, arctan(u[i] / v) * 0.159154976 + half_plane);
   });
 }
 

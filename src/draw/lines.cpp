@@ -11,15 +11,16 @@ namespace {
 template <bool masked>
 void trace(uint8_t* pixels, ptrdiff_t offset, ptrdiff_t along, ptrdiff_t across, int64_t error,
            int64_t extent, int64_t n, int64_t count, Pen pen) {
+  const ptrdiff_t diagonal = along + across;
   for (; count > 0; --count) {
     if constexpr (masked)
       pen.put(pixels + offset);
     else
       store(pixels + offset, pen.ink);
-    error += extent - n;
-    const int64_t stay = error >> 63;
-    error += n & stay;
-    offset += along + (across & static_cast<ptrdiff_t>(~stay));
+    // Both outcomes are formed before the choice, which then is all that the next step waits for.
+    const int64_t more = error + extent, over = error + (extent - n);
+    error = over < 0 ? more : over;
+    offset += over < 0 ? along : diagonal;
   }
 }
 

@@ -46,6 +46,32 @@ bool runs_into_itself(const Mapping& m, ptrdiff_t y) {
   return ahead != 0 && ahead + 3 < 4 * map_block + 3;  // from 3 bytes behind, which still share a pixel
 }
 
+// Whether rows may be written in any order.
+bool apart(const AreaPair& n) {
+  return (n.dst == n.src && n.dst_pitch == n.src_pitch) ||
+         !ByteRange::of(n.dst, n.dst_pitch, n.width, n.height)
+              .meets(ByteRange::of(n.src, n.src_pitch, n.width, n.height));
+}
+
+// Columns of one map row together, others in strips so narrow that their map rows stay in the nearest cache.
+void by_columns(const Mapping& m, const int32_t* offsets) {
+  constexpr ptrdiff_t strip = 16, many = 32;
+  const AreaPair& n = m.areas;
+  const MapKernels& k = kernels<MapKernels>();
+  for (ptrdiff_t x = 0, end; x < n.width; x = end) {
+    for (end = x + 1; end < n.width && offsets[end] == offsets[x];) ++end;
+    const AreaPair part{n.dst + 4 * x, n.dst_pitch, n.src + 4 * x, n.src_pitch, end - x, n.height};
+    if (end - x >= many) {
+      k.by_one_row(part, m.map.pixels + offsets[x]);
+      continue;
+    }
+    end = n.width - x < strip ? n.width : x + strip;
+    for (ptrdiff_t y = 0; y < n.height; ++y)
+      k.by_column(part.dst + y * n.dst_pitch, part.src + y * n.src_pitch, static_cast<size_t>(end - x),
+                  m.map.pixels, offsets + x);
+  }
+}
+
 void run(const Mapping& m) {
   const AreaPair& n = m.areas;
   const MapKernels& k = kernels<MapKernels>();
@@ -64,6 +90,8 @@ void run(const Mapping& m) {
       offsets[static_cast<size_t>(v)] = m.offset(v);
   else if (m.rows == Rows::column)
     for (ptrdiff_t x = 0; x < n.width; ++x) offsets[static_cast<size_t>(x)] = m.offset(4 * int64_t{x});
+
+  if (m.rows == Rows::column && apart(n)) return by_columns(m, offsets.data());
 
   const MapByValue values{m.map.pixels, offsets.data(), m.rows == Rows::sum, m.from_dest, m.keep_alpha};
   const auto width = static_cast<size_t>(n.width);

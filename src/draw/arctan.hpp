@@ -1,4 +1,4 @@
-// The angle that a polar palette's row follows.
+// The arctangent of the polar palettes.
 #pragma once
 
 #include "simd/vocabulary.hpp"
@@ -29,13 +29,6 @@ TESSARO_INLINE double arctan(double v) {
       1.945506571482613964425e2;
   const double a = base + (y * (z * (p / q)) + y + rest);
   return v < 0 ? -a : a;
-}
-
-// The direction (u, v) as a fraction of a turn, 0 .. 1; the half-planes above and below the centre lie side by
-// side.
-TESSARO_INLINE double polar_fraction(double u, double v) {
-  if (v == 0) return u < 0 ? 0.5 : 0.0;
-  return arctan(u / v) * 0.159154976 + (v < 0 ? 0.25 : 0.75);
 }
 
 }  // namespace
