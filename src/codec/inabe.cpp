@@ -156,20 +156,35 @@ struct Form {
   uint8_t keep;
 };
 
-// Codes without a branch, `per` of them between two reads; leaves those that the rest of the group is too short for.
+// Codes, `per` of them between two reads where those fit into one; the rest that is shorter is left.
 template <unsigned per, class Source>
 uint32_t read_batches(BitReader<Source>& in, uint8_t* out, uint32_t n, Form form, uint8_t last) {
   const uint64_t escape = ~uint64_t{0} << (64 - form.e);
   uint32_t left = n;
-  for (; left >= per && in.can_refill(uint64_t{left} * form.e); left -= per) {
-    in.refill();
-    for (unsigned k = 0; k < per; ++k) {
-      const uint64_t window = in.window();
-      const bool escaped = window >= escape;
-      const uint64_t field = escaped ? window << form.e >> (64 - form.width) : window >> (64 - form.e);
-      in.skip(escaped ? form.e + form.width : form.e);
-      last = static_cast<uint8_t>((last & form.keep) | field);
-      *out++ = last;
+  for (; left >= per && !in.ran_out(); left -= per) {
+    if (in.can_refill(uint64_t{left} * form.e)) {
+      // Escapes come too often for a branch to foresee them.
+      in.refill();
+      for (unsigned k = 0; k < per; ++k) {
+        const uint64_t window = in.window();
+        const bool escaped = window >= escape;
+        const uint64_t field = escaped ? window << form.e >> (64 - form.width) : window >> (64 - form.e);
+        in.skip(escaped ? form.e + form.width : form.e);
+        *out++ = last = static_cast<uint8_t>((last & form.keep) | field);
+      }
+    } else {
+      // No more is sure to follow than the short fields, and what every escape adds.
+      in.need(per * form.e);
+      for (unsigned k = per; k-- > 0;) {
+        uint64_t field = in.window() >> (64 - form.e);
+        const bool escaped = in.window() >= escape;
+        in.skip(form.e);
+        if (escaped) {
+          in.need(form.width + k * form.e);
+          field = in.take(form.width);
+        }
+        *out++ = last = static_cast<uint8_t>((last & form.keep) | field);
+      }
     }
   }
   return n - left;
@@ -177,15 +192,15 @@ uint32_t read_batches(BitReader<Source>& in, uint8_t* out, uint32_t n, Form form
 
 template <class Source>
 void read_codes(BitReader<Source>& in, uint8_t* out, uint32_t n, Form form, uint8_t last) {
-  const unsigned longest = form.e + form.width;
   if (form.e == 0) {
     if (form.width == 8) return void(read_payload<8>(in, out, n, last));
     if (form.width == 5) return void(read_payload<5>(in, out, n, last));
     return void(read_payload<3>(in, out, n, last));
   }
-  uint32_t i = longest <= 8    ? read_batches<7>(in, out, n, form, last)
-               : longest <= 14 ? read_batches<4>(in, out, n, form, last)
-               : longest <= 18 ? read_batches<3>(in, out, n, form, last)
+  // Groups come in fours, but for a last one that is cut.
+  const unsigned longest = form.e + form.width;
+  uint32_t i = longest <= 14   ? read_batches<4>(in, out, n, form, last)
+               : longest <= 28 ? read_batches<2>(in, out, n, form, last)
                                : 0;
   if (i) last = out[i - 1];
   for (const uint32_t escape = ones(form.e); i < n && !in.ran_out(); ++i) {
@@ -201,7 +216,11 @@ int32_t decode(Source source, void* destination, uint32_t count) {
   Sink out(destination, count);
   uint8_t last = 0;
   while (count != 0) {
-    if (in.can_refill(0)) in.refill();
+    // A head, with the codes behind it, has four bits or more.
+    if (in.can_refill(0))
+      in.refill();
+    else
+      in.need(4);
     const GroupHead head = read_group_head(in);
     uint32_t size = head.size < count ? static_cast<uint32_t>(head.size) : count;
     count -= size;
