@@ -4,13 +4,6 @@
 #include "wave/samples.hpp"
 #include "wave/stored.hpp"
 
-// A loop whose turns do not depend on one another although its output may be one of its inputs.
-#if defined(__clang__)
-#define TESSARO_PARALLEL _Pragma("clang loop vectorize(assume_safety)")
-#else
-#define TESSARO_PARALLEL _Pragma("GCC ivdep")
-#endif
-
 namespace {
 
 // ---- Packed samples of three bytes, which no compiler takes apart well
@@ -41,7 +34,7 @@ TESSARO_INLINE void unpack(int32_t* out, const uint8_t* in) { *out = S24::get(in
 TESSARO_INLINE void pack(uint8_t* out, const int32_t* in) { S24::put(out, *in); }
 #endif
 
-constexpr size_t chunk = 64;
+constexpr size_t chunk = 512;  // long enough for what is stored to be settled before it is loaded wider
 
 TESSARO_INLINE void get_chunk(int32_t* __restrict out, const uint8_t* __restrict in, size_t n, S24) {
   size_t i = 0;
@@ -54,18 +47,20 @@ TESSARO_INLINE void put_chunk(uint8_t* __restrict out, const int32_t* __restrict
   for (; i < n; ++i) S24::put(out + 3 * i, in[i]);
 }
 
-// out[i] = rule(sample i)
-template <class S, class T, class Rule>
-TESSARO_INLINE void read_samples(T* __restrict out, const uint8_t* __restrict in, size_t n, Rule rule) {
+// use(i, sample i)
+template <class S, class Use>
+TESSARO_INLINE void read_samples(const uint8_t* __restrict in, size_t n, Use use) {
   if constexpr (S::bytes == 3) {
     int32_t packed[chunk];
     for (size_t from = 0; from < n; from += chunk) {
       const size_t some = n - from < chunk ? n - from : chunk;
       get_chunk(packed, in + 3 * from, some, S24{});
-      for (size_t i = 0; i < some; ++i) out[from + i] = static_cast<T>(rule(packed[i]));
+      TESSARO_PARALLEL
+      for (size_t i = 0; i < some; ++i) use(from + i, packed[i]);
     }
   } else {
-    for (size_t i = 0; i < n; ++i) out[i] = static_cast<T>(rule(S::get(in + S::bytes * i)));
+    TESSARO_PARALLEL
+    for (size_t i = 0; i < n; ++i) use(i, S::get(in + S::bytes * i));
   }
 }
 // sample i = rule(i)
@@ -75,6 +70,7 @@ TESSARO_INLINE void write_samples(uint8_t* __restrict out, size_t n, Rule rule) 
     int32_t packed[chunk];
     for (size_t from = 0; from < n; from += chunk) {
       const size_t some = n - from < chunk ? n - from : chunk;
+      TESSARO_PARALLEL
       for (size_t i = 0; i < some; ++i) packed[i] = rule(from + i);
       put_chunk(out + 3 * from, packed, some, S24{});
     }
@@ -88,15 +84,15 @@ TESSARO_INLINE void write_samples(uint8_t* __restrict out, size_t n, Rule rule) 
 
 template <class S>
 void to16(I16* __restrict out, const uint8_t* __restrict in, size_t n) {
-  read_samples<S>(out, in, n, [](int32_t s) { return S::to16(s); });
+  read_samples<S>(in, n, [out](size_t i, int32_t s) { out[i] = static_cast<int16_t>(S::to16(s)); });
 }
 template <class S>
 void to24(I32* __restrict out, const uint8_t* __restrict in, size_t n) {
-  read_samples<S>(out, in, n, [](int32_t s) { return S::to24(s); });
+  read_samples<S>(in, n, [out](size_t i, int32_t s) { out[i] = static_cast<int32_t>(S::to24(s)); });
 }
 template <class S>
 void to64(F64* __restrict out, const uint8_t* __restrict in, size_t n) {
-  read_samples<S>(out, in, n, [](auto s) { return S::to64(s); });
+  read_samples<S>(in, n, [out](size_t i, auto s) { out[i] = S::to64(s); });
 }
 template <class S>
 void from16(uint8_t* out, const I16* in, size_t n) {

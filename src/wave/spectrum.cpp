@@ -11,26 +11,35 @@ namespace {
 
 constexpr int64_t twiddle_block = 512;
 
-void transform_stages(Bins bins, int64_t n) {
-  const SpectrumKernels& kernel = kernels<SpectrumKernels>();
-  double cosines[twiddle_block], sines[twiddle_block];
-  // Not 2 pi to the last bit: the constant has 15 digits.
-  double angle = 6.28318530717959 / static_cast<double>(n);
-  bool known = false;
-  for (int64_t m = n, k = n / 2; k >= 1; m = k, k /= 2, angle *= 2) {
-    if (known) {  // the twiddles of a stage are every other one of the stage before
-      for (int64_t j = 0; j < k; ++j) {
-        cosines[j] = cosines[2 * j];
-        sines[j] = sines[2 * j];
+// The twiddles of one stage after another: computed where a stage has more than a block of them, otherwise picked
+// from those of an earlier stage, where the same angles stand further apart.
+class TwiddleBlock {
+ public:
+  Twiddles at(int64_t first, int64_t count, int64_t k, double angle) {
+    if (held_ != 0) {
+      const int64_t apart = held_ / k;
+      for (int64_t j = 0; apart > 1 && j < k; ++j) {
+        cosines_[j] = cosines_[apart * j];
+        sines_[j] = sines_[apart * j];
       }
+    } else {
+      kernels<SpectrumKernels>().twiddles(cosines_, sines_, static_cast<size_t>(first),
+                                          static_cast<size_t>(count), angle);
     }
-    for (int64_t first = 0; first < k; first += twiddle_block) {
-      const int64_t count = smaller(twiddle_block, k - first);
-      if (!known)
-        kernel.twiddles(cosines, sines, static_cast<size_t>(first), static_cast<size_t>(count), angle);
-      kernel.stage(bins, n, m, k, first, count, cosines, sines);
-    }
-    known = k <= twiddle_block;
+    if (count == k) held_ = k;
+    return {cosines_, sines_};
+  }
+
+ private:
+  double cosines_[twiddle_block], sines_[twiddle_block];
+  int64_t held_ = 0;  // twiddles of the whole stage that are here
+};
+
+void one_stage(Bins bins, int64_t n, int64_t m, int64_t k, double angle, TwiddleBlock& twiddles) {
+  for (int64_t first = 0; first < k; first += twiddle_block) {
+    const int64_t count = smaller(twiddle_block, k - first);
+    const Twiddles at = twiddles.at(first, count, k, angle);
+    kernels<SpectrumKernels>().stage(bins, n, m, k, first, count, at.cosines, at.sines);
   }
 }
 
@@ -53,6 +62,46 @@ void reverse_bits(Bins bins, int64_t n) {
       swap(bins.im, i, j);
     }
   }
+}
+
+// Not 2 pi to the last bit: the constant has 15 digits.
+constexpr double full_turn = 6.28318530717959;
+
+void transform_any(Bins bins, int64_t n) {
+  TwiddleBlock twiddles;
+  double angle = full_turn / static_cast<double>(n);
+  for (int64_t m = n, k = n / 2; k >= 1; m = k, k /= 2, angle *= 2) one_stage(bins, n, m, k, angle, twiddles);
+  reverse_bits(bins, n);
+}
+
+// The same for a power of two of at least 64, in fewer passes.
+void transform_power_of_two(Bins bins, int64_t n) {
+  const SpectrumKernels& kernel = kernels<SpectrumKernels>();
+  TwiddleBlock one, two, three;
+  double angle = full_turn / static_cast<double>(n);
+  int64_t k = n / 2;
+  if (__builtin_ctzll(static_cast<uint64_t>(n)) % 2 == 0) {  // an odd number of stages before the last three
+    one_stage(bins, n, n, k, angle, one);
+    k /= 2;
+    angle *= 2;
+  }
+  for (; k > 4; k /= 4, angle *= 4) {
+    const int64_t half = k / 2;
+    for (int64_t first = 0; first < half; first += twiddle_block) {
+      const int64_t count = smaller(twiddle_block, half - first);
+      Twiddles at[3];
+      if (k <= twiddle_block) {
+        at[0] = one.at(0, k, k, angle);
+        at[1] = {at[0].cosines + half, at[0].sines + half};
+      } else {
+        at[0] = one.at(first, count, k, angle);
+        at[1] = two.at(half + first, count, k, angle);
+      }
+      at[2] = three.at(first, count, half, angle * 2);
+      kernel.two_stages(bins, n, k, first, count, at);
+    }
+  }
+  kernel.finish(bins, n, one.at(0, 4, 4, angle));
 }
 
 // The angle of the point (x, y), as the field's atan2: the same on every target.
@@ -131,8 +180,10 @@ int32_t TESSARO_CALL wavefft(const WaveBuffer* buffer, int32_t start, int32_t n,
     for (int64_t j = 0; j < some; ++j) store<double>(bins.re + 8 * (i + j), room[2 * j] + room[2 * j + 1]);
     std::memset(bins.im + 8 * i, 0, static_cast<size_t>(8 * some));
   }
-  transform_stages(bins, n);
-  reverse_bits(bins, n);
+  if (n >= 64 && (n & (n - 1)) == 0)
+    transform_power_of_two(bins, n);
+  else
+    transform_any(bins, n);
   return 0;
 }
 

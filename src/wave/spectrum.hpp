@@ -14,6 +14,11 @@ struct Bins {
   uint8_t* im;
 };
 
+struct Twiddles {
+  const double* cosines;
+  const double* sines;
+};
+
 struct SpectrumKernels {
   // The cosines and sines of angle * (first + j) for j = 0..count - 1; the angles lie in 0..pi.
   void (*twiddles)(double* cosines, double* sines, size_t first, size_t count, double angle);
@@ -21,6 +26,12 @@ struct SpectrumKernels {
   // m, for i = first.. in the block, as far as both lie below n.
   void (*stage)(Bins bins, int64_t n, int64_t m, int64_t k, int64_t first, int64_t count,
                 const double* cosines, const double* sines);
+  // Two stages at once, k and k / 2, where blocks of 2 k divide n: for i = first..first + count - 1, below k / 2,
+  // the first stage's twiddles of i and of i + k / 2 and the second stage's of i.
+  void (*two_stages)(Bins bins, int64_t n, int64_t k, int64_t first, int64_t count, const Twiddles at[3]);
+  // The last three stages, k = 4, 2 and 1, and the reordering by reversed bits, for a power of two of at least
+  // 64. The twiddles are those of k = 4.
+  void (*finish)(Bins bins, int64_t n, Twiddles at);
 };
 TESSARO_DECLARE_KERNELS(SpectrumKernels);
 

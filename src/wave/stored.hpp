@@ -7,6 +7,13 @@
 
 #include "simd/vocabulary.hpp"
 
+// A loop whose turns do not depend on one another although its output may be one of its inputs.
+#if defined(__clang__)
+#define TESSARO_PARALLEL _Pragma("clang loop vectorize(assume_safety)")
+#else
+#define TESSARO_PARALLEL _Pragma("GCC ivdep")
+#endif
+
 namespace {
 
 // Buffers of the host's have no alignment.
