@@ -232,7 +232,8 @@ TEST(Format, FillsImagesFromBottomUpBuffers) {
             const uint8_t* row = start + (3 - y) * stride;
             models[0].set(x, y, palette[row[x / 8] >> (7 - x % 8) & 1]);
             models[1].set(x, y, palette[row[x]]);
-            models[2].set(x, y, row[3 * x] | row[3 * x + 1] << 8 | row[3 * x + 2] << 16);
+            models[2].set(x, y,
+                          static_cast<uint32_t>(row[3 * x] | row[3 * x + 1] << 8 | row[3 * x + 2] << 16));
             models[3].set(x, y, load<uint32_t>(row + 4 * x));
           }
         ASSERT_EQ(BBIBltTo32from1(images[0], start, palette, stride), 0);
