@@ -29,7 +29,7 @@ struct Run {
 
 // Areas are drawn in strips of this many columns, so that what depends on the column alone is computed once
 // for all rows of a strip and stays in the nearest cache.
-inline constexpr int64_t strip_width = 2048;
+inline constexpr int64_t strip_width = 4096;
 
 // Calls draw(first column, columns as an area) for each strip.
 template <class Draw>

@@ -53,22 +53,30 @@ bool apart(const AreaPair& n) {
               .meets(ByteRange::of(n.src, n.src_pitch, n.width, n.height));
 }
 
-// Columns of one map row together, others in strips so narrow that their map rows stay in the nearest cache.
+// Columns of one map row together, others in tiles so narrow that their map rows stay in the nearest cache, and
+// so low that their pixels' pages stay known to the processor.
 void by_columns(const Mapping& m, const int32_t* offsets) {
-  constexpr ptrdiff_t strip = 16, many = 32;
+  constexpr ptrdiff_t narrow = 32, low = 32, many = 64;
   const AreaPair& n = m.areas;
   const MapKernels& k = kernels<MapKernels>();
-  for (ptrdiff_t x = 0, end; x < n.width; x = end) {
-    for (end = x + 1; end < n.width && offsets[end] == offsets[x];) ++end;
-    const AreaPair part{n.dst + 4 * x, n.dst_pitch, n.src + 4 * x, n.src_pitch, end - x, n.height};
-    if (end - x >= many) {
-      k.by_one_row(part, m.map.pixels + offsets[x]);
-      continue;
+  for (ptrdiff_t top = 0; top < n.height; top += low) {
+    const ptrdiff_t rows = n.height - top < low ? n.height - top : low;
+    for (ptrdiff_t x = 0, end; x < n.width; x = end) {
+      for (end = x + 1; end < n.width && offsets[end] == offsets[x];) ++end;
+      AreaPair part{n.dst + top * n.dst_pitch + 4 * x,
+                    n.dst_pitch,
+                    n.src + top * n.src_pitch + 4 * x,
+                    n.src_pitch,
+                    end - x,
+                    rows};
+      if (end - x >= many) {
+        k.by_one_row(part, m.map.pixels + offsets[x]);
+        continue;
+      }
+      end = n.width - x < narrow ? n.width : x + narrow;
+      for (; part.height > 0; --part.height, part.dst += n.dst_pitch, part.src += n.src_pitch)
+        k.by_column(part.dst, part.src, static_cast<size_t>(end - x), m.map.pixels, offsets + x);
     }
-    end = n.width - x < strip ? n.width : x + strip;
-    for (ptrdiff_t y = 0; y < n.height; ++y)
-      k.by_column(part.dst + y * n.dst_pitch, part.src + y * n.src_pitch, static_cast<size_t>(end - x),
-                  m.map.pixels, offsets + x);
   }
 }
 

@@ -33,25 +33,50 @@ void plain_by_one_row(uint8_t* dst, const uint8_t* src, size_t width, const uint
   }
 }
 
-template <bool by_sum, bool from_dest, bool keep_alpha>
-void plain_by_value(uint8_t* dst, const uint8_t* src, size_t width, const MapByValue& m) {
-  for (size_t x = 0; x < 4 * width; x += 4) {
-    const uint32_t s = pixel_at(src + x), d = pixel_at(dst + x);
-    uint32_t out = look_up(m.map + m.offsets[value_of(s, by_sum)], from_dest ? d : s);
-    if (keep_alpha) out = (out & 0x00FFFFFF) | (d & 0xFF000000);
-    std::memcpy(dst + x, &out, 4);
-  }
-}
-
-void plain_by_column(uint8_t* dst, const uint8_t* src, size_t width, const uint8_t* map,
-                     const int32_t* offsets) {
-  for (size_t x = 0; x < width; ++x) {
-    const uint32_t out = look_up(map + offsets[x], pixel_at(src + 4 * x));
-    std::memcpy(dst + 4 * x, &out, 4);
-  }
-}
-
 #ifdef __AVX512BW__
+
+// Sixteen pixels, each through the map row at an offset of its own.
+TESSARO_INLINE __m512i gather_pixels(const uint8_t* map, __m512i offsets, __m512i columns, __mmask16 some) {
+  const __m512i none = _mm512_setzero_si512(), byte = _mm512_set1_epi32(0x3FC);
+  const auto fetch = [&](__m512i column_times_4) {
+    const __m512i at = _mm512_add_epi32(offsets, _mm512_and_si512(column_times_4, byte));
+    return _mm512_mask_i32gather_epi32(none, some, at, map, 1);
+  };
+  const __m512i b = fetch(_mm512_slli_epi32(columns, 2)), g = fetch(_mm512_srli_epi32(columns, 6)),
+                r = fetch(_mm512_srli_epi32(columns, 14)), a = fetch(_mm512_srli_epi32(columns, 22));
+  constexpr __mmask64 first = 0x1111111111111111;
+  const __m512i bg = _mm512_mask_blend_epi8(first, g, b), ra = _mm512_mask_blend_epi8(first << 2, a, r);
+  return _mm512_mask_blend_epi16(0x55555555, ra, bg);
+}
+
+void gather_by_column(uint8_t* dst, const uint8_t* src, size_t width, const uint8_t* map,
+                      const int32_t* offsets) {
+  for (size_t x = 0; x < width; x += 16) {
+    const auto some = static_cast<__mmask16>(width - x < 16 ? (1u << (width - x)) - 1 : 0xFFFF);
+    const __m512i out = gather_pixels(map, _mm512_maskz_loadu_epi32(some, offsets + x),
+                                      _mm512_maskz_loadu_epi32(some, src + 4 * x), some);
+    _mm512_mask_storeu_epi32(dst + 4 * x, some, out);
+  }
+}
+
+template <bool by_sum, bool from_dest, bool keep_alpha>
+void gather_by_value(uint8_t* dst, const uint8_t* src, size_t width, const MapByValue& m) {
+  const __m512i byte = _mm512_set1_epi32(255), alpha = _mm512_set1_epi32(static_cast<int>(0xFF000000));
+  for (size_t x = 0; x < width; x += 16) {
+    const auto some = static_cast<__mmask16>(width - x < 16 ? (1u << (width - x)) - 1 : 0xFFFF);
+    const __m512i s = _mm512_maskz_loadu_epi32(some, src + 4 * x);
+    const __m512i d = from_dest || keep_alpha ? _mm512_maskz_loadu_epi32(some, dst + 4 * x) : s;
+    __m512i value = _mm512_srli_epi32(s, 24);
+    if (by_sum)
+      value = _mm512_add_epi32(
+          _mm512_add_epi32(_mm512_and_si512(s, byte), _mm512_and_si512(_mm512_srli_epi32(s, 8), byte)),
+          _mm512_and_si512(_mm512_srli_epi32(s, 16), byte));
+    const __m512i offsets = _mm512_mask_i32gather_epi32(_mm512_setzero_si512(), some, value, m.offsets, 4);
+    __m512i out = gather_pixels(m.map, offsets, from_dest ? d : s, some);
+    if (keep_alpha) out = _mm512_ternarylogic_epi32(d, out, alpha, 0xE4);  // the third chooses d where set
+    _mm512_mask_storeu_epi32(dst + 4 * x, some, out);
+  }
+}
 
 // Permutes over tables of bytes in registers are an extension of their own, asked for at run time.
 #define TESSARO_VBMI [[gnu::target("avx512vbmi")]]
@@ -165,7 +190,7 @@ TESSARO_VBMI void permute_by_value(uint8_t* dst, const uint8_t* src, size_t widt
     }
     constexpr int deciding = by_sum ? 0x00FFFFFF : static_cast<int>(0xFF000000);
     if (_mm512_test_epi32_mask(unlike, _mm512_set1_epi32(deciding)) != 0) {
-      plain_by_value<by_sum, from_dest, keep_alpha>(dst + 4 * x, src + 4 * x, n, m);
+      gather_by_value<by_sum, from_dest, keep_alpha>(dst + 4 * x, src + 4 * x, n, m);
       continue;
     }
     const int32_t offset = m.offsets[value_of(first, by_sum)];
@@ -177,6 +202,26 @@ TESSARO_VBMI void permute_by_value(uint8_t* dst, const uint8_t* src, size_t widt
     Planes p = split((from_dest ? dst : src) + 4 * x, mask.part);
     look_up(tables, p);
     join_planes(p, dst + 4 * x, mask.part, keep_alpha);
+  }
+}
+
+#else
+
+template <bool by_sum, bool from_dest, bool keep_alpha>
+void plain_by_value(uint8_t* dst, const uint8_t* src, size_t width, const MapByValue& m) {
+  for (size_t x = 0; x < 4 * width; x += 4) {
+    const uint32_t s = pixel_at(src + x), d = pixel_at(dst + x);
+    uint32_t out = look_up(m.map + m.offsets[value_of(s, by_sum)], from_dest ? d : s);
+    if (keep_alpha) out = (out & 0x00FFFFFF) | (d & 0xFF000000);
+    std::memcpy(dst + x, &out, 4);
+  }
+}
+
+void plain_by_column(uint8_t* dst, const uint8_t* src, size_t width, const uint8_t* map,
+                     const int32_t* offsets) {
+  for (size_t x = 0; x < width; ++x) {
+    const uint32_t out = look_up(map + offsets[x], pixel_at(src + 4 * x));
+    std::memcpy(dst + 4 * x, &out, 4);
   }
 }
 
@@ -193,9 +238,13 @@ void by_one_row(const AreaPair& n, const uint8_t* row) {
 template <bool by_sum, bool from_dest, bool keep_alpha>
 void by_value_of(uint8_t* dst, const uint8_t* src, size_t width, const MapByValue& m) {
 #ifdef __AVX512BW__
-  if (has_byte_permutes()) return permute_by_value<by_sum, from_dest, keep_alpha>(dst, src, width, m);
-#endif
+  if (has_byte_permutes())
+    permute_by_value<by_sum, from_dest, keep_alpha>(dst, src, width, m);
+  else
+    gather_by_value<by_sum, from_dest, keep_alpha>(dst, src, width, m);
+#else
   plain_by_value<by_sum, from_dest, keep_alpha>(dst, src, width, m);
+#endif
 }
 
 void by_value(uint8_t* dst, const uint8_t* src, size_t width, const MapByValue& m) {
@@ -209,4 +258,8 @@ void by_value(uint8_t* dst, const uint8_t* src, size_t width, const MapByValue& 
 
 }  // namespace
 
+#ifdef __AVX512BW__
+TESSARO_KERNELS(MapKernels){.by_one_row = by_one_row, .by_column = gather_by_column, .by_value = by_value};
+#else
 TESSARO_KERNELS(MapKernels){.by_one_row = by_one_row, .by_column = plain_by_column, .by_value = by_value};
+#endif
