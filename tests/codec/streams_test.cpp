@@ -96,8 +96,8 @@ Encoded slow_ib18(const Bytes& in) {
     for (size_t k = 0; k < 6; ++k) {
       const int byte = get(at + k), before = k ? get(at + k - 1) : last;
       kinds += byte == before ? 'R' : byte == out[static_cast<size_t>(before)] ? 'P' : 'L';
-      r_mask |= (kinds[k] == 'R') << k;
-      p_mask |= (kinds[k] == 'P') << k;
+      r_mask |= unsigned{kinds[k] == 'R'} << k;
+      p_mask |= unsigned{kinds[k] == 'P'} << k;
     }
     const auto r = std::count(kinds.begin(), kinds.end(), 'R'),
                pr = std::count(kinds.begin(), kinds.end(), 'P');
