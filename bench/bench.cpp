@@ -14,6 +14,10 @@
 
 #include "tessaro/tessaro.h"
 
+#if TESSARO_BENCH_HAS_OPENCV
+#include <opencv2/core.hpp>
+#endif
+
 namespace tessaro::bench {
 
 // ---- Images
@@ -81,7 +85,7 @@ class Collector : public benchmark::BenchmarkReporter {
   void ReportRuns(const std::vector<Run>& runs) override {
     for (const Run& run : runs)
       if (run.run_type == Run::RT_Iteration && !run.error_occurred)
-        seconds[run.run_name.function_name].push_back(run.real_accumulated_time /
+        seconds[run.run_name.function_name].push_back(run.cpu_accumulated_time /
                                                       static_cast<double>(run.iterations));
   }
   std::map<std::string, std::vector<double>> seconds;
@@ -94,7 +98,8 @@ double median(std::vector<double> values) {
   return values.size() % 2 ? values[half] : (values[half - 1] + values[half]) / 2;
 }
 
-// The library interleaves the repetitions of everything that is registered together: one comparison at a
+// Processor time of this thread is measured, so that what other programs take does not count, and peers run in this
+// thread alone. The library interleaves the repetitions of everything that is registered together: one comparison at a
 // time.
 std::vector<Rate> measure(const std::vector<Contender>& contenders, int repetitions, double seconds) {
   benchmark::ClearRegisteredBenchmarks();
@@ -107,7 +112,6 @@ std::vector<Rate> measure(const std::vector<Contender>& contenders, int repetiti
                                      benchmark::ClobberMemory();
                                    }
                                  })
-        ->UseRealTime()
         ->MinTime(seconds)
         ->Repetitions(repetitions);
   }
@@ -216,6 +220,9 @@ int run(int argc, char** argv) {
   }
 
   std::string program = argv[0], interleave = "--benchmark_enable_random_interleaving=true";
+#if TESSARO_BENCH_HAS_OPENCV
+  cv::setNumThreads(1);
+#endif
   char* arguments[] = {program.data(), interleave.data(), nullptr};
   int count = 2;
   benchmark::Initialize(&count, arguments);
