@@ -25,6 +25,12 @@ function(tessaro_export_table target)
     target_sources(${target} PRIVATE ${out}/tessaro.def)
     # Finds _Name@bytes for a name written without decoration.
     target_link_options(${target} PRIVATE -Wl,--enable-stdcall-fixup)
+    if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+      add_custom_command(TARGET ${target} POST_BUILD VERBATIM
+        COMMAND ${CMAKE_COMMAND} -DDLL=$<TARGET_FILE:${target}> -DTABLE=${table} -DNM=${CMAKE_NM}
+                -DDLLTOOL=${CMAKE_DLLTOOL} -DOUT=$<TARGET_LINKER_FILE:${target}>
+                -P ${PROJECT_SOURCE_DIR}/cmake/ImportLibrary.cmake)
+    endif()
   else()
     # Without --no-undefined-version GNU ld passes over a listed name that does not exist.
     target_link_options(${target} PRIVATE -Wl,--version-script=${out}/tessaro.map -Wl,--no-undefined-version)

@@ -1,0 +1,28 @@
+// No argument makes a function leave its images, whatever it is, or work for longer than its images are large.
+#include <gtest/gtest.h>
+
+#include <chrono>
+
+#include "library/calls.hpp"
+
+namespace {
+
+TEST(Extreme, ArgumentsOfImageFunctionsStayInsideTheImages) {
+  using Clock = std::chrono::steady_clock;
+  size_t functions = 0;
+  for (const host::Export& row : host::exports()) {
+    if (!row.images) continue;
+    ++functions;
+    for (uint64_t seed = 0; seed < 1500; ++seed) {
+      bool intact;
+      const auto start = Clock::now();
+      row.call(row, seed, host::Range::extreme, intact);
+      const std::chrono::duration<double> taken = Clock::now() - start;
+      ASSERT_TRUE(intact) << row.name << ", call " << seed;
+      ASSERT_LT(taken.count(), 2.0) << row.name << ", call " << seed;
+    }
+  }
+  EXPECT_GT(functions, 20u);
+}
+
+}  // namespace

@@ -1,0 +1,50 @@
+# The public header, the table of exports and the built library hold the same names; nothing else leaves the library,
+# and a DLL draws on system DLLs only.
+file(STRINGS ${TABLE} table REGEX "^[A-Za-z]")
+list(TRANSFORM table REPLACE " .*" "")
+list(SORT table)
+
+function(compare what)
+  set(missing ${table})
+  list(REMOVE_ITEM missing ${ARGN})
+  set(extra ${ARGN})
+  list(REMOVE_ITEM extra ${table})
+  list(LENGTH table rows)
+  list(LENGTH ARGN names)
+  if(missing OR extra OR NOT rows EQUAL names)
+    message(SEND_ERROR "${what} (${names} names) and the table (${rows}) differ. Missing: ${missing}. Not in the table: ${extra}")
+  endif()
+endfunction()
+
+# Marks stand where the macros of the declarations were.
+file(WRITE ${CMAKE_CURRENT_BINARY_DIR}/marked_names.c "#include \"tessaro/types.h\"\n#undef TESSARO_API\n#define TESSARO_API @export\n#undef TESSARO_CALL
+#define TESSARO_CALL @call\n#include \"tessaro/tessaro.h\"\n")
+execute_process(COMMAND ${COMPILER} -E -P -I${INCLUDE} ${CMAKE_CURRENT_BINARY_DIR}/marked_names.c
+  OUTPUT_VARIABLE text COMMAND_ERROR_IS_FATAL ANY)
+string(REPLACE ";" "\n" text "${text}")
+string(REGEX MATCHALL "@export[^@(]*@call[ \n]+[A-Za-z0-9_]+" header "${text}")
+list(TRANSFORM header REPLACE ".*[^A-Za-z0-9_]" "")
+compare("The header" ${header})
+
+if(WINDOWS)
+  execute_process(COMMAND ${OBJDUMP} -p ${LIBRARY} OUTPUT_VARIABLE text COMMAND_ERROR_IS_FATAL ANY)
+  string(REGEX MATCHALL "DLL Name: [^\n]*" imports "${text}")
+  list(TRANSFORM imports REPLACE "DLL Name: " "")
+  list(TRANSFORM imports TOLOWER)
+  set(system kernel32.dll msvcrt.dll user32.dll gdi32.dll ole32.dll oleaut32.dll)
+  list(REMOVE_ITEM imports ${system})
+  if(imports)
+    message(SEND_ERROR "The DLL needs more than the system has: ${imports}")
+  endif()
+  string(REGEX REPLACE ".*Ordinal/Name Pointer\\] Table" "" text "${text}")
+  string(REGEX REPLACE "\n\n.*" "" text "${text}")
+  string(REGEX MATCHALL "\\[ *[0-9]+\\][^\n]*" library "${text}")
+  list(TRANSFORM library REPLACE ".* " "")
+else()
+  execute_process(COMMAND ${NM} --dynamic --defined-only --format=posix ${LIBRARY} OUTPUT_VARIABLE text
+    COMMAND_ERROR_IS_FATAL ANY)
+  string(STRIP "${text}" text)
+  string(REPLACE "\n" ";" library "${text}")
+  list(TRANSFORM library REPLACE " .*" "")
+endif()
+compare("The library" ${library})
