@@ -85,8 +85,9 @@ void run(const Mapping& m) {
   const MapKernels& k = kernels<MapKernels>();
   const auto dst = ByteRange::of(n.dst, n.dst_pitch, n.width, n.height);
   const bool over_map = dst.meets(ByteRange::of(m.map.pixels, m.map.pitch, 256, m.map.height));
-  // Tables of offsets pay from about as many pixels as they have entries.
-  const bool tiny = n.width * n.height < 64;
+  // The tables that a call builds cost as much as these numbers of pixels.
+  const ptrdiff_t table_cost = m.rows == Rows::sum ? 320 : m.rows == Rows::alpha ? 112 : 16;
+  const bool tiny = n.width * n.height < table_cost;
   const bool by_value = m.rows == Rows::alpha || m.rows == Rows::sum;
   HeapArray<int32_t> offsets(by_value ? 766 : m.rows == Rows::column ? static_cast<size_t>(n.width) : 0);
   if (over_map || tiny || !offsets) {
