@@ -12,42 +12,41 @@ namespace {
 using Bytes = std::vector<uint8_t>;
 
 struct Format {
-  const char* name;
+  const char *name, *call;
   decltype(&iEncoder) encode;
   decltype(&iDecoder) decode;  // null: the decoder takes both sizes, as the checked ones do
   decltype(&iDecoderSafe) decode_checked;
-  bool prepared;    // behind ichshift4 and iwave11
-  uint32_t margin;  // a stream is given up when it is not this much shorter than its source
-  uint32_t head;    // bytes at the front of every stream
+  bool prepared;  // behind ichshift4 and iwave11
+  uint32_t head;  // bytes at the front of every stream
   const char* notice;
 };
 const Format formats[] = {
-    {"i", iEncoder, iDecoder, iDecoderSafe, false, 48, 0,
+    {"i", "iEncoder", iEncoder, iDecoder, iDecoderSafe, false, 0,
      "Pairs of bytes against the pair before. Blue and green are compared with red and alpha, so only flat "
      "greys are "
      "cheap."},
-    {"i of differences", iEncoder, iDecoder, iDecoderSafe, true, 48, 0,
+    {"i of differences", "iEncoder", iEncoder, iDecoder, iDecoderSafe, true, 0,
      "The same behind ichshift4 and iwave11: smooth areas become small numbers, and cheap."},
-    {"io", ioEncoder, ioDecoder, ioDecoderSafe, false, 64, 0,
+    {"io", "ioEncoder", ioEncoder, ioDecoder, ioDecoderSafe, false, 0,
      "Only exact repeats of a pixel cost less: the map shows the flat areas in black and everything else in "
      "full."},
-    {"ib18Ex", ib18EncoderEx, ib18DecoderEx, ib18DecoderExSafe, false, 32, 256,
+    {"ib18Ex", "ib18EncoderEx", ib18EncoderEx, ib18DecoderEx, ib18DecoderExSafe, false, 256,
      "Channels one after another, each byte against the one that usually follows the byte before."},
-    {"iabr", iabrEncoder, iabrDecoder, iabrDecoderSafe, false, 256, 0,
+    {"iabr", "iabrEncoder", iabrEncoder, iabrDecoder, iabrDecoderSafe, false, 0,
      "Groups of bytes that share their top bits. Interleaved channels share few."},
-    {"iabr of differences", iabrEncoder, iabrDecoder, iabrDecoderSafe, true, 256, 0,
+    {"iabr of differences", "iabrEncoder", iabrEncoder, iabrDecoder, iabrDecoderSafe, true, 0,
      "Behind the transforms the groups are long, and the bits follow the detail."},
-    {"inabe of differences", inabeEncoder, inabeDecoder, inabeDecoderSafe, true, 256, 0,
+    {"inabe of differences", "inabeEncoder", inabeEncoder, inabeDecoder, inabeDecoderSafe, true, 0,
      "A width for every group and an escape: the darkest map of all on photographs."},
-    {"imist", imistEncoder, imistDecoder, imistDecoderSafe, false, 128, 0,
+    {"imist", "imistEncoder", imistEncoder, imistDecoder, imistDecoderSafe, false, 0,
      "Pixels against the pixel before, two channels at a time: edges light up."},
-    {"inda", indaEncoder, indaDecoder, indaDecoderSafe, false, 64, 0,
+    {"inda", "indaEncoder", indaEncoder, indaDecoder, indaDecoderSafe, false, 0,
      "Blocks of eight bytes against bytes up to eight places back."},
-    {"ica", icaEncoder, icaDecoder, icaDecoderSafe, false, 128, 0,
+    {"ica", "icaEncoder", icaEncoder, icaDecoder, icaDecoderSafe, false, 0,
      "Pixels whose bytes are cut one by one: close to imist, with other edges."},
-    {"c2f", c2fEncoder, nullptr, c2fDecoder, false, 0, 0,
-     "A channel that stays for eight pixels is free. Alpha always is: no area costs more than three "
-     "quarters."},
+    {"c2f", "c2fEncoder", c2fEncoder, nullptr, c2fDecoder, false, 0,
+     "A channel that stays for eight pixels is free. Alpha always is: hardly an area costs more "
+     "than three quarters."},
 };
 
 Bytes prepared(const uint8_t* pixels, uint32_t size) {
@@ -116,9 +115,10 @@ void add_rows(std::vector<std::vector<std::string>>& rows, const std::string& pi
   }
 }
 
-// Each tile of 32 x 8 pixels coded by itself; its brightness is the share of its bytes that are needed.
+constexpr int tile_width = 32, tile_height = 8;
+
+// Each whole tile coded by itself; its brightness is the share of its bytes that are needed.
 void draw_costs(const Format& format, const Picture& photo, Picture& map) {
-  constexpr int tile_width = 32, tile_height = 8;
   constexpr uint32_t bytes = 4 * tile_width * tile_height;
   for (int y = 0; y + tile_height <= photo.height(); y += tile_height)
     for (int x = 0; x + tile_width <= photo.width(); x += tile_width) {
@@ -160,11 +160,10 @@ void show_codecs(Gallery& page) {
       "says so early: the host then keeps the pixels. The checked decoders are for files from elsewhere.",
       rows);
   for (const Format& format : formats) {
-    Picture map(first.width(), first.height(), 0xFF202830);
+    Picture map(first.width() / tile_width * tile_width, first.height() / tile_height * tile_height);
     page.show(
         std::string("Where ") + format.name + " spends its bits",
-        std::string(format.name).substr(0, std::string(format.name).find(' ')) +
-            "Encoder(tile, stream, 1024, &written)",
+        std::string(format.call) + "(tile, stream, 1024, &written)",
         std::string("Black tiles cost nothing, white ones all of their bytes, red ones do not compress. ") +
             format.notice,
         map, [&] { draw_costs(format, first, map); });

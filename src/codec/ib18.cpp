@@ -71,17 +71,17 @@ inline unsigned bits_in(unsigned flags) {
 
 // For every byte the one that follows it most often; the smallest of equals, and never itself.
 void find_successors(const uint8_t* source, uint32_t n, uint8_t* successors) {
-  int32_t counts[256][256] = {};
+  uint32_t counts[256][256] = {};
   uint8_t before = 0;
   for (uint32_t i = 0; i < n; ++i) {
     ++counts[before][source[i]];
     before = source[i];
   }
   for (unsigned p = 0; p < 256; ++p) {
-    counts[p][p] = -1;
+    counts[p][p] = UINT32_MAX;  // -1: the comparisons are signed
     unsigned best = 0;
     for (unsigned c = 1; c < 256; ++c)
-      if (counts[p][c] > counts[p][best]) best = c;
+      if (static_cast<int32_t>(counts[p][c]) > static_cast<int32_t>(counts[p][best])) best = c;
     successors[p] = static_cast<uint8_t>(best);
   }
 }
