@@ -255,17 +255,5 @@ TEST(Blit, TheKeyIsReadOnceBeforeItIsOverwritten) {
   for (int32_t x = 0; x < 4; ++x) EXPECT_EQ(image.get(x, 0), want[x]);
 }
 
-TEST(Blit, TheWideSwitchChangesNothing) {
-  for (const int32_t flag : {0, 1, 2, -1}) {
-    EXPECT_EQ(MMX(flag), flag);
-    Image d(5, 1), s(5, 1);
-    EXPECT_EQ(BBIBltAdd(d.fill(0xC8C8C8C8), s.fill(0x64646464), 0, 0, 5, 1, 0, 0), 0);
-    EXPECT_EQ(d.get(4, 0), 0xFFFFFFFFu);
-    EXPECT_EQ(BBIBltMul(d.fill(0xFFFF0101), s.fill(0xFF010100), 0, 0, 5, 1, 0, 0), 0);
-    EXPECT_EQ(d.get(4, 0), 0xFF010100u);
-  }
-  MMX(0);
-}
-
 }  // namespace
 }  // namespace tessaro::test

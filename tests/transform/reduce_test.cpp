@@ -82,86 +82,40 @@ TEST(Choose, EqualsTheModelForEverySelector) {
   for (const Backend backend : supported_backends()) {
     Forced forced(backend);
     for (int trial = 0; trial < 200; ++trial) {
-      const int32_t w = random.between(1, 150), h = random.between(1, 4),
-                    shift = random.between(0, 3) * random.between(0, 40);
-      // Source and destination: two images, one image, or two that interlock in one block of memory.
-      Image d(w + 40, h + 1), s(w, h, -4 * (w + 2), 1);
+      const int32_t w = random.between(1, 150), h = random.between(1, 4);
+      Image d(w + 1, h + 1), s(w, h, -4 * (w + 2), 1);
       d.randomize(random.word());
       s.randomize(random.word());
-      const bool interlock = trial % 3 == 0, same = trial % 3 == 1;
-      // The records of the interlocking pair, at both ends of their block.
-      struct {
-        int16_t dims, pixels, width, height, pitch;
-      } record{4, 0, static_cast<int16_t>(w), static_cast<int16_t>(h), static_cast<int16_t>(4 * (w + 40))};
-      std::vector<uint8_t> block(16 + 4 * static_cast<size_t>(w + 40) * static_cast<size_t>(h + 1) + 400);
-      ImageRecord *dst = d, *src = same ? static_cast<ImageRecord*>(d) : s;
-      std::memcpy(block.data(), &record, 10);
-      store<int16_t>(block.data() + 2, static_cast<int16_t>(16 + 4 * shift));
-      for (size_t i = 16; i < block.size(); ++i) block[i] = static_cast<uint8_t>(i * 7 ^ i >> 3);
+      const bool same = trial % 3 == 1;
       const int32_t colour_from = trial & 3, alpha_from = trial >> 2 & 3;
+      const int32_t from[] = {random.between(0, 7), random.between(0, 7), random.between(0, 7),
+                              random.between(0, 7)};
       const float* weight = weights[static_cast<size_t>(trial) % std::size(weights)];
-      const double r = static_cast<double>(weight[0]), g = static_cast<double>(weight[1]),
-                   b = static_cast<double>(weight[2]);
-      struct Row {
-        std::function<int32_t(ImageRecord*, ImageRecord*)> run;
-        std::function<uint32_t(uint32_t, uint32_t)> model;
+      const auto weighted = [](double red, double green, double blue) {
+        return [=](uint32_t r, uint32_t g, uint32_t b) { return low_byte(g * green + b * blue + r * red); };
       };
-      const int32_t selectors[] = {random.between(0, 7), random.between(0, 7), random.between(0, 7),
-                                   random.between(0, 7)};
-      const Row rows[] = {
-          {[&](auto* x, auto* y) { return BBIChooseCA(x, y, colour_from, alpha_from); },
-           [&](uint32_t x, uint32_t y) {
-             return chosen(x, y, colour_from, alpha_from, [](uint32_t red, uint32_t green, uint32_t blue) {
-               return (red + green + blue) / 3;
-             });
-           }},
-          {[&](auto* x, auto* y) { return BBIChooseCATR(x, y, colour_from, alpha_from); },
-           [&](uint32_t x, uint32_t y) {
-             return chosen(x, y, colour_from, alpha_from, [](uint32_t red, uint32_t green, uint32_t blue) {
-               return low_byte(green * 0.7154 + blue * 0.0721 + red * 0.2125);
-             });
-           }},
-          {[&](auto* x, auto* y) {
-             return BBIChooseCATS(x, y, colour_from, alpha_from, weight[0], weight[1], weight[2]);
-           },
-           [&](uint32_t x, uint32_t y) {
-             return chosen(x, y, colour_from, alpha_from, [&](uint32_t red, uint32_t green, uint32_t blue) {
-               return low_byte(green * g + blue * b + red * r);
-             });
-           }},
-          {[&](auto* x, auto* y) {
-             return BBIChooseRGBA(x, y, selectors[0], selectors[1], selectors[2], selectors[3]);
-           },
-           [&](uint32_t x, uint32_t y) {
-             const auto from = [&](int i) { return byte_of(selectors[i] & 4 ? x : y, selectors[i] & 3); };
-             return from(0) << 16 | from(1) << 8 | from(2) | from(3) << 24;
-           }}};
-      for (const Row& row : rows) {
-        if (interlock) {  // the source lies `shift` pixels before the destination in one run of memory
-          std::vector<uint8_t> model = block;
-          const auto at = [&](std::vector<uint8_t>& v, int32_t x, int32_t y, int32_t by) {
-            return v.data() + 16 + 4 * (by + x + y * (w + 40));
-          };
-          for (int32_t y = 0; y < h; ++y)
-            for (int32_t x = 0; x < w; ++x)
-              store(at(model, x, y, shift),
-                    row.model(load<uint32_t>(at(model, x, y, shift)), load<uint32_t>(at(model, x, y, 0))));
-          const size_t place = block.size() - 16;
-          record.pixels = static_cast<int16_t>(16 - static_cast<ptrdiff_t>(place));
-          std::memcpy(block.data() + place, &record, 10);
-          std::memcpy(model.data() + place, &record, 10);
-          ASSERT_EQ(row.run(reinterpret_cast<ImageRecord*>(block.data()),
-                            reinterpret_cast<ImageRecord*>(block.data() + place)),
-                    0);
-          ASSERT_EQ(block, model) << name_of(backend) << " shift " << shift << " width " << w;
-        } else {
-          Image model = d;
-          for (int32_t y = 0; y < (same ? h + 1 : h); ++y)
-            for (int32_t x = 0; x < (same ? w + 40 : w); ++x)
-              model.set(x, y, row.model(model.get(x, y), same ? model.get(x, y) : s.get(x, y)));
-          ASSERT_EQ(row.run(dst, src), 0);
-          ASSERT_EQ(d, model) << name_of(backend) << " width " << w;
-        }
+      const auto mean = [](uint32_t r, uint32_t g, uint32_t b) { return (r + g + b) / 3; };
+      ImageRecord *dst = d, *src = same ? static_cast<ImageRecord*>(d) : s;
+      for (int export_ = 0; export_ < 4; ++export_) {
+        Image model = d;
+        for (int32_t y = 0; y < (same ? h + 1 : h); ++y)
+          for (int32_t x = 0; x < (same ? w + 1 : w); ++x) {
+            const uint32_t a = d.get(x, y), b = same ? a : s.get(x, y);
+            const auto routed = [&](int i) { return byte_of(from[i] & 4 ? a : b, from[i] & 3); };
+            const Brightness brightness = export_ == 0   ? Brightness(mean)
+                                          : export_ == 1 ? weighted(0.2125, 0.7154, 0.0721)
+                                                         : weighted(weight[0], weight[1], weight[2]);
+            model.set(x, y,
+                      export_ < 3 ? chosen(a, b, colour_from, alpha_from, brightness)
+                                  : routed(0) << 16 | routed(1) << 8 | routed(2) | routed(3) << 24);
+          }
+        ASSERT_EQ(export_ == 0   ? BBIChooseCA(dst, src, colour_from, alpha_from)
+                  : export_ == 1 ? BBIChooseCATR(dst, src, colour_from, alpha_from)
+                  : export_ == 2
+                      ? BBIChooseCATS(dst, src, colour_from, alpha_from, weight[0], weight[1], weight[2])
+                      : BBIChooseRGBA(dst, src, from[0], from[1], from[2], from[3]),
+                  0);
+        ASSERT_EQ(d, model) << name_of(backend) << " export " << export_ << " width " << w;
       }
     }
   }
