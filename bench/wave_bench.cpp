@@ -22,7 +22,10 @@ using namespace tessaro::bench;
 
 namespace {
 
-constexpr int frames = 16384;  // in cache in every format
+constexpr int frames = 16384;  // of the effects that are measured in one format
+
+// Stereo frames of 512 KiB: in the second cache in every format.
+constexpr int frames_of(int bits) { return (1 << 19) * 4 / bits; }
 
 // Samples of a sweep, quiet enough for doubles to stay inside -1..1.
 struct Sound {
@@ -45,9 +48,9 @@ using Call = std::function<void(const WaveBuffer*, const WaveBuffer*)>;
 using Loop = std::function<void(Sound&, const Sound&)>;
 
 // passes: how many times the bytes of one buffer are read or written.
-void add(const std::string& name, int bits, int channels, double passes, Call call, Loop loop = nullptr) {
-  compare({name + "/" + std::to_string(bits) + (channels == 2 ? "" : "-mono"), frames, "frame", [=] {
-             const Shared dst = sound(bits, channels), src = sound(bits, channels);
+void add(const std::string& name, int bits, double passes, Call call, Loop loop = nullptr) {
+  compare({name + "/" + std::to_string(bits), static_cast<double>(frames_of(bits)), "frame", [=] {
+             const Shared dst = sound(bits, 2, frames_of(bits)), src = sound(bits, 2, frames_of(bits));
              const size_t moved = static_cast<size_t>(static_cast<double>(src->bytes.size()) * passes / 2);
              const auto from = std::make_shared<std::vector<uint8_t>>(moved),
                         to = std::make_shared<std::vector<uint8_t>>(moved);
@@ -67,49 +70,48 @@ void add_all() {
       return [f](Sound& d, const Sound& s) {
         auto* __restrict to = reinterpret_cast<int16_t*>(d.bytes.data());
         const auto* __restrict from = reinterpret_cast<const int16_t*>(s.bytes.data());
-        for (size_t i = 0; i < 2 * frames; ++i) to[i] = f(to[i], from[i]);
+        for (size_t i = 0; i < 2 * static_cast<size_t>(frames_of(16)); ++i) to[i] = f(to[i], from[i]);
       };
     };
     add(
-        "waveBlt", bits, 2, 2, [](auto d, auto s) { waveBlt(d, s, 0, 0, frames, 0.8f); },
+        "waveBlt", bits, 2, [](auto d, auto s) { waveBlt(d, s, 0, 0, d->count, 0.8f); },
         loop16([](int, int s) { return clip(s * 51 >> 6); }));
-    add("waveFormat", bits, 2, 2, [](auto d, auto s) { waveFormat(d, s); });
+    add("waveFormat", bits, 2, [](auto d, auto s) { waveFormat(d, s); });
     add(
-        "waveBlt64", bits, 2, 2, [](auto d, auto s) { waveBlt64(d, s, 0, 0, frames); },
-        loop16([](int, int s) {
+        "waveBlt64", bits, 2, [](auto d, auto s) { waveBlt64(d, s, 0, 0, d->count); }, loop16([](int, int s) {
           return static_cast<int16_t>(std::min(std::max(s * (1.0 / 32767), -1.0), 1.0) * 32767);
         }));
     add(
-        "waveBltAdd", bits, 2, 3, [](auto d, auto s) { waveBltAdd(d, s, 0, 0, frames, 0.8f); },
+        "waveBltAdd", bits, 3, [](auto d, auto s) { waveBltAdd(d, s, 0, 0, d->count, 0.8f); },
         loop16([](int d, int s) { return clip(d + (s * 204 >> 8)); }));
     add(
-        "waveBltSub", bits, 2, 3, [](auto d, auto s) { waveBltSub(d, s, 0, 0, frames, 0.8f); },
+        "waveBltSub", bits, 3, [](auto d, auto s) { waveBltSub(d, s, 0, 0, d->count, 0.8f); },
         loop16([](int d, int s) { return clip(d - (s * 204 >> 8)); }));
     add(
-        "waveBltMul", bits, 2, 3, [](auto d, auto s) { waveBltMul(d, s, 0, 0, frames, 0.8f); },
+        "waveBltMul", bits, 3, [](auto d, auto s) { waveBltMul(d, s, 0, 0, d->count, 0.8f); },
         loop16([](int d, int s) { return static_cast<int16_t>(std::abs(s) * d >> 15); }));
     add(
-        "waveNormal", bits, 2, 2, [](auto d, auto s) { waveNormal(d, s, 0, 0, frames, 0.009f); },
+        "waveNormal", bits, 2, [](auto d, auto s) { waveNormal(d, s, 0, 0, d->count, 0.009f); },
         loop16([](int, int s) {
           return static_cast<int16_t>(std::min(std::max(s * (1.0 / 32767) * 0.9, -1.0), 1.0) * 32767);
         }));
-    add("waveEffectMaximizer24", bits, 2, 3, [](auto d, auto) {
+    add("waveEffectMaximizer24", bits, 3, [](auto d, auto) {
       int32_t look = 0, write = 0;
       double left = 1, right = 1;
-      waveEffectMaximizer24(d, &look, &write, frames, 1.1, &left, &right);
+      waveEffectMaximizer24(d, &look, &write, d->count, 1.1, &left, &right);
     });
-    add("waveEffectMaximizer64", bits, 2, 3, [](auto d, auto s) {
+    add("waveEffectMaximizer64", bits, 3, [](auto d, auto s) {
       int32_t look = 0, write = 0;
       double left = -15, right = -15;
-      waveEffectMaximizer64(d, s, &look, &write, frames, 0.5, &left, &right);
+      waveEffectMaximizer64(d, s, &look, &write, d->count, 0.5, &left, &right);
     });
-    add("waveBltAddNoise", bits, 2, 2, [](auto d, auto s) { waveBltAddNoise(d, s, 0, 0, frames, 0.1f); });
+    add("waveBltAddNoise", bits, 2, [](auto d, auto s) { waveBltAddNoise(d, s, 0, 0, d->count, 0.1f); });
   }
   for (const int radius : {4, 50, 511})
-    add("waveBltBlur/r" + std::to_string(radius), 16, 2, 2,
-        [=](auto d, auto s) { waveBltBlur(d, s, 0, 0, frames, radius); });
-  add("waveBltSin", 16, 2, 2,
-      [](auto d, auto s) { waveBltSin(d, s, 0, 0, frames, 0.3f, 0.05f, 1e-5f, 0.01f); });
+    add("waveBltBlur/r" + std::to_string(radius), 16, 2,
+        [=](auto d, auto s) { waveBltBlur(d, s, 0, 0, d->count, radius); });
+  add("waveBltSin", 16, 2,
+      [](auto d, auto s) { waveBltSin(d, s, 0, 0, d->count, 0.3f, 0.05f, 1e-5f, 0.01f); });
 }
 
 void add_expand(int dst_bits, int src_bits) {

@@ -201,27 +201,76 @@ void mean_of_span(I16* __restrict out, const int32_t* __restrict ahead, const in
   }
 }
 
-// The gains are added up frame by frame, rounded at every step, in both lanes of one register.
-void ramp24(int32_t* __restrict out, const int32_t* __restrict in, size_t frames, double gain[2],
-            const double step[2]) {
+// Gains are added up frame by frame, rounded at every step. While they stay between two powers of two, where the
+// spacing of the numbers is constant, every step adds the same amount, and frame i has the gain first + i * amount
+// exactly. (Steps that fall halfway between two numbers add another amount once; that the first two are equal
+// rules it out.)
+typedef double Lanes __attribute__((vector_size(64)));  // four frames
+typedef int32_t Whole __attribute__((vector_size(32)));
+
+TESSARO_INLINE bool even_steps(const double gain[2], const double step[2], size_t frames, double amount[2],
+                               double last[2]) {
+  for (size_t lane = 0; lane < 2; ++lane) {
+    const double a = gain[lane] + step[lane], b = a + step[lane];
+    amount[lane] = b - a;
+    if (!(a - gain[lane] == amount[lane])) return false;
+    last[lane] = gain[lane] + amount[lane] * static_cast<double>(frames);
+    uint64_t from, to;
+    __builtin_memcpy(&from, gain + lane, 8);
+    __builtin_memcpy(&to, last + lane, 8);
+    if (from >> 52 != to >> 52) return false;
+  }
+  return true;
+}
+
+// Calls four(i, gains) for frames i..i + 3 as far as that goes, and one(i, gain) for every other frame.
+template <class Four, class One>
+TESSARO_INLINE void ramp(size_t frames, double gain[2], const double step[2], Four four, One one) {
+  double amount[2], last[2];
+  size_t i = 0;
+  if (even_steps(gain, step, frames, amount, last)) {
+    const Lanes first = {gain[0], gain[1], gain[0], gain[1], gain[0], gain[1], gain[0], gain[1]};
+    const Lanes grown = {amount[0], amount[1], amount[0], amount[1],
+                         amount[0], amount[1], amount[0], amount[1]};
+    Lanes index = {0, 0, 1, 1, 2, 2, 3, 3};
+    for (; i + 4 <= frames; i += 4, index += 4.0) four(i, first + index * grown);
+    for (size_t lane = 0; lane < 2; ++lane) gain[lane] += amount[lane] * static_cast<double>(i);
+  }
   __m128d g = _mm_loadu_pd(gain);
   const __m128d d = _mm_loadu_pd(step);
-  for (size_t i = 0; i < frames; ++i) {
-    const __m128d v = _mm_cvtepi32_pd(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(in + 2 * i)));
-    _mm_storel_epi64(reinterpret_cast<__m128i*>(out + 2 * i), _mm_cvttpd_epi32(_mm_mul_pd(v, g)));
-    g = _mm_add_pd(g, d);
-  }
+  for (; i < frames; ++i, g = _mm_add_pd(g, d)) one(i, g);
   _mm_storeu_pd(gain, g);
+}
+
+void ramp24(int32_t* __restrict out, const int32_t* __restrict in, size_t frames, double gain[2],
+            const double step[2]) {
+  ramp(
+      frames, gain, step,
+      [=](size_t i, const Lanes& g) {
+        Whole v;
+        __builtin_memcpy(&v, in + 2 * i, sizeof v);
+        // What does not fit in 32 bits becomes the smallest integer, as the processor's conversion gives it.
+        v = __builtin_convertvector(__builtin_convertvector(v, Lanes) * g, Whole);
+        __builtin_memcpy(out + 2 * i, &v, sizeof v);
+      },
+      [=](size_t i, __m128d g) {
+        const __m128d v = _mm_cvtepi32_pd(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(in + 2 * i)));
+        _mm_storel_epi64(reinterpret_cast<__m128i*>(out + 2 * i), _mm_cvttpd_epi32(_mm_mul_pd(v, g)));
+      });
 }
 void ramp64(double* __restrict out, const F64* __restrict in, size_t frames, double gain[2],
             const double step[2]) {
-  __m128d g = _mm_loadu_pd(gain);
-  const __m128d d = _mm_loadu_pd(step);
-  for (size_t i = 0; i < frames; ++i) {
-    _mm_storeu_pd(out + 2 * i, _mm_mul_pd(_mm_loadu_pd(reinterpret_cast<const double*>(in + 2 * i)), g));
-    g = _mm_add_pd(g, d);
-  }
-  _mm_storeu_pd(gain, g);
+  ramp(
+      frames, gain, step,
+      [=](size_t i, const Lanes& g) {
+        Lanes v;
+        __builtin_memcpy(&v, in + 2 * i, sizeof v);
+        v *= g;
+        __builtin_memcpy(out + 2 * i, &v, sizeof v);
+      },
+      [=](size_t i, __m128d g) {
+        _mm_storeu_pd(out + 2 * i, _mm_mul_pd(_mm_loadu_pd(reinterpret_cast<const double*>(in + 2 * i)), g));
+      });
 }
 
 void peaks24(const int32_t* in, size_t frames, uint32_t bits[2]) {
@@ -238,11 +287,10 @@ void peaks24(const int32_t* in, size_t frames, uint32_t bits[2]) {
 
 void peaks64(const F64* in, size_t frames, double low[2], double high[2]) {
   // Four frames at a time; comparisons in this form pass over what is not a number.
-  typedef double Frames __attribute__((vector_size(64)));
-  Frames lows = {}, highs = {};
+  Lanes lows = {}, highs = {};
   size_t i = 0;
   for (; i + 4 <= frames; i += 4) {
-    Frames v;
+    Lanes v;
     __builtin_memcpy(&v, in + 2 * i, sizeof v);
     lows = v < lows ? v : lows;
     highs = v > highs ? v : highs;

@@ -172,13 +172,12 @@ int32_t TESSARO_CALL wavefft(const WaveBuffer* buffer, int32_t start, int32_t n,
   if (n < 1 || start < 0) return 2;
   if (static_cast<int64_t>(start) + n > wave.count) return 3;
   const Bins bins = {reinterpret_cast<uint8_t*>(re), reinterpret_cast<uint8_t*>(im)};
-  const Side<double> side(wave, start, 2);
+  const Side<double> side(wave, start, wave.lanes);
   double room[2 * block_frames];
   for (int64_t i = 0, some; i < n; i += some) {
     some = smaller(block_frames, n - i);
-    side.read(i, some, room);
-    for (int64_t j = 0; j < some; ++j) store<double>(bins.re + 8 * (i + j), room[2 * j] + room[2 * j + 1]);
-    std::memset(bins.im + 8 * i, 0, static_cast<size_t>(8 * some));
+    kernels<SpectrumKernels>().start({bins.re + 8 * i, bins.im + 8 * i}, side.read(i, some, room, true), some,
+                                     wave.lanes == 2);
   }
   if (n >= 64 && (n & (n - 1)) == 0)
     transform_power_of_two(bins, n);

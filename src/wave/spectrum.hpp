@@ -20,6 +20,9 @@ struct Twiddles {
 };
 
 struct SpectrumKernels {
+  // re = left + right, im = 0: frame i is made of values 2 * i and 2 * i + 1 or, mono,
+  // twice value i.
+  void (*start)(Bins bins, const double* values, int64_t frames, bool stereo);
   // The cosines and sines of angle * (first + j) for j = 0..count - 1; the angles lie in 0..pi.
   void (*twiddles)(double* cosines, double* sines, size_t first, size_t count, double angle);
   // The butterflies of one stage for twiddles first..first + count - 1: elements i and i + k in every block of

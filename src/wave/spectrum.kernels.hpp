@@ -1,4 +1,6 @@
 // kernels: SpectrumKernels for scalar sse2 avx2 avx512
+#include <immintrin.h>
+
 #include "wave/spectrum.hpp"
 #include "wave/stored.hpp"
 #include "wave/trigonometry.hpp"
@@ -16,6 +18,20 @@ void twiddles(double* __restrict cosines, double* __restrict sines, size_t first
     const double across = a.quarter & 1 ? s : c, up = a.quarter & 1 ? c : s;  // quarters 0, 1, 2
     cosines[j] = a.quarter == 0 ? across : -across;
     sines[j] = a.quarter == 2 ? -up : up;
+  }
+}
+
+void start(Bins bins, const F64* values, int64_t frames, bool stereo) {
+  F64* re = reinterpret_cast<F64*>(bins.re);
+  F64* im = reinterpret_cast<F64*>(bins.im);
+  TESSARO_PARALLEL
+  for (int64_t i = 0; i < frames; ++i) im[i] = 0.0;
+  if (stereo) {
+    TESSARO_PARALLEL
+    for (int64_t i = 0; i < frames; ++i) re[i] = values[2 * i] + values[2 * i + 1];
+  } else {
+    TESSARO_PARALLEL
+    for (int64_t i = 0; i < frames; ++i) re[i] = values[i] + values[i];
   }
 }
 
@@ -85,11 +101,44 @@ struct Tile {
 
 constexpr int64_t reversed3[8] = {0, 4, 2, 6, 1, 5, 3, 7};
 
+#if defined(__AVX2__)
+// Four columns of four rows, from one row each in memory.
+TESSARO_INLINE void transpose(__m256d (&out)[4], const double* const (&from)[8], size_t first, size_t row) {
+  const __m256d a = _mm256_loadu_pd(from[first] + row), b = _mm256_loadu_pd(from[first + 1] + row);
+  const __m256d c = _mm256_loadu_pd(from[first + 2] + row), d = _mm256_loadu_pd(from[first + 3] + row);
+  const __m256d ab0 = _mm256_unpacklo_pd(a, b), ab1 = _mm256_unpackhi_pd(a, b);
+  const __m256d cd0 = _mm256_unpacklo_pd(c, d), cd1 = _mm256_unpackhi_pd(c, d);
+  out[0] = _mm256_permute2f128_pd(ab0, cd0, 0x20);
+  out[1] = _mm256_permute2f128_pd(ab1, cd1, 0x20);
+  out[2] = _mm256_permute2f128_pd(ab0, cd0, 0x31);
+  out[3] = _mm256_permute2f128_pd(ab1, cd1, 0x31);
+}
+#endif
+
 TESSARO_INLINE void take(double (&rows)[8][8], const uint8_t* array, int64_t n, int64_t middle) {
+#if defined(__AVX2__)
+  const double* from[8];
+  for (size_t column = 0; column < 8; ++column)
+    from[column] = reinterpret_cast<const double*>(array) + reversed3[column] * (n / 8) + 8 * middle;
+  for (size_t row = 0; row < 8; row += 4) {
+    __m256d left[4], right[4];
+    transpose(left, from, 0, row);
+    transpose(right, from, 4, row);
+    for (size_t i = 0; i < 4; ++i) {
+#if defined(__AVX512F__)  // stored at once: what is loaded whole cannot be forwarded from two stores
+      _mm512_store_pd(rows[row + i], _mm512_insertf64x4(_mm512_castpd256_pd512(left[i]), right[i], 1));
+#else
+      _mm256_store_pd(rows[row + i], left[i]);
+      _mm256_store_pd(rows[row + i] + 4, right[i]);
+#endif
+    }
+  }
+#else
   for (size_t column = 0; column < 8; ++column) {
     const F64* from = reinterpret_cast<const F64*>(array) + reversed3[column] * (n / 8) + 8 * middle;
     for (size_t row = 0; row < 8; ++row) rows[row][column] = from[row];
   }
+#endif
 }
 TESSARO_INLINE void give(const double (&rows)[8][8], uint8_t* array, int64_t n, int64_t middle) {
   for (size_t row = 0; row < 8; ++row)
@@ -137,4 +186,4 @@ void finish(Bins bins, int64_t n, Twiddles at) {
 }  // namespace
 
 TESSARO_KERNELS(SpectrumKernels){
-    .twiddles = twiddles, .stage = stage, .two_stages = two_stages, .finish = finish};
+    .start = start, .twiddles = twiddles, .stage = stage, .two_stages = two_stages, .finish = finish};
