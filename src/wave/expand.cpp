@@ -22,32 +22,25 @@ int64_t frames_below(double limit, double ratio, int64_t count) {
 // Where destination frames lie between source frames: the one before, and the fraction behind it.
 struct Places {
   int32_t frame[block_frames], part[block_frames];
-  Places(int64_t i, int64_t n, double ratio, double parts) {
-    const int32_t first = static_cast<int32_t>(i);
-    for (int32_t j = 0; j < static_cast<int32_t>(n); ++j) {
-      const double p = (first + j) * ratio;
-      frame[j] = static_cast<int32_t>(p);
-      part[j] = static_cast<int32_t>((p - frame[j]) * parts);
-    }
-  }
 };
 
-// out = the blend of the frames at the places and those behind them, which for the last frame of the source are
-// `behind_last` of it: itself, or silence.
+// What is behind the last frame of the source: that frame itself, or silence.
 enum class BehindLast { itself, silence };
 
-template <class S, int lanes, int shift>
+// out = the blends of the frames at the places with those behind them. `last` says that all are the source's last.
+template <class S, size_t lanes, int shift>
 void blend(I16* out, const uint8_t* data, const Places& at, int64_t n, bool last, BehindLast behind_last) {
   const auto sample = [](const uint8_t* p) { return shift == 8 ? S::get(p) : S::to16(S::get(p)); };
-  for (int64_t j = 0; j < n; ++j) {
-    const uint8_t* here =
-        data + static_cast<ptrdiff_t>(at.frame[j]) * static_cast<ptrdiff_t>(lanes * S::bytes);
-    const uint8_t* next = last ? here : here + lanes * S::bytes;
+  const size_t next = last ? 0 : lanes * S::bytes;
+  const int32_t heard = last && behind_last == BehindLast::silence ? 0 : -1;
+  for (size_t j = 0; j < static_cast<size_t>(n); ++j) {
+    const uint8_t* here = data + static_cast<size_t>(at.frame[j]) * (lanes * S::bytes);
     const int32_t part = at.part[j], rest = (1 << shift) - part;
-    const int32_t next_part = last && behind_last == BehindLast::silence ? 0 : part;
-    for (size_t lane = 0; lane < lanes; ++lane)
-      out[j * lanes + static_cast<int64_t>(lane)] = static_cast<int16_t>(
-          (sample(next + S::bytes * lane) * next_part + sample(here + S::bytes * lane) * rest) >> shift);
+    for (size_t lane = 0; lane < lanes; ++lane) {
+      const uint8_t* from = here + S::bytes * lane;
+      out[lanes * j + lane] =
+          static_cast<int16_t>((sample(from + next) * (part & heard) + sample(from) * rest) >> shift);
+    }
   }
 }
 
@@ -67,10 +60,13 @@ void resample(const Wave& to, const Wave& from, double ratio, double parts, Blen
   // A source that the destination overwrites is taken one frame after another.
   const bool apart = to.address(to.count) <= from.address(0) || from.address(from.count) <= to.address(0);
   int16_t room[2 * block_frames];
+  Places at;
   for (int64_t i = 0, n; i < inside; i += n) {
     const bool last = i >= before_last;
     n = apart ? smaller(block_frames, (last ? inside : before_last) - i) : 1;
-    blend(room, from.data, Places(i, n, ratio, parts), n, last, behind_last);
+    kernels<SampleKernels>().places(at.frame, at.part, static_cast<int32_t>(i), static_cast<size_t>(n), ratio,
+                                    parts);
+    blend(room, from.data, at, n, last, behind_last);
     put(i, n, room);
   }
   if (inside < to.count)
