@@ -33,7 +33,8 @@ struct Group {
 // The class of four bytes in a row, the first of which follows `last`: of the least similar one.
 inline unsigned class_of_unit(uint32_t unit, uint8_t last) {
   const uint32_t changed = unit ^ (unit << 8 | last);
-  return changed == 0 ? 3 : (changed & 0xF8F8F8F8) == 0 ? 2 : (changed & 0xE0E0E0E0) == 0 ? 1 : 0;
+  // Each similarity includes the weaker ones; a sum, because no branch foresees them.
+  return unsigned{changed == 0} + ((changed & 0xF8F8F8F8) == 0) + ((changed & 0xE0E0E0E0) == 0);
 }
 
 // The group that starts at byte `start` of the source, which has at least 5 bytes; `last` is the byte before it, 0 at
@@ -50,15 +51,14 @@ inline Group scan_group(const uint8_t* source, uint32_t length, uint32_t start) 
     unit = load<uint32_t>(source + length - 4) >> short_by;
     unit |= load<uint32_t>(source + start - 4) >> (32 - short_by) << (32 - short_by);
   }
-  Group group{4, 0, class_of_unit(unit, last_before(start))};
-  for (uint64_t next = uint64_t{start} + 4; next + 4 < length; next += 4) {
-    if (class_of_unit(load<uint32_t>(source + next), source[next - 1]) != group.kind) break;
-    if (next + 4 - start == uint64_t{2} * group.size) {
-      group.size *= 2;
-      ++group.level;
-    }
-  }
-  return group;
+  const unsigned kind = class_of_unit(unit, last_before(start));
+  uint64_t next = uint64_t{start} + 4;
+  while (next + 4 < length && class_of_unit(load<uint32_t>(source + next), source[next - 1]) == kind)
+    next += 4;
+  // The group ends at the last power of two that its units fill.
+  const auto units = static_cast<uint32_t>((next - start) / 4);
+  const auto level = 31u - static_cast<unsigned>(__builtin_clz(units));
+  return {4u << level, level, kind};
 }
 
 // Reads the head of a group: its size, which ends at 2^32 whatever a damaged stream asks for, and its class.

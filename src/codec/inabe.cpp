@@ -29,21 +29,26 @@ constexpr FitTable fits = [] {
 }();
 
 // The short width that costs least; the smaller one of equals.
-unsigned best_width(const uint8_t* bytes, uint32_t size, unsigned width) {
-  uint32_t fitting[short_widths] = {};
+template <unsigned width>
+unsigned best_width(const uint8_t* bytes, uint32_t size) {
+  // A short width that is not below the full one saves nothing.
+  uint32_t fitting[width] = {};
   for (uint32_t at = 0; at < size;) {
-    const uint32_t stop = size - at < 255 ? size : at + 255;
+    const uint32_t stop = size - at < 252 ? size : at + 252;
     uint64_t sums = 0;
-    for (; at < stop; ++at) sums += fits.of[bytes[at] & ones(width)];
-    for (unsigned e = 1; e < short_widths; ++e) fitting[e] += sums >> 8 * e & 0xFF;
+    const auto entry = [&](uint32_t i) { return fits.of[bytes[i] & ones(width)]; };
+    for (; stop - at >= 4; at += 4) sums += entry(at) + entry(at + 1) + entry(at + 2) + entry(at + 3);
+    for (; at < stop; ++at) sums += entry(at);
+    for (unsigned e = 1; e < width; ++e) fitting[e] += sums >> 8 * e & 0xFF;
   }
-  unsigned best = 0;
-  int64_t least = 0;  // against the cost of width 0
-  for (unsigned e = 1; e < short_widths; ++e) {
+  // Costs against that of width 0, the width below them: the least of both without a branch.
+  int64_t least = 0;
+  for (unsigned e = 1; e < width; ++e) {
     const int64_t cost = int64_t{e} * size + e - int64_t{width} * fitting[e];
-    if (cost < least) least = cost, best = e;
+    const int64_t ranked = cost * short_widths + e;
+    least = ranked < least ? ranked : least;
   }
-  return best;
+  return static_cast<unsigned>(least & (short_widths - 1));
 }
 
 class Encoder {
@@ -74,23 +79,39 @@ class Encoder {
       out_.put(ones(group.level), group.level);
     }
     const BitField mark = class_mark[group.kind];
-    if (group.kind == repeats) {
-      out_.put(mark.bits, 1 + mark.width);
-      return room<tested>();
+    switch (group.kind) {
+      case 0:
+        return payload<tested, 8>(bytes, size, mark);
+      case 1:
+        return payload<tested, 5>(bytes, size, mark);
+      case 2:
+        return payload<tested, 3>(bytes, size, mark);
+      default:
+        out_.put(mark.bits, 1 + mark.width);
+        return room<tested>();
     }
-    const unsigned width = class_width[group.kind], e = best_width(bytes, size, width);
+  }
+  // What stands behind the size of a group that is not of repeats.
+  template <bool tested, unsigned width>
+  bool payload(const uint8_t* bytes, uint32_t size, BitField mark) {
+    const unsigned e = best_width<width>(bytes, size);
     const uint32_t escape = ones(e);
     out_.put(mark.bits << (e + 1) | escape << 1, 1 + mark.width + e + 1);
+    // Masks, because no branch foresees an escape.
+    const uint32_t low = ones(width), mark_of_escape = escape << width;
     const auto code_of = [&](uint8_t byte) {
-      const uint32_t value = byte & ones(width);
-      return value < escape ? BitField{value, e} : BitField{escape << width | value, e + width};
+      const uint32_t value = byte & low, escaped = 0u - (value >= escape);
+      return BitField{value | (mark_of_escape & escaped), e + (width & escaped)};
     };
     uint32_t at = 0;
+    const auto put_two = [&] {
+      const BitField a = code_of(bytes[at]), b = code_of(bytes[at + 1]);
+      out_.put(a.bits << b.width | b.bits, a.width + b.width);
+      at += 2;
+    };
+    // All groups but a cut one consist of fours.
     if (!tested)
-      for (; at + 2 <= size; at += 2) {
-        const BitField a = code_of(bytes[at]), b = code_of(bytes[at + 1]);
-        out_.put(a.bits << b.width | b.bits, a.width + b.width);
-      }
+      while (size - at >= 4) put_two(), put_two();
     for (; at < size; ++at) {
       const BitField c = code_of(bytes[at]);
       out_.put(c.bits, c.width);
