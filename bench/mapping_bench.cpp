@@ -60,27 +60,26 @@ bool stencils() {
          {std::pair{"hard", 0.0f}, std::pair{"soft", 0.4f}, std::pair{"cross-fade", 1000.0f}}) {
       const float s = softness;
       const auto add = [&](const std::string& name, auto call, bool two) {
-        compare(
-            {name + ", " + form + "/" + std::to_string(size), static_cast<double>(size) * size, "pixel", [=] {
-               const Picture dst(size, size), a(size, size, 2), b(size, size, 3), stencil(size, size, 4);
-               std::vector<Contender> all{{"tessaro", [=] { call(dst, a, b, stencil); }}};
-               all.push_back({"limit", [=] {
-                                if (two)
-                                  limit_combine(dst.pixels(), a.pixels(), a.bytes());
-                                else
-                                  limit_combine3(dst.pixels(), a.pixels(), b.pixels(), a.bytes());
-                              }});
-               return all;
-             }});
+        compare({name + "/" + std::to_string(size), static_cast<double>(size) * size, "pixel", [=] {
+                   const Picture dst(size, size), a(size, size, 2), b(size, size, 3), stencil(size, size, 4);
+                   std::vector<Contender> all{{"tessaro", [=] { call(dst, a, b, stencil); }}};
+                   all.push_back({"limit", [=] {
+                                    if (two)
+                                      limit_combine(dst.pixels(), a.pixels(), a.bytes());
+                                    else
+                                      limit_combine3(dst.pixels(), a.pixels(), b.pixels(), a.bytes());
+                                  }});
+                   return all;
+                 }});
       };
       add(
-          "BBIStencilFlip",
+          std::string("BBIStencilFlip, ") + form,
           [=](auto& d, auto& a, auto& b, auto&) {
             BBIStencilFlip(d.record(), a.record(), b.record(), 0, 0, size, size, 0, 0, 0.4f, s, 1);
           },
           false);
       add(
-          "BBIStencilFlipLE",
+          std::string("BBIStencilFlipLE, ") + form,
           [=](auto& d, auto& a, auto& b, auto& m) {
             BBIStencilFlipLE(d.record(), a.record(), b.record(), m.record(), 0, 0, size, size, 0, 0, 0.4f, s);
           },
