@@ -72,8 +72,7 @@ TEST_P(Formats, RefuseWhatIsTooShort) {
   EXPECT_EQ(decode(f.safe, {}, 0, 1), Bytes{});
 }
 
-// Random bytes after easy ones, so that streams end on either side of their limit; a result of 0 means one byte less
-// than the limit at most, and the same data one byte shorter still decodes.
+// Random bytes after easy ones: streams that end on either side of their limit.
 TEST_P(Formats, StopAtTheLimit) {
   const Format& f = GetParam();
   bool reached[2] = {};
