@@ -48,27 +48,35 @@ TESSARO_INLINE void fill(uint8_t* row, int32_t begin, int32_t end, uint32_t colo
   row1<Px>(row + 4 * begin, static_cast<size_t>(end - begin), Colour<Px>{Px::splat(colour)});
 }
 
-// Follows rows in which the old colour has exactly the place of this span, filling them, and returns the last one. A
-// corridor costs one look and one store a row, and the next row's address does not depend on what this one holds, so
-// that the processor works on several at once.
+// Follows rows in which the old colour has exactly the place of this span, filling them, and returns the last one.
+// The next row's address does not depend on what this one holds, so that the processor works on several at once.
 TESSARO_INLINE int32_t follow(const Paint& p, PaintSpan span, int32_t step) {
-  const int32_t begin = span.left > 0 ? span.left - 1 : 0;
-  const int32_t end = span.right + 2 < p.image.width ? span.right + 2 : p.image.width;
-  const auto n = static_cast<size_t>(end - begin);
-  int32_t y = span.y;
-  if (n > Px::lanes) return y;
-  const uint32_t expected = lanes_mask(static_cast<size_t>(span.right - span.left + 1))
-                            << (span.left - begin);
+  const int32_t begin = span.left, end = span.right + 1;
+  const bool at_left = begin == 0, at_right = end == p.image.width;
+  // A span that fits into a vector together with its neighbours takes one look.
+  const int32_t from = at_left ? begin : begin - 1, to = at_right ? end : end + 1;
+  const auto n = static_cast<size_t>(to - from);
+  const bool narrow = n <= Px::lanes;
+  const uint32_t all = narrow ? lanes_mask(n) : 0;
+  const uint32_t expected = narrow ? lanes_mask(static_cast<size_t>(end - begin)) << (begin - from) : 0;
   const Px old = Px::splat(p.old);
+  const auto is_old = [&](const uint8_t* at) { return One::load(at).v == p.old; };
+  const auto goes_on = [&](const uint8_t* row) {
+    if (narrow) return (Px::bits(equal(load_some(row + 4 * from, n), old)) & all) == expected;
+    return (at_left || !is_old(row + 4 * from)) && (at_right || !is_old(row + 4 * end)) &&
+           find<false>(row, begin, end, p.old) == end;
+  };
+  // What the processor does not fetch by itself: rows further on, of which the first lines are all in a narrow span.
+  constexpr ptrdiff_t rows_ahead = 16;
+  const ptrdiff_t ahead = rows_ahead * step * p.image.pitch;
+  int32_t y = span.y;
   for (; y + step >= 0 && y + step < p.image.height; y += step) {
     uint8_t* row = p.image.at(0, y + step);
-    constexpr ptrdiff_t rows_ahead = 16;
-    __builtin_prefetch(
-        reinterpret_cast<const void*>(reinterpret_cast<uintptr_t>(row + 4 * begin) +
-                                      static_cast<uintptr_t>(rows_ahead * step * p.image.pitch)),
-        1);
-    if ((Px::bits(equal(load_some(row + 4 * begin, n), old)) & lanes_mask(n)) != expected) break;
-    fill(row, span.left, span.right + 1, p.colour);
+    const auto later = reinterpret_cast<uintptr_t>(row) + static_cast<uintptr_t>(ahead);
+    for (int32_t x = begin; x < end && x < begin + 64; x += 16)
+      __builtin_prefetch(reinterpret_cast<const void*>(later + 4 * static_cast<uintptr_t>(x)), 1);
+    if (!goes_on(row)) break;
+    fill(row, begin, end, p.colour);
   }
   return y;
 }
