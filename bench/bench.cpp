@@ -241,7 +241,8 @@ int run(int argc, char** argv) {
   if (!table.empty()) {
     std::ofstream out(table);
     out << "# Results\n\n"
-        << head() << ". Medians of " << repetitions << " interleaved repetitions; in brackets tessaro's speed"
+        << head() << ". Medians of " << repetitions
+        << " interleaved repetitions of processor time; in brackets tessaro's speed"
         << " divided by the other's.\n\n"
         << "| comparison | unit | tessaro | limit | peers |\n|---|---|---|---|---|\n";
     for (const Row& row : rows)
