@@ -44,6 +44,13 @@ void blend(I16* out, const uint8_t* data, const Places& at, int64_t n, bool last
   }
 }
 
+// Packed samples at the 16-bit scale are their two upper bytes.
+struct Upper16 {
+  static constexpr size_t bytes = S24::bytes;
+  static int32_t get(const uint8_t* at) { return S16::get(at + 1); }
+  static int32_t to16(int32_t s) { return s; }
+};
+
 using Blend = void (*)(I16* out, const uint8_t* data, const Places& at, int64_t n, bool last, BehindLast);
 
 template <class S, int shift>
@@ -100,7 +107,7 @@ extern "C" int32_t TESSARO_CALL waveExpand(const WaveBuffer* dst, const WaveBuff
   if (from.stored == stored64) from.stored = stored24;
   const Blend blend = from.stored == stored8    ? blend_of<S8, 15>(from.lanes)
                       : from.stored == stored16 ? blend_of<S16, 15>(from.lanes)
-                                                : blend_of<S24, 15>(from.lanes);
+                                                : blend_of<Upper16, 15>(from.lanes);
   const SampleKernels& k = kernels<SampleKernels>();
   resample(to, from, step, 32768, blend, BehindLast::silence,
            [&](int64_t i, int64_t n, const int16_t* values) {
