@@ -55,7 +55,7 @@ void show_keys(Gallery& gallery) {
       [&] { BBIKeying(keyed, 0xFF00FF); }, true);
   {
     // A coarse stretch of a small part, with and without clean edges.
-    Picture small = cut(keyed, w / 3, h / 3, 60, 45), clean = small, shown(490, 180, 0xFF404040);
+    Picture small = cut(keyed, w / 2, h / 5, 60, 45), clean = small, shown(490, 180, 0xFF404040);
     gallery.show("Clean edges", "BBIKeyingFilter(image);\nBBIBltHalfSize(dst, image, ...);",
                  "Left: scaled down after keying, the hidden magenta bleeds into the rim. Right: transparent "
                  "pixels had "
@@ -132,10 +132,11 @@ void show_fills(Gallery& gallery) {
       "the pictures does not depend on how winding the way is.");
   int32_t box[4];
   Picture m = maze(48, 32, 10, 0xFFF0E8D0);
-  BBIBltColor(m, 0, m.height() / 2, m.width(), 1, 0, 0, 0xFF202020);
+  BBIBltColor(m, 24 * 10, 16 * 10, 11, 11, 0, 0, 0xFFC03030);
   gallery.show("A maze", "BBIPaint(image, 1, 1, 0xFF3070C0, &left, &top, &right, &bottom);",
-               "The wall across the middle stops the fill, however many turns it takes above.", m,
-               [&] { BBIPaint(m, 1, 1, 0xFF3070C0, box, box + 1, box + 2, box + 3); });
+               "One cell in the middle has been walled up, in red: what can only be reached through it keeps "
+               "its colour.",
+               m, [&] { BBIPaint(m, 1, 1, 0xFF3070C0, box, box + 1, box + 2, box + 3); });
 
   const Picture photo = gallery.photo(0).fitted(480, 360);
   Picture flat = photo;
