@@ -55,7 +55,7 @@ void show_keys(Gallery& gallery) {
       [&] { BBIKeying(keyed, 0xFF00FF); }, true);
   {
     // A coarse stretch of a small part, with and without clean edges.
-    Picture small = cut(keyed, w / 2, h / 5, 60, 45), clean = small, shown(490, 180, 0xFF404040);
+    Picture small = cut(keyed, w / 2, h * 2 / 7, 60, 45), clean = small, shown(490, 180, 0xFF404040);
     gallery.show("Clean edges", "BBIKeyingFilter(image);\nBBIBltHalfSize(dst, image, ...);",
                  "Left: scaled down after keying, the hidden magenta bleeds into the rim. Right: transparent "
                  "pixels had "
