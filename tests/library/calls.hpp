@@ -159,7 +159,7 @@ class Arguments {
         std::memcpy(at + i, &v, 4);
       }
     }
-    if (!written) std::memcpy(at + before, feed_.data(), feed_.size());
+    if (!written && !feed_.empty()) std::memcpy(at + before, feed_.data(), feed_.size());
     return reinterpret_cast<T*>(at + before);
   }
 
