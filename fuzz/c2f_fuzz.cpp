@@ -10,7 +10,7 @@
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size);
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   if (size < 2) return 0;
-  const uint32_t count = data[0] | data[1] << 8u;
+  const uint32_t count = data[0] | uint32_t{data[1]} << 8;
   const auto stream_size = static_cast<uint32_t>(size - 2);
   const std::unique_ptr<uint8_t[]> stream(new uint8_t[stream_size]), out(new uint8_t[count]());
   if (stream_size) std::memcpy(stream.get(), data + 2, stream_size);

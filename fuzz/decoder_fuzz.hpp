@@ -13,7 +13,7 @@
 inline int fuzz_decoder(const uint8_t* data, size_t size, decltype(&iDecoderSafe) safe,
                         decltype(&iDecoder) classic) {
   if (size < 2) return 0;
-  const uint32_t count = data[0] | data[1] << 8u;
+  const uint32_t count = data[0] | uint32_t{data[1]} << 8;
   const std::unique_ptr<uint8_t[]> stream(new uint8_t[size - 2]), out(new uint8_t[count]),
       again(new uint8_t[count]);
   if (size > 2) std::memcpy(stream.get(), data + 2, size - 2);
