@@ -2,7 +2,7 @@
 
 #include "draw/pen.hpp"
 #include "draw/run.hpp"
-#include "frame/overlap.hpp"
+#include "frame/clip.hpp"
 #include "tessaro/tessaro.h"
 
 using namespace tessaro;
@@ -53,10 +53,9 @@ int32_t line_box(const CornerBox& box, void (*kernel)(uint8_t*, const uint32_t*,
   };
   const auto row_colour = [&](int64_t y) { return box.pattern.get(trunc32(box.y.fraction(y) * columns), 1); };
 
-  const auto written =
-      ByteRange::of(box.image.at(box.x.lowest(), box.y.lowest()), box.image.pitch,
-                    static_cast<ptrdiff_t>(box.x.count()), static_cast<ptrdiff_t>(box.y.count()));
-  if (written.meets(ByteRange::of(box.pattern.pixels, box.pattern.pitch, box.pattern.width, 2))) {
+  const Area written = {box.image.at(box.x.lowest(), box.y.lowest()), box.image.pitch,
+                        static_cast<ptrdiff_t>(box.x.count()), static_cast<ptrdiff_t>(box.y.count())};
+  if (share_memory(written, {box.pattern.pixels, box.pattern.pitch, box.pattern.width, 2})) {
     // The pattern is being drawn over: each colour is read where the walk stands.
     for (int64_t j = box.y.first; j <= box.y.last; ++j) {
       const uint32_t b = row_colour(box.y.at(j));

@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "draw/run.hpp"
-#include "frame/overlap.hpp"
+#include "frame/clip.hpp"
 #include "tessaro/tessaro.h"
 
 using namespace tessaro;
@@ -31,10 +31,9 @@ int32_t draw_ellipse(ImageRecord* dst, const ImageRecord* colours, int32_t x1, i
   const auto column_u = [&](int64_t x) { return 2 * across.way(x) / across.span - 1; };
   const auto kernel = polar ? kernels<EllipseKernels>().polar : kernels<EllipseKernels>().radial;
 
-  const auto written =
-      ByteRange::of(image.at(across.lowest(), down.lowest()), image.pitch,
-                    static_cast<ptrdiff_t>(across.count()), static_cast<ptrdiff_t>(down.count()));
-  if (written.meets(ByteRange::of(palette.pixels, palette.pitch, palette.width, palette.height))) {
+  const Area written = {image.at(across.lowest(), down.lowest()), image.pitch,
+                        static_cast<ptrdiff_t>(across.count()), static_cast<ptrdiff_t>(down.count())};
+  if (share_memory(written, {palette.pixels, palette.pitch, palette.width, palette.height})) {
     // The palette is being drawn over: one pixel after another.
     for (int64_t j = down.first; j <= down.last; ++j) {
       EllipseRow row = row_of(down.at(j));

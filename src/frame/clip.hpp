@@ -42,7 +42,8 @@ struct AreaPair {
   ptrdiff_t width, height;
 };
 
-// True where the spans of memory that two areas cover meet. Where they do not, any order of work gives the same.
+// Whether two areas may have a byte in common: their spans of memory meet, unless they lie side by side in one image. Where
+// they have none, any order of work gives the same.
 bool share_memory(const Area& a, const Area& b);
 inline Area dst_of(const AreaPair& n) { return {n.dst, n.dst_pitch, n.width, n.height}; }
 inline Area src_of(const AreaPair& n) {

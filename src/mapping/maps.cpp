@@ -1,7 +1,7 @@
 #include "mapping/maps.hpp"
 
+#include "frame/clip.hpp"
 #include "frame/heap.hpp"
-#include "frame/overlap.hpp"
 #include "tessaro/tessaro.h"
 
 using namespace tessaro;
@@ -48,9 +48,7 @@ bool runs_into_itself(const Mapping& m, ptrdiff_t y) {
 
 // Whether rows may be written in any order.
 bool apart(const AreaPair& n) {
-  return (n.dst == n.src && n.dst_pitch == n.src_pitch) ||
-         !ByteRange::of(n.dst, n.dst_pitch, n.width, n.height)
-              .meets(ByteRange::of(n.src, n.src_pitch, n.width, n.height));
+  return (n.dst == n.src && n.dst_pitch == n.src_pitch) || !share_memory(dst_of(n), src_of(n));
 }
 
 // Columns of one map row together, others in tiles so narrow that their map rows stay in the nearest cache, and
@@ -83,8 +81,7 @@ void by_columns(const Mapping& m, const int32_t* offsets) {
 void run(const Mapping& m) {
   const AreaPair& n = m.areas;
   const MapKernels& k = kernels<MapKernels>();
-  const auto dst = ByteRange::of(n.dst, n.dst_pitch, n.width, n.height);
-  const bool over_map = dst.meets(ByteRange::of(m.map.pixels, m.map.pitch, 256, m.map.height));
+  const bool over_map = share_memory(dst_of(n), {m.map.pixels, m.map.pitch, 256, m.map.height});
   // The tables that a call builds cost as much as these numbers of pixels.
   const ptrdiff_t table_cost = m.rows == Rows::sum ? 320 : m.rows == Rows::alpha ? 112 : 16;
   const bool tiny = n.width * n.height < table_cost;

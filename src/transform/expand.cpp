@@ -14,32 +14,6 @@ bool clip_stretch(const ImageView& dst, const ImageView& src, ScaledBlit& r) {
          r.sy >= 0 && r.sx + r.sw <= src.width && r.sy + r.sh <= src.height;
 }
 
-namespace {
-
-// Whether areas of w x h pixels have a byte in common.
-bool share_memory(const Stretch& n) {
-  struct Span {
-    uintptr_t from, to;
-  };
-  const auto span = [](const uint8_t* at, ptrdiff_t pitch, int32_t w, int32_t h) -> Span {
-    const auto first = reinterpret_cast<uintptr_t>(at);
-    const uintptr_t last = first + static_cast<uintptr_t>(pitch * (h - 1));
-    const uintptr_t row = 4 * static_cast<uintptr_t>(w);
-    return pitch < 0 ? Span{last, first + row} : Span{first, last + row};
-  };
-  const Span d = span(n.dst, n.dst_pitch, n.dw, n.dh), s = span(n.src, n.src_pitch, n.sw, n.sh);
-  if (d.to <= s.from || s.to <= d.from) return false;
-  if (n.dst_pitch != n.src_pitch || n.dst_pitch == 0) return true;
-  // Two areas of one image side by side.
-  const auto pitch = static_cast<uintptr_t>(n.dst_pitch < 0 ? -n.dst_pitch : n.dst_pitch);
-  const uintptr_t dw = 4 * static_cast<uintptr_t>(n.dw), sw = 4 * static_cast<uintptr_t>(n.sw);
-  const uintptr_t ahead =
-      d.from >= s.from ? (d.from - s.from) % pitch : pitch - 1 - (s.from - d.from - 1) % pitch;
-  return ahead < sw || ahead + dw > pitch;
-}
-
-}  // namespace
-
 Stretch stretch_of(const ImageView& d, const ImageView& s, const ScaledBlit& r) {
   Stretch n = {.dst = d.at(r.dx, r.dy),
                .dst_pitch = d.pitch,
@@ -53,7 +27,8 @@ Stretch stretch_of(const ImageView& d, const ImageView& s, const ScaledBlit& r) 
                .columns = nullptr};
   // Nor may rows that overlap one another be written but one pixel after another.
   const ptrdiff_t row = 4 * static_cast<ptrdiff_t>(n.dw);
-  n.shared = share_memory(n) || (n.dst_pitch < row && n.dst_pitch > -row);
+  n.shared = share_memory({n.dst, n.dst_pitch, n.dw, n.dh}, {s.at(r.sx, r.sy), n.src_pitch, n.sw, n.sh}) ||
+             (n.dst_pitch < row && n.dst_pitch > -row);
   return n;
 }
 
