@@ -39,7 +39,7 @@ unsigned best_width(const uint8_t* bytes, uint32_t size) {
     const auto entry = [&](uint32_t i) { return fits.of[bytes[i] & ones(width)]; };
     for (; stop - at >= 4; at += 4) sums += entry(at) + entry(at + 1) + entry(at + 2) + entry(at + 3);
     for (; at < stop; ++at) sums += entry(at);
-    for (unsigned e = 1; e < width; ++e) fitting[e] += sums >> 8 * e & 0xFF;
+    for (unsigned e = 1; e < width; ++e) fitting[e] += static_cast<uint32_t>(sums >> 8 * e & 0xFF);
   }
   // Costs against that of width 0, the width below them: the least of both without a branch.
   int64_t least = 0;
