@@ -10,7 +10,7 @@ namespace {
 
 // Not-a-number counts as too low.
 float limited(float v, float low, float high) {
-  if (!(v > low)) return low;
+  if (!(v >= low)) return low;
   return v > high ? high : v;
 }
 

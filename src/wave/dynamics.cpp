@@ -25,7 +25,7 @@ double limit64(double peak) {
 
 // Not-a-number counts as too low.
 double limited(double v, double low, double high) {
-  if (!(v > low)) return low;
+  if (!(v >= low)) return low;
   return v > high ? high : v;
 }
 

@@ -34,10 +34,9 @@ struct Buffer {
   void put(int64_t i, int lane, int64_t v) const {
     for (int b = 0; b < form(); ++b) sample(i, lane)[b] = static_cast<uint8_t>(v >> 8 * b);
   }
-  double& real(int64_t i, int lane, double& room) const {
-    std::memcpy(&room, data + 8 * (i * channels + lane % channels), 8);
-    return room;
-  }
+  // The integer that stands for 1 and the one for silence.
+  double unit() const { return bits == 8 ? 127 : bits == 16 ? 32767 : 8388607; }
+  int64_t silence() const { return bits == 8 ? 128 : 0; }
 
   // Integer scales: `depth` is 16 or 24.
   Frame get(int64_t i, int depth) const {
@@ -67,13 +66,11 @@ struct Buffer {
   }
   Frame64 get64(int64_t i) const {
     Frame64 v{};
-    for (int lane = 0; lane < 2 && inside(i); ++lane) {
-      double room = 0;
-      v[static_cast<size_t>(lane)] = bits == 8    ? static_cast<double>(stored(i, lane) - 128) * (1.0 / 127)
-                                     : bits == 16 ? static_cast<double>(stored(i, lane)) * (1.0 / 32767)
-                                     : bits == 24 ? static_cast<double>(stored(i, lane)) * (1.0 / 8388607)
-                                                  : real(i, lane, room);
-    }
+    for (size_t lane = 0; lane < 2 && inside(i); ++lane)
+      if (bits == 64)
+        v[lane] = load<double>(data + 8 * (i * channels + static_cast<int>(lane) % channels));
+      else
+        v[lane] = static_cast<double>(stored(i, static_cast<int>(lane)) - silence()) * (1 / unit());
     return v;
   }
   void let64(int64_t i, double l, double r) const {
@@ -84,17 +81,13 @@ struct Buffer {
       double& x = v[lane];
       if (!(x >= -1.0)) x = -1.0;
       if (x > 1.0) x = 1.0;
-      code[lane] = static_cast<int64_t>(bits == 8    ? 128 - std::trunc(x * -127)
-                                        : bits == 16 ? std::trunc(x * 32767)
-                                                     : std::trunc(x * 8388607));
+      code[lane] = silence() + static_cast<int64_t>(x * unit());
     }
-    for (int lane = 0; lane < channels; ++lane) {
-      const double mean = (v[0] + v[1]) * 0.5;
+    for (int lane = 0; lane < channels; ++lane)
       if (bits == 64)
-        std::memcpy(data + 8 * (i * channels + lane), channels == 2 ? v + lane : &mean, 8);
+        store<double>(data + 8 * (i * channels + lane), channels == 2 ? v[lane] : (v[0] + v[1]) * 0.5);
       else
         put(i, lane, channels == 2 ? code[lane] : (code[0] + code[1]) / 2);
-    }
   }
 };
 
