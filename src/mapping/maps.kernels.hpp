@@ -1,6 +1,6 @@
 // kernels: MapKernels for scalar sse2 avx512
 #include "mapping/maps.hpp"
-#include "simd/vocabulary.hpp"
+#include "simd/permutes.hpp"
 
 namespace {
 
@@ -77,10 +77,6 @@ void gather_by_value(uint8_t* dst, const uint8_t* src, size_t width, const MapBy
     _mm512_mask_storeu_epi32(dst + 4 * x, some, out);
   }
 }
-
-// Permutes over tables of bytes in registers are an extension of their own, asked for at run time.
-#define TESSARO_VBMI [[gnu::target("avx512vbmi")]]
-TESSARO_INLINE bool has_byte_permutes() { return __builtin_cpu_supports("avx512vbmi"); }
 
 // 64 pixels, one register a channel.
 struct Planes {

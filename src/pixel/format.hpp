@@ -34,7 +34,8 @@ struct FormatKernels {
   // dst[i] = palette[bit or byte i of src]; bits come most significant first.
   void (*from_bits)(uint8_t* dst, const uint8_t* src, size_t count, const uint8_t* palette);
   void (*from_bytes)(uint8_t* dst, const uint8_t* src, size_t count, const uint8_t* palette);
-  // table: 256 bytes each for blue, green and red; alpha stays.
+  // table: 256 bytes each for blue, green and red; alpha stays. Neither the table nor src may meet dst, except that
+  // src may be dst, and that a run of one pixel may meet anything.
   void (*looked_up)(uint8_t* dst, const uint8_t* src, size_t count, const uint8_t* table);
 };
 TESSARO_DECLARE_KERNELS(FormatKernels);

@@ -2,6 +2,7 @@
 #include "pixel/format.hpp"
 
 #include "pixel/narrow.hpp"
+#include "simd/permutes.hpp"
 #include "simd/rules.hpp"
 
 namespace {
@@ -256,8 +257,33 @@ void from_bytes(uint8_t* dst, const uint8_t* src, size_t count, const uint8_t* p
   for (size_t x = 0; x < count; ++x) std::memcpy(dst + 4 * x, palette + 4 * src[x], 4);
 }
 
+#if TESSARO_LANES == 16
+// All three tables stay in registers. Looks up whole vectors and returns how many pixels those were.
+TESSARO_VBMI size_t look_up_by_permutes(uint8_t* dst, const uint8_t* src, size_t count,
+                                        const uint8_t* table) {
+  __m512i part[12];
+  for (int i = 0; i < 12; ++i) part[i] = Px::load(table + 64 * i).v;
+  size_t x = 0;
+  for (; x + Px::lanes <= count; x += Px::lanes) {
+    const __m512i v = Px::load(src + 4 * x).v;
+    __m512i low = v, high = v;  // from the lower halves of the tables, and from the upper ones
+    for (int c = 0; c < 3; ++c) {
+      const __mmask64 channel = 0x1111111111111111u << c;
+      low = _mm512_mask2_permutex2var_epi8(part[4 * c], low, channel, part[4 * c + 1]);
+      high = _mm512_mask2_permutex2var_epi8(part[4 * c + 2], high, channel, part[4 * c + 3]);
+    }
+    Px{_mm512_mask_blend_epi8(_mm512_movepi8_mask(v), low, high)}.store(dst + 4 * x);
+  }
+  return x;
+}
+#endif
+
 void looked_up(uint8_t* dst, const uint8_t* src, size_t count, const uint8_t* table) {
-  for (size_t x = 0; x < count; ++x) {
+  size_t x = 0;
+#if TESSARO_LANES == 16
+  if (count >= Px::lanes && has_byte_permutes()) x = look_up_by_permutes(dst, src, count, table);
+#endif
+  for (; x < count; ++x) {
     const uint32_t v = One::load(src + 4 * x).v;
     One{table[v & 255] | static_cast<uint32_t>(table[256 + (v >> 8 & 255)]) << 8 |
         static_cast<uint32_t>(table[512 + (v >> 16 & 255)]) << 16 | (v & 0xFF000000)}
