@@ -46,10 +46,6 @@ int32_t mix_scaled(const WaveBuffer* dst, const WaveBuffer* src, int32_t dst_sta
 
 bool at_most_16_bits(const Wave& wave) { return wave.stored == stored8 || wave.stored == stored16; }
 
-void skip_draws(int64_t n) {
-  for (; n > 0; --n) draw_random();
-}
-
 }  // namespace
 
 extern "C" {
@@ -131,13 +127,13 @@ int32_t TESSARO_CALL waveBltAddNoise(const WaveBuffer* dst, const WaveBuffer* sr
   const Runs<int16_t> run(to, from, dst_start, src_start, 2);
   int64_t drawn = 0;  // frames that have had their two draws
   transform(run.dst, run.src, count, false, [&](int16_t* out, const int16_t* in, int64_t i, int64_t n) {
-    skip_draws(2 * (i - drawn));
-    uint16_t noise[2 * block_frames];
-    for (int64_t sample = 0; sample < 2 * n; ++sample) noise[sample] = static_cast<uint16_t>(draw_random());
+    skip_random(2 * (i - drawn));
+    uint32_t noise[2 * block_frames];
+    draw_random(noise, 2 * n);
     kernels<SampleKernels>().noise16(out, in, run.samples(n), noise, factor);
     drawn = i + n;
   });
-  skip_draws(2 * (count - drawn));
+  skip_random(2 * (count - drawn));
   return status_done;
 }
 

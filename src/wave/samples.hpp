@@ -69,7 +69,8 @@ struct SampleKernels {
   void (*sub16)(int16_t* d, const int16_t* s, size_t n, int32_t gain);   // d - ((s * gain) >> 8)
   void (*mul16)(int16_t* d, const int16_t* s, size_t n, int32_t);        // (|s| * d) >> 15
   void (*xor16)(int16_t* d, const int16_t* s, size_t n, int32_t);        // d ^ s
-  void (*noise16)(int16_t* d, const int16_t* s, size_t n, const uint16_t* noise, int32_t amount);
+  // s + (((noise modulo 65536 - 32768) * amount) >> 8)
+  void (*noise16)(int16_t* d, const int16_t* s, size_t n, const uint32_t* noise, int32_t amount);
   void (*tone16)(int16_t* d, const int16_t* s, size_t frames, size_t lanes, const int32_t* tone);
   void (*gain24)(int32_t* d, const int32_t* s, size_t n, int32_t gain);  // (s * gain) >> 6 in 24 bits
   // The moving average of pairs: sums[0] is the running sum before the first frame, those of the last `span`

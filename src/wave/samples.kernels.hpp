@@ -147,9 +147,10 @@ TESSARO_OPERATION(mul16, ((s[i] < 0 ? -s[i] : s[i]) * d[i]) >> 15)
 TESSARO_OPERATION(xor16, d[i] ^ s[i])
 #undef TESSARO_OPERATION
 
-void noise16(I16* d, const I16* s, size_t n, const uint16_t* noise, int32_t amount) {
+void noise16(I16* d, const I16* s, size_t n, const uint32_t* noise, int32_t amount) {
   TESSARO_PARALLEL
-  for (size_t i = 0; i < n; ++i) d[i] = saturated16(s[i] + (((noise[i] - 32768) * amount) >> 8));
+  for (size_t i = 0; i < n; ++i)
+    d[i] = saturated16(s[i] + (((static_cast<int32_t>(noise[i] & 65535) - 32768) * amount) >> 8));
 }
 
 void tone16(I16* d, const I16* s, size_t frames, size_t lanes, const int32_t* tone) {
