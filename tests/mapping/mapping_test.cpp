@@ -4,7 +4,7 @@
 #include <functional>
 #include <limits>
 
-#include "support/images.hpp"
+#include "support/models.hpp"
 
 namespace tessaro::test {
 namespace {
@@ -24,12 +24,6 @@ Rect clip(Rect r, Image& dst, Image& src) {
   return r;
 }
 
-Image some_image(Random& random, int32_t width, int32_t height) {
-  const int32_t pitch = 4 * width + random.between(0, 9);
-  Image image(width, height, random.word() & 1 ? pitch : -pitch, random.word() % 4);
-  image.randomize(random.word());
-  return image;
-}
 // Stretches of one alpha, as pictures have them, among pixels of many.
 void flatten(Image& image, Random& random) {
   uint32_t alpha = 0xFF000000;
@@ -124,12 +118,6 @@ TEST(Maps, GoOnePixelAfterAnotherInSharedMemory) {
       }
     }
   }
-}
-
-uint32_t mix(uint32_t base, uint32_t s, uint32_t w) {
-  uint32_t out = 0;
-  for (int k = 0; k < 32; k += 8) out |= (((base >> k & 255) * (256 - w) + (s >> k & 255) * w) >> 8) << k;
-  return out;
 }
 
 uint32_t transition(uint32_t o, uint32_t i, uint32_t alpha, float progress, float softness) {
@@ -233,10 +221,7 @@ TEST(Stencils, AddSignedColoursForEveryByteAndAlpha) {
 
 TEST(Mapping, StaysInsideWhateverTheRectangle) {
   Random random(9);
-  const auto any = [&] {
-    return random.word() % 2 ? random.between(-4, 12)
-                             : extreme_values[random.word() % std::size(extreme_values)];
-  };
+  const auto any = [&] { return any_coordinate(random); };
   Image map(256, 256);
   int drawn = 0;
   for (int n = 0; n < 3000; ++n) {
