@@ -30,16 +30,8 @@ struct As8888 {
     return v;
   }
 };
-struct As888 {
+struct As888 : As8888 {
   static constexpr size_t bytes = 3;
-  template <class P>
-  TESSARO_INLINE static P encode(P a) {
-    return a;
-  }
-  template <class P>
-  TESSARO_INLINE static P decode(P v) {
-    return v;
-  }
 };
 struct As565 {
   static constexpr size_t bytes = 2;

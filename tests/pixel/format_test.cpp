@@ -249,19 +249,16 @@ TEST(Format, FillsImagesFromBottomUpBuffers) {
 TEST(Format, RefusesUnknownFormatsAndEmptyRuns) {
   const uint32_t src[2] = {1, 2};
   uint32_t dst[2] = {7, 8};
-  for (const int32_t format : {0, 16, 444, -565, INT32_MIN}) {
-    EXPECT_EQ(BBIBltToBBIGet(dst, src, 2, format), 0);
-    EXPECT_EQ(BBIBltToX(dst, src, 2, format, 5, 1), 0);
-    EXPECT_EQ(BBIBltToXF(dst, src, src, format & 2, format, 1), 1);
-    EXPECT_EQ(BBIBltToF(dst, src, format & 2, format, 5, 1, 1, 0, nullptr), 1);
-  }
+  const auto run = [&](int32_t count, int32_t format) {
+    return std::vector<int32_t>{
+        BBIBltToBBIGet(dst, src, count, format), BBIBltToX(dst, src, count, format, 5, 1),
+        BBIBltToXF(dst, src, src, count, format, 1), BBIBltToF(dst, src, count, format, 5, 1, 0, 0, nullptr)};
+  };
+  for (const int32_t format : {0, 16, 444, -565, INT32_MIN})
+    for (const int32_t count : {2, 0}) EXPECT_EQ(run(count, format), (std::vector<int32_t>{0, 0, 1, 1}));
   for (const int32_t count : {0, -1, INT32_MIN}) {
-    EXPECT_EQ(BBIBltTo1(dst, src, count), 0);
-    EXPECT_EQ(BBIBltTo16As565(dst, src, count), 0);
-    EXPECT_EQ(BBIBltToBBIGet(dst, src, count, 565), 0);
-    EXPECT_EQ(BBIBltToX(dst, src, count, 565, 5, 1), 0);
-    EXPECT_EQ(BBIBltToXF(dst, src, src, count, 565, 1), 0);
-    EXPECT_EQ(BBIBltToF(dst, src, count, 565, 5, 1, 0, 0, nullptr), 0);
+    EXPECT_EQ(run(count, 565), std::vector<int32_t>(4));
+    EXPECT_EQ(BBIBltTo1(dst, src, count) | BBIBltTo16As565(dst, src, count), 0);
   }
   EXPECT_EQ(dst[0], 7u);
   EXPECT_EQ(dst[1], 8u);

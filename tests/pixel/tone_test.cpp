@@ -63,13 +63,11 @@ std::vector<Row> rows() {
   for (const float factor : {0.0f, 0.3f, 1.0f, 2.0f, 1e-30f, 700.0f, -1.0f, -1e7f, -1e30f, infinite,
                              -infinite, std::numeric_limits<float>::quiet_NaN()})
     all.push_back({"factor " + std::to_string(factor),
-                   [=](auto* d, auto* s, int32_t dx, int32_t dy, int32_t cx, int32_t cy, int32_t sx,
-                       int32_t sy) { return BBIBltToneWB(d, s, dx, dy, cx, cy, sx, sy, factor); },
+                   [=](auto... areas) { return BBIBltToneWB(areas..., factor); },
                    [=](uint32_t d, uint32_t s) { return tone_mix(d, s, factor); }});
   for (const float opacity : {0.0f, 0.3f, 0.5f, 1.0f, 1e30f})
     all.push_back({"opacity " + std::to_string(opacity),
-                   [=](auto* d, auto* s, int32_t dx, int32_t dy, int32_t cx, int32_t cy, int32_t sx,
-                       int32_t sy) { return BBIBltTrueBlend(d, s, dx, dy, cx, cy, sx, sy, opacity); },
+                   [=](auto... areas) { return BBIBltTrueBlend(areas..., opacity); },
                    [=](uint32_t d, uint32_t s) { return true_blend(d, s, std::min(opacity, 1.0f)); }});
   return all;
 }
@@ -105,16 +103,14 @@ TEST(Tone, CoversEveryDistanceAndEveryPairOfAlphas) {
   for (const Backend backend : supported_backends()) {
     Forced forced(backend);
     for (const Row& row : rows()) {
-      Image d(256, 256), s(256, 256);
+      Image d(256, 256), s(256, 256), model(256, 256);
       Random random(3);
       for (int32_t y = 0; y < 256; ++y)
         for (int32_t x = 0; x < 256; ++x) {
           d.set(x, y, (random.pixel() & 0xFFFFFF) | static_cast<uint32_t>(x) << 24);
           s.set(x, y, (random.pixel() & 0xFFFFFF) | static_cast<uint32_t>(y) << 24);
+          model.set(x, y, row.rule(d.get(x, y), s.get(x, y)));
         }
-      Image model = d;
-      for (int32_t y = 0; y < 256; ++y)
-        for (int32_t x = 0; x < 256; ++x) model.set(x, y, row.rule(d.get(x, y), s.get(x, y)));
       ASSERT_EQ(row.run(d, s, 0, 0, 256, 256, 0, 0), 0);
       ASSERT_EQ(d, model) << name_of(backend);
     }
