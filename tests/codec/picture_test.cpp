@@ -1,5 +1,6 @@
 // Pictures through the platform's loader: the same expectations on every target.
 #include <algorithm>
+#include <array>
 #include <functional>
 
 #include "picture_files.hpp"
@@ -72,16 +73,10 @@ class Screen {
 constexpr uint32_t compared = 0xFFFFFFFF;
 #endif
 
-struct Extent {
-  int32_t status = -1, width = -1, height = -1;
-  friend bool operator==(const Extent&, const Extent&) = default;
-  friend std::ostream& operator<<(std::ostream& out, const Extent& e) {
-    return out << "status " << e.status << ", " << e.width << " x " << e.height;
-  }
-};
+using Extent = std::array<int32_t, 3>;  // status, width, height
 Extent extent(const Bytes& file) {
-  Extent e;
-  e.status = DecodeImageHead(file.data(), static_cast<int32_t>(file.size()), &e.width, &e.height);
+  Extent e{-1, -1, -1};
+  e[0] = DecodeImageHead(file.data(), static_cast<int32_t>(file.size()), &e[1], &e[2]);
   return e;
 }
 int32_t himetric(int32_t pixels) { return static_cast<int32_t>(pixels * 2540.0 / 96 + 0.5); }
@@ -136,7 +131,7 @@ TEST(Picture, RefusesSizesAndReportsNothingWithoutABitmap) {
   const Bytes noise(64, 0x5A);
   for (const int32_t size : {63, 0, -1, INT32_MIN, INT32_MAX, (8 << 20) + 1}) {
     Extent e{0, 7, 7};
-    e.status = DecodeImageHead(noise.data(), size, &e.width, &e.height);
+    e[0] = DecodeImageHead(noise.data(), size, &e[1], &e[2]);
     EXPECT_EQ(e, (Extent{1, 0, 0})) << size;
     EXPECT_EQ(DecodeImage(nullptr, noise.data(), size), 1) << size;
   }
@@ -286,7 +281,7 @@ TEST(Picture, SurvivesDamage) {
       Bytes damaged = file;
       damaged[at] = static_cast<uint8_t>(damaged[at] ^ (1 + random.word() % 255));
       ASSERT_EQ(draw(damaged), 0) << at;
-      ASSERT_EQ(extent(damaged).status, 0) << at;
+      ASSERT_EQ(extent(damaged)[0], 0) << at;
     }
   }
 }

@@ -2,6 +2,7 @@
 
 #include <cstring>
 #include <limits>
+#include <random>
 #include <vector>
 
 #include "frame/numbers.hpp"
@@ -102,34 +103,26 @@ TEST(Scalars, CallsThroughPointers) {
   EXPECT_EQ(StdCallBack(Host::minus, 5, 12), -7);
 }
 
-TEST(Generator, DrawsTheTwisterWithItsFirstSeeding) {
-  // The generator once more, word by word as it was published.
-  std::vector<uint32_t> mt(624);
-  uint32_t s = 4357;
-  for (uint32_t& word : mt) {
-    word = s & 0xFFFF0000;
-    s = 69069 * s + 1;
-    word |= (s & 0xFFFF0000) >> 16;
-    s = 69069 * s + 1;
-  }
-  seed_random(4357);
-  for (int round = 0; round < 3; ++round) {
-    size_t k = 0;
-    const auto twist = [&](size_t a, size_t b, size_t m) {
-      const uint32_t y = (mt[a] & 0x80000000) | (mt[b] & 0x7FFFFFFF);
-      mt[a] = mt[m] ^ y >> 1 ^ (y & 1 ? 0x9908B0DF : 0);
-    };
-    for (; k < 624 - 397; ++k) twist(k, k + 1, k + 397);
-    for (; k < 623; ++k) twist(k, k + 1, k - (624 - 397));
-    twist(623, 0, 396);
-    for (uint32_t y : mt) {
-      y ^= y >> 11;
-      y ^= y << 7 & 0x9D2C5680;
-      y ^= y << 15 & 0xEFC60000;
-      y ^= y >> 18;
-      ASSERT_EQ(GetRandom(0xFFFFFFFF), y % 0xFFFFFFFF);
+// The seeding of the generator's first published version, for the standard library's generator.
+struct FirstSeeding {
+  using result_type = uint32_t;
+  uint32_t s;
+  template <class Word>
+  void generate(Word at, Word end) {
+    for (; at != end; ++at) {
+      const uint32_t upper = s & 0xFFFF0000;
+      s = 69069 * s + 1;
+      *at = upper | s >> 16;
+      s = 69069 * s + 1;
     }
   }
+};
+
+TEST(Generator, DrawsTheTwisterWithItsFirstSeeding) {
+  FirstSeeding seeding{4357};
+  std::mt19937 twister(seeding);
+  seed_random(4357);
+  for (int n = 0; n < 3 * 624; ++n) ASSERT_EQ(GetRandom(0xFFFFFFFF), twister() % 0xFFFFFFFF);
   // A modulus of 1 says nothing but moves on.
   seed_random(1);
   const uint32_t first = GetRandom(1u << 31), second = GetRandom(1u << 31);
@@ -141,12 +134,13 @@ TEST(Generator, DrawsTheTwisterWithItsFirstSeeding) {
 
 TEST(Processor, Levels) {
   constexpr uint32_t cmov = 1u << 15, mmx = 1u << 23, sse = 1u << 25, sse2 = 1u << 26;
-  EXPECT_EQ(cpu_level_of(0), 2);
-  EXPECT_EQ(cpu_level_of(cmov | sse | sse2), 3);
-  EXPECT_EQ(cpu_level_of(mmx), 4);
-  EXPECT_EQ(cpu_level_of(mmx | sse | cmov), 12);
-  EXPECT_EQ(cpu_level_of(mmx | sse2), 20);
-  EXPECT_EQ(cpu_level_of(mmx | sse | sse2), 28);
+  for (const auto& [flags, level] : {std::pair{0u, 2},
+                                     {cmov | sse | sse2, 3},
+                                     {mmx, 4},
+                                     {mmx | sse | cmov, 12},
+                                     {mmx | sse2, 20},
+                                     {mmx | sse | sse2, 28}})
+    EXPECT_EQ(cpu_level_of(flags), level);
   EXPECT_EQ(GetCpuID(), lazy_cpu_level());
   EXPECT_EQ(GetCpuID(), 28);  // every processor that the vector code runs on
 }
