@@ -214,7 +214,7 @@ void places(int32_t* __restrict frame, int32_t* __restrict part, int32_t first, 
 // Gains are added up frame by frame, rounded at every step. While they stay between two powers of two, where the
 // spacing of the numbers is constant, every step adds the same amount, and frame i has the gain first + i * amount
 // exactly. (Steps that fall halfway between two numbers add another amount once; that the first two are equal
-// rules it out.)
+// rules it out. A rounded step down to the power of two itself may end below, where numbers lie closer.)
 typedef double Lanes __attribute__((vector_size(64)));  // four frames
 typedef int32_t Whole __attribute__((vector_size(32)));
 
@@ -228,7 +228,7 @@ TESSARO_INLINE bool even_steps(const double gain[2], const double step[2], size_
     uint64_t from, to;
     __builtin_memcpy(&from, gain + lane, 8);
     __builtin_memcpy(&to, last + lane, 8);
-    if (from >> 52 != to >> 52) return false;
+    if (from >> 52 != to >> 52 || (to << 12 == 0 && amount[lane] != step[lane])) return false;
   }
   return true;
 }

@@ -148,6 +148,13 @@ TEST(Dynamics, BothMaximizersStreamAsOneFrameAfterAnother) {
           ASSERT_TRUE(mine == model);
         }
       }
+    // A gain that passes just below 2, where sums are rounded finer, at the end of a block.
+    std::vector<uint8_t> got(3 * 1536, 0x50), want = got;
+    Gains mine{0, 0, {4 - 0x1p-41, 4 - 0x1p-41}}, model = mine;
+    const Buffer fast{got.data(), 1536, 24, 1}, naive{want.data(), 1536, 24, 1};
+    EXPECT_EQ(maximize24(fast, fast, mine, 1536, 1.5), 0);
+    maximizer24_model(naive, model, 1536, 1.5);
+    ASSERT_EQ(got, want) << name_of(backend);
   }
 }
 
