@@ -2,21 +2,11 @@
 #pragma once
 
 #include <cmath>
-#include <functional>
 
-#include "support/images.hpp"
+#include "support/unscaled.hpp"
 
 namespace tessaro::test {
 
-inline uint32_t per_channel(const std::function<uint32_t(int)>& f) {
-  return f(0) | f(8) << 8 | f(16) << 16 | f(24) << 24;
-}
-inline uint32_t channel(uint32_t v, int at) { return v >> at & 255; }
-
-inline uint32_t mixed(uint32_t d, uint32_t s, uint32_t weight) {
-  return per_channel(
-      [=](int at) { return (channel(d, at) * (256 - weight) + channel(s, at) * weight) / 256; });
-}
 inline uint32_t weight_of(uint32_t alpha, float opacity) {
   return static_cast<uint32_t>(static_cast<double>(alpha) * static_cast<double>(opacity) *
                                static_cast<double>(bits_as<float>(0x3B808081u)) * 256.0);
