@@ -179,27 +179,17 @@ void compare(uint32_t seed, int rounds, int32_t widest, const Call& call, const 
 }  // namespace
 
 TEST(Expand, FollowsTheModel) {
-  for (int which = 0; which < 3; ++which)
-    compare(
-        static_cast<uint32_t>(which), 1500, 70,
-        [=](ImageRecord* d, ImageRecord* s, const Scaled& c, const Arguments& a) {
-          return plain(d, s, c, a, which);
-        },
-        [=](Image& d, Image& s, const Scaled& c, const Arguments& a) {
-          return expected_plain(d, s, c, a, which);
-        });
-}
-
-TEST(Expand, FollowsTheModelBeyondOnePartOfARow) {
-  for (int which = 0; which < 3; ++which)
-    compare(
-        static_cast<uint32_t>(which), 30, 2500,
-        [=](ImageRecord* d, ImageRecord* s, const Scaled& c, const Arguments& a) {
-          return plain(d, s, c, a, which);
-        },
-        [=](Image& d, Image& s, const Scaled& c, const Arguments& a) {
-          return expected_plain(d, s, c, a, which);
-        });
+  for (const auto& [rounds, widest] :
+       {std::pair{1500, 70}, {30, 2500}})  // wider than what is sampled at once
+    for (int which = 0; which < 3; ++which)
+      compare(
+          static_cast<uint32_t>(which), rounds, widest,
+          [=](ImageRecord* d, ImageRecord* s, const Scaled& c, const Arguments& a) {
+            return plain(d, s, c, a, which);
+          },
+          [=](Image& d, Image& s, const Scaled& c, const Arguments& a) {
+            return expected_plain(d, s, c, a, which);
+          });
 }
 
 TEST(Expand, ChooseFollowsTheModel) { compare(9, 6000, 50, choose, expected_choose); }
@@ -264,9 +254,10 @@ TEST(Expand, WorkedExamples) {
 }
 
 TEST(Expand, ExtremeRectanglesStayInside) {
-  Image dst(37, 9, -152, 1), src(41, 5, 0, 3);
+  Image dst(37, 9, -152, 1), packed(37, 9, 0, 1), src(41, 5, 176, 3);
   src.randomize(1);
   const Arguments a = {.opacity = 0.5f, .mask = 0xFF, .by_alpha = 1};
+  const std::vector<uint32_t> table(256, 128);
   for (const int32_t x : extreme_values)
     for (const int32_t w : extreme_values)
       for (const int32_t v : extreme_values)
@@ -275,5 +266,8 @@ TEST(Expand, ExtremeRectanglesStayInside) {
                                 Scaled{0, v, 5, 40, 3, x, 41, w}}) {
           for (int which = 0; which < 3; ++which) plain(dst, src, c, a, which);
           choose(dst, dst, c, a);
+          BBILinearBlt(packed, src, c.dx, c.dy, c.dw, c.dh, c.sx, c.sy, c.sw, c.sh);
+          BBILinearBltTest(dst, dst, c.dx, c.dy, c.dw, c.dh, c.sx, c.sy, c.sw, c.sh);
+          BBILinearRender(packed, src, c.dx, c.dy, c.dw, c.dh, c.sx, c.sy, c.sw, c.sh, table.data(), x, w, 0);
         }
 }

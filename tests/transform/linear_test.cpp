@@ -211,18 +211,3 @@ TEST(Linear, RowsOutsideTheMemoryAreRefused) {
     EXPECT_EQ(BBILinearBlt(odd, good, 0, 0, 20, 6, 0, 0, 20, 6), 0);  // by pitch
   }
 }
-
-TEST(Linear, ExtremeRectanglesStayInside) {
-  Image dst(37, 9, 0, 1), src(41, 5, 176, 3);
-  src.randomize(1);
-  const std::vector<uint32_t> table(256, 128);
-  for (const int32_t x : extreme_values)
-    for (const int32_t w : extreme_values)
-      for (const int32_t v : extreme_values)
-        for (const Scaled& c : {Scaled{x, 0, w, 9, 0, 0, v, 5}, Scaled{0, x, 37, w, 0, v, 41, 5},
-                                Scaled{x, x, w, w, v, v, w, w}, Scaled{0, 0, v, v, x, x, w, w}}) {
-          BBILinearBlt(dst, src, c.dx, c.dy, c.dw, c.dh, c.sx, c.sy, c.sw, c.sh);
-          BBILinearBltTest(dst, dst, c.dx, c.dy, c.dw, c.dh, c.sx, c.sy, c.sw, c.sh);
-          BBILinearRender(dst, src, c.dx, c.dy, c.dw, c.dh, c.sx, c.sy, c.sw, c.sh, table.data(), x, w, 0);
-        }
-}
