@@ -1,131 +1,138 @@
 #include <gtest/gtest.h>
 
-#include <array>
-#include <functional>
+#include <set>
 
-#include "support/images.hpp"
+#include "support/unscaled.hpp"
 
 namespace tessaro::test {
 namespace {
 
 constexpr uint32_t key = 0x00FF00FF;
 
-// A literal model on a plain grid, pass by pass and pair by pair.
-struct Grid {
-  int32_t w, h;
-  std::vector<uint32_t> p;
-  explicit Grid(Image& image) : w(image.width()), h(image.height()) {
-    for (int32_t y = 0; y < h; ++y)
-      for (int32_t x = 0; x < w; ++x) p.push_back(image.get(x, y));
-  }
-  uint32_t& at(int32_t x, int32_t y) { return p[static_cast<size_t>(y * w + x)]; }
-  bool inside(int32_t x, int32_t y) const { return x >= 0 && y >= 0 && x < w && y < h; }
+// A literal model, pass by pass and pair by pair.
+struct Model {
+  Image& p;
+  const int32_t w = p.width(), h = p.height();
 
-  void outlines(int op, uint32_t color, uint32_t inner, uint32_t outer) {
-    Grid old = *this;
-    for (int32_t y = 0; y < h; ++y)
-      for (int32_t x = 0; x < w; ++x) {
-        const bool p_key = old.at(x, y) == key;
-        if (op == 2 && !p_key) at(x, y) = color;
-        for (const auto& [nx, ny] : {std::pair{x - 1, y}, std::pair{x, y - 1}}) {
-          if (!inside(nx, ny) || (old.at(nx, ny) == key) == p_key) continue;
-          uint32_t& outer_pixel = p_key ? at(x, y) : at(nx, ny);
-          uint32_t& inner_pixel = p_key ? at(nx, ny) : at(x, y);
-          if (op == 3) outer_pixel = color;
-          if (op == 4) inner_pixel = color;
-          if (op == 2) outer_pixel = outer, inner_pixel = inner;
-        }
+  bool inside(int32_t x, int32_t y) const { return x >= 0 && y >= 0 && x < w && y < h; }
+  template <class Visit>
+  void each(Visit visit, int32_t step = 1, int32_t left = 0, int32_t top = 0) {
+    for (int32_t y = top; y < h; y += step)
+      for (int32_t x = left; x < w; x += step) visit(x, y);
+  }
+  template <class Visit>
+  void four_phases(Visit visit) {
+    for (int32_t phase = 0; phase < 4; ++phase) each(visit, 2, phase % 2, phase / 2);
+  }
+
+  void outlines(uint32_t op, uint32_t color, uint32_t inner, uint32_t outer) {
+    Image old = p;
+    each([&](int32_t x, int32_t y) {
+      const bool p_key = old.get(x, y) == key;
+      if (op == 2 && !p_key) p.set(x, y, color);
+      for (const auto& [nx, ny] : {std::pair{x - 1, y}, std::pair{x, y - 1}}) {
+        if (!inside(nx, ny) || (old.get(nx, ny) == key) == p_key) continue;
+        if (op != 4) p.set(p_key ? x : nx, p_key ? y : ny, op == 2 ? outer : color);
+        if (op != 3) p.set(p_key ? nx : x, p_key ? ny : y, op == 2 ? inner : color);
       }
+    });
   }
 
   int32_t small_regions(uint32_t color, int32_t limit) {
-    std::vector<char> seen(p.size());
-    Grid old = *this;
+    std::set<std::pair<int32_t, int32_t>> seen;
+    Image old = p;
     int32_t painted = 0;
-    for (int32_t y = 0; y < h; ++y)
-      for (int32_t x = 0; x < w; ++x) {
-        std::vector<std::pair<int32_t, int32_t>> region;
-        const std::function<void(int32_t, int32_t)> grow = [&](int32_t a, int32_t b) {
-          if (!inside(a, b) || old.at(a, b) != key || seen[static_cast<size_t>(b * w + a)]++) return;
-          region.emplace_back(a, b);
-          grow(a - 1, b), grow(a + 1, b), grow(a, b - 1), grow(a, b + 1);
-        };
-        grow(x, y);
-        if (region.empty() || static_cast<int32_t>(region.size()) > limit) continue;
-        ++painted;
-        for (const auto& [a, b] : region) at(a, b) = color;
-      }
+    each([&](int32_t x, int32_t y) {
+      std::vector<std::pair<int32_t, int32_t>> region;
+      const std::function<void(int32_t, int32_t)> grow = [&](int32_t a, int32_t b) {
+        if (!inside(a, b) || old.get(a, b) != key || !seen.emplace(a, b).second) return;
+        region.emplace_back(a, b);
+        grow(a - 1, b), grow(a + 1, b), grow(a, b - 1), grow(a, b + 1);
+      };
+      grow(x, y);
+      if (region.empty() || static_cast<int32_t>(region.size()) > limit) return;
+      ++painted;
+      for (const auto& [a, b] : region) p.set(a, b, color);
+    });
     return painted;
   }
 
-  template <class Visit>
-  void four_phases(Visit visit) {
-    for (int32_t row = 0; row < 2; ++row)
-      for (int32_t column = 0; column < 2; ++column)
-        for (int32_t y = row; y < h; y += 2)
-          for (int32_t x = column; x < w; x += 2) visit(x, y);
-  }
-
   template <class Valid>
-  bool majority(int32_t x, int32_t y, Valid valid) {
-    const std::pair<int32_t, int32_t> at_[] = {{x - 1, y}, {x + 1, y}, {x, y - 1}, {x, y + 1}};
-    int count[4] = {};
-    uint32_t colour[4] = {};
-    for (int i = 0; i < 4; ++i)
-      if (inside(at_[i].first, at_[i].second)) {
-        colour[i] = at(at_[i].first, at_[i].second);
-        count[i] = valid(at_[i].first, at_[i].second);
-      }
+  bool fill(int32_t x, int32_t y, bool by_average, Valid valid) {
+    const std::pair<int32_t, int32_t> around[] = {{x - 1, y}, {x + 1, y}, {x, y - 1}, {x, y + 1}};
+    uint32_t count[4] = {}, colour[4] = {}, n = 0;
+    for (int i = 0; i < 4; ++i) {
+      const auto& [a, b] = around[i];
+      if (!inside(a, b) || !valid(a, b)) continue;
+      colour[i] = p.get(a, b);
+      n += count[i] = 1;
+    }
+    if (n == 0) return false;
+    if (by_average) {
+      constexpr uint32_t multiplier[] = {0, 256, 128, 85, 64}, bias[] = {0, 0, 0, 3, 2};
+      p.set(x, y, per_channel([&](int at) {
+              uint32_t sum = bias[n];
+              for (int i = 0; i < 4; ++i) sum += count[i] * channel(colour[i], at);
+              return sum * multiplier[n] >> 8;
+            }));
+      return true;
+    }
     for (const auto& [a, b] : {std::pair{0, 1}, {0, 2}, {0, 3}, {1, 2}, {1, 3}, {2, 3}})
       if (colour[a] == colour[b] && count[a] && count[b]) count[a] += count[b];
     int best = 0;
     for (int i = 1; i < 4; ++i)
       if (count[i] > count[best]) best = i;
-    if (count[best]) at(x, y) = colour[best];
-    return count[best] != 0;
+    p.set(x, y, colour[best]);
+    return true;
   }
 
   int32_t fill_key(uint32_t excluded, bool by_average) {
     int32_t unfilled = 0;
     four_phases([&](int32_t x, int32_t y) {
-      if (at(x, y) != key) return;
-      const auto valid = [&](int32_t a, int32_t b) { return at(a, b) != key && at(a, b) != excluded; };
-      if (!by_average) {
-        unfilled += !majority(x, y, valid);
-        return;
-      }
-      uint32_t n = 0, sums[4] = {};
-      for (const auto& [a, b] : {std::pair{x - 1, y}, {x + 1, y}, {x, y - 1}, {x, y + 1}})
-        if (inside(a, b) && valid(a, b)) {
-          ++n;
-          for (int c = 0; c < 4; ++c) sums[c] += at(a, b) >> (8 * c) & 255;
-        }
-      constexpr std::array<std::array<uint32_t, 2>, 5> reciprocal{
-          {{0, 0}, {256, 0}, {128, 0}, {85, 3}, {64, 2}}};
-      uint32_t mean = 0;
-      for (int c = 0; c < 4; ++c) mean |= ((sums[c] + reciprocal[n][1]) * reciprocal[n][0] >> 8) << (8 * c);
-      n ? void(at(x, y) = mean) : void(++unfilled);
+      if (p.get(x, y) == key)
+        unfilled += !fill(x, y, by_average, [&](int32_t a, int32_t b) {
+          return p.get(a, b) != key && p.get(a, b) != excluded;
+        });
     });
     return unfilled;
   }
 
   int32_t fill_grey(uint32_t lowest, uint32_t highest) {
-    std::vector<char> mark(p.size());
-    const auto marked = [&](int32_t x, int32_t y) -> char& { return mark[static_cast<size_t>(y * w + x)]; };
-    for (int32_t y = 0; y < h; ++y)
-      for (int32_t x = 0; x < w; ++x) marked(x, y) = (at(x, y) & 0xFFFFFF) == (at(x, y) & 255) * 0x010101;
+    std::set<std::pair<int32_t, int32_t>> marked;
+    each([&](int32_t x, int32_t y) {
+      if ((p.get(x, y) & 0xFFFFFF) == (p.get(x, y) & 255) * 0x010101) marked.emplace(x, y);
+    });
     for (int32_t before = -1;;) {
       int32_t unfilled = 0;
       four_phases([&](int32_t x, int32_t y) {
-        if (!marked(x, y) || (at(x, y) & 255) < lowest || (at(x, y) & 255) > highest) return;
-        if (majority(x, y, [&](int32_t a, int32_t b) { return !marked(a, b); }))
-          marked(x, y) = 0;
+        const uint32_t blue = p.get(x, y) & 255;
+        if (!marked.count({x, y}) || blue < lowest || blue > highest) return;
+        if (fill(x, y, false, [&](int32_t a, int32_t b) { return !marked.count({a, b}); }))
+          marked.erase({x, y});
         else
           ++unfilled;
       });
       if (unfilled == 0 || unfilled == before) return unfilled;
       before = unfilled;
     }
+  }
+
+  int32_t run(uint32_t op, uint32_t color, uint32_t other, uint32_t x, uint32_t y) {
+    if (op >= 2 && op <= 4) outlines(op, color, x, y);
+    if (op == 5) return small_regions(color, static_cast<int32_t>(x));
+    if (op == 6 || op == 9) return fill_key(color, op == 9);
+    if (op == 7) return fill_grey(color & 255, other & 255);
+    int32_t painted = 0;
+    each([&](int32_t a, int32_t b) {
+      const uint32_t c = p.get(a, b);
+      const bool grey = channel(c, 16) == channel(c, 0) && channel(c, 8) == channel(c, 0);
+      if ((op == 0 && c == other) || (op == 1 && c != other) || (op == 8 && !grey) ||
+          (op == 10 && (c & x) == other)) {
+        p.set(a, b, color);
+        ++painted;
+      }
+    });
+    return op == 8 ? painted : 0;
   }
 };
 
@@ -139,44 +146,20 @@ TEST(PaintChoose, EqualsTheModel) {
       for (int32_t x = 0; x < image.width(); ++x)
         image.set(x, y,
                   colours[random.between(0, variety - 1) * (trial % 7 == 0 ? random.between(0, 1) : 1)]);
-    Grid model(image);
-    const uint32_t color = colours[random.between(2, 7)], op = static_cast<uint32_t>(trial % 12);
-    const int32_t limit = random.between(-1, 9);
-    int32_t want = 0, got = 0;
-    switch (op) {
-      case 2:
-      case 3:
-      case 4:
-        model.outlines(static_cast<int>(op), color, 0x11111111, 0x22222222);
-        got = BBIPaintChoose(image, op, color, key, 0x11111111, 0x22222222);
-        break;
-      case 5:
-        want = model.small_regions(color, limit);
-        got = BBIPaintChoose(image, op, color, key, static_cast<uint32_t>(limit), 0);
-        break;
-      case 6:
-      case 9:
-        want = model.fill_key(color, op == 9);
-        got = BBIPaintChoose(image, op, color, key, 0, 0);
-        break;
-      case 7:
-        want = model.fill_grey(0x10, 0x80);
-        got = BBIPaintChoose(image, op, 0xAAAAAA10, 0xBBBBBB80, 0, 0);
-        break;
-      default:
-        for (uint32_t& c : model.p) {
-          const bool grey = (c >> 16 & 255) == (c & 255) && (c >> 8 & 255) == (c & 255);
-          want += op == 8 && !grey;
-          if (op == 0   ? c == key
-              : op == 1 ? c != key
-              : op == 8 ? !grey
-                        : op == 10 && (c & 0xFFFFFFF0) == 0xFF0000F0)
-            c = color;
-        }
-        got = BBIPaintChoose(image, op, color, op == 10 ? 0xFF0000F0 : key, 0xFFFFFFF0, 0);
-    }
-    ASSERT_EQ(got, want) << "op " << op;
-    ASSERT_EQ(Grid(image).p, model.p) << "op " << op << " limit " << limit << '\n' << image;
+    Image want = image;
+    const auto op = static_cast<uint32_t>(trial % 12);
+    const auto limit = static_cast<uint32_t>(random.between(-1, 9));
+    const uint32_t color = op == 7 ? 0xAAAAAA10 : colours[random.between(2, 7)],
+                   other = op == 7    ? 0xBBBBBB80
+                           : op == 10 ? 0xFF0000F0
+                                      : key,
+                   x = op == 5    ? limit
+                       : op == 10 ? 0xFFFFFFF0
+                                  : 0x11111111;
+    ASSERT_EQ(BBIPaintChoose(image, op, color, other, x, 0x22222222),
+              Model{want}.run(op, color, other, x, 0x22222222))
+        << "op " << op;
+    ASSERT_EQ(image, want) << "op " << op << " limit " << limit;
   }
 }
 
