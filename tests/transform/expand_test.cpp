@@ -167,11 +167,7 @@ void compare(uint32_t seed, int rounds, int32_t widest, const Call& call, const 
       const int32_t status = model(want, one ? want : src, c, a);
       ASSERT_EQ(call(dst, one ? dst : src, c, a), status) << "round " << round << ": " << c;
       ASSERT_TRUE(dst == want) << name_of(backend) << ", round " << round << ", one image " << one << ": "
-                               << c << ", opacity " << a.opacity << ", saturation " << a.saturation
-                               << std::hex << ", levels " << a.low << ' ' << a.high << ", keep " << a.keep
-                               << ", mask " << a.mask << ", color " << a.color << ", invert " << a.invert
-                               << ", by alpha " << a.by_alpha << ", adds " << a.add_color << a.add_alpha
-                               << ", base " << a.source_is_base << std::dec << dst << want;
+                               << c << dst << want;
     }
   }
 }

@@ -1,10 +1,6 @@
-#include <gtest/gtest.h>
-
 #include <cmath>
-#include <functional>
-#include <limits>
 
-#include "support/images.hpp"
+#include "support/unscaled.hpp"
 
 namespace tessaro::test {
 namespace {
@@ -56,68 +52,68 @@ TEST(CutDown, EqualsTheFormulaForEveryByteAndThreshold) {
   for (const Row& row : rows) EXPECT_EQ(row.run(empty), 1);
 }
 
-uint32_t byte_of(uint32_t pixel, int selector) {
-  return pixel >> (selector == 3 ? 24 : 16 - 8 * selector) & 255;
+auto weighted(double red, double green, double blue) {
+  return [=](uint32_t r, uint32_t g, uint32_t b) {
+    const double v = g * green + b * blue + r * red;
+    return v > -2147483649.0 && v < 2147483648.0 ? static_cast<uint32_t>(static_cast<int32_t>(v)) & 255 : 0;
+  };
 }
 
-using Brightness = std::function<uint32_t(uint32_t r, uint32_t g, uint32_t b)>;
-
-uint32_t chosen(uint32_t d, uint32_t s, int32_t colour_from, int32_t alpha_from,
-                const Brightness& brightness) {
-  const uint32_t c = colour_from & 2 ? d : s, a = alpha_from & 2 ? d : s;
-  const uint32_t colour = colour_from & 1 ? (c >> 24) * 0x010101 : c & 0xFFFFFF;
-  const uint32_t alpha = alpha_from & 1 ? a >> 24 : brightness(a >> 16 & 255, a >> 8 & 255, a & 255);
-  return colour | alpha << 24;
-}
-
-uint32_t low_byte(double v) {
-  return v > -2147483649.0 && v < 2147483648.0 ? static_cast<uint32_t>(static_cast<int32_t>(v)) & 255 : 0;
+std::vector<UnscaledRow> choose_rows() {
+  std::vector<UnscaledRow> all;
+  for (int32_t from = 0; from < 16; ++from) {
+    const int32_t colour = from & 3, alpha = from >> 2;
+    const auto rule = [=](auto brightness) {
+      return [=](uint32_t d, uint32_t s) {
+        const uint32_t c = colour & 2 ? d : s, a = alpha & 2 ? d : s;
+        return (colour & 1 ? (c >> 24) * 0x010101 : c & 0xFFFFFF) |
+               (alpha & 1 ? a >> 24 : brightness(channel(a, 16), channel(a, 8), channel(a, 0))) << 24;
+      };
+    };
+    all.push_back({"BBIChooseCA", [=](auto* d, auto* s, auto&) { return BBIChooseCA(d, s, colour, alpha); },
+                   rule([](uint32_t r, uint32_t g, uint32_t b) { return (r + g + b) / 3; })});
+    all.push_back({"BBIChooseCATR",
+                   [=](auto* d, auto* s, auto&) { return BBIChooseCATR(d, s, colour, alpha); },
+                   rule(weighted(0.2125, 0.7154, 0.0721))});
+    const float weights[][3] = {{0.3f, 0.59f, 0.11f}, {1, 1, 1},     {-2, 0.5f, 1e9f},
+                                {NAN, 1, 1},          {1e30f, 0, 0}, {0.5f, 0.25f, 0.25f}};
+    for (const auto& w : weights)
+      all.push_back({"BBIChooseCATS",
+                     [=, r = w[0], g = w[1], b = w[2]](auto* d, auto* s, auto&) {
+                       return BBIChooseCATS(d, s, colour, alpha, r, g, b);
+                     },
+                     rule(weighted(w[0], w[1], w[2]))});
+  }
+  for (int32_t from = 0; from < 64; ++from) {
+    const int32_t red = from & 7, green = from >> 3, blue = (from * 5 + green) & 7,
+                  alpha = (from * 3 + 1) & 7;
+    const auto routed = [](int32_t selector, uint32_t d, uint32_t s) {
+      return channel(selector & 4 ? d : s, (selector & 3) == 3 ? 24 : 16 - 8 * (selector & 3));
+    };
+    all.push_back({"BBIChooseRGBA",
+                   [=](auto* d, auto* s, auto&) { return BBIChooseRGBA(d, s, red, green, blue, alpha); },
+                   [=](uint32_t d, uint32_t s) {
+                     return routed(red, d, s) << 16 | routed(green, d, s) << 8 | routed(blue, d, s) |
+                            routed(alpha, d, s) << 24;
+                   }});
+  }
+  return all;
 }
 
 TEST(Choose, EqualsTheModelForEverySelector) {
-  Random random(5);
-  const float nan = std::numeric_limits<float>::quiet_NaN();
-  const float weights[][3] = {{0.3f, 0.59f, 0.11f}, {1, 1, 1},     {-2, 0.5f, 1e9f},
-                              {nan, 1, 1},          {1e30f, 0, 0}, {0.5f, 0.25f, 0.25f}};
   for (const Backend backend : supported_backends()) {
-    Forced forced(backend);
-    for (int trial = 0; trial < 200; ++trial) {
-      const int32_t w = random.between(1, 150), h = random.between(1, 4);
-      Image d(w + 1, h + 1), s(w, h, -4 * (w + 2), 1);
-      d.randomize(random.word());
-      s.randomize(random.word());
-      const bool same = trial % 3 == 1;
-      const int32_t colour_from = trial & 3, alpha_from = trial >> 2 & 3;
-      const int32_t from[] = {random.between(0, 7), random.between(0, 7), random.between(0, 7),
-                              random.between(0, 7)};
-      const float* weight = weights[static_cast<size_t>(trial) % std::size(weights)];
-      const auto weighted = [](double red, double green, double blue) {
-        return [=](uint32_t r, uint32_t g, uint32_t b) { return low_byte(g * green + b * blue + r * red); };
-      };
-      const auto mean = [](uint32_t r, uint32_t g, uint32_t b) { return (r + g + b) / 3; };
-      ImageRecord *dst = d, *src = same ? static_cast<ImageRecord*>(d) : s;
-      for (int export_ = 0; export_ < 4; ++export_) {
-        Image model = d;
-        for (int32_t y = 0; y < (same ? h + 1 : h); ++y)
-          for (int32_t x = 0; x < (same ? w + 1 : w); ++x) {
-            const uint32_t a = d.get(x, y), b = same ? a : s.get(x, y);
-            const auto routed = [&](int i) { return byte_of(from[i] & 4 ? a : b, from[i] & 3); };
-            const Brightness brightness = export_ == 0   ? Brightness(mean)
-                                          : export_ == 1 ? weighted(0.2125, 0.7154, 0.0721)
-                                                         : weighted(weight[0], weight[1], weight[2]);
-            model.set(x, y,
-                      export_ < 3 ? chosen(a, b, colour_from, alpha_from, brightness)
-                                  : routed(0) << 16 | routed(1) << 8 | routed(2) | routed(3) << 24);
-          }
-        ASSERT_EQ(export_ == 0   ? BBIChooseCA(dst, src, colour_from, alpha_from)
-                  : export_ == 1 ? BBIChooseCATR(dst, src, colour_from, alpha_from)
-                  : export_ == 2
-                      ? BBIChooseCATS(dst, src, colour_from, alpha_from, weight[0], weight[1], weight[2])
-                      : BBIChooseRGBA(dst, src, from[0], from[1], from[2], from[3]),
-                  0);
-        ASSERT_EQ(d, model) << name_of(backend) << " export " << export_ << " width " << w;
+    const Forced forced(backend);
+    Random random(5);
+    for (const UnscaledRow& row : choose_rows())
+      for (const bool same : {false, true}) {
+        const int32_t w = random.between(1, 150), h = random.between(1, 4);
+        Image d(w + 1, h + 1), s(w, h, -4 * (w + 2), 1);
+        d.randomize(random.word());
+        s.randomize(random.word());
+        Image& from = same ? d : s;
+        compare(row, d, from, {0, 0, from.width(), from.height(), 0, 0});
+        if (HasFatalFailure()) return;
       }
-    }
   }
   Image d(0, 4), s(4, 4);
   EXPECT_EQ(BBIChooseCA(d, s, 0, 0), 1);
