@@ -9,8 +9,7 @@ using namespace tessaro::test;
 unsigned kept_mask(unsigned level) { return level <= 8 ? 0xFF00u >> level & 0xFF : 0xFFu >> (level - 8); }
 
 Encoded model(const Bytes& data) {
-  const size_t limit = data.size() - 64;
-  BitString out;
+  BitString out{data.size() - 64};
   unsigned before_level = 0, before_distance = 0, before_mask = 0;
   uint8_t window[16] = {};
   for (size_t at = 0; at < data.size(); at += 8) {
@@ -40,16 +39,16 @@ Encoded model(const Bytes& data) {
         out.put(window[8 + j], 8 - level);
       else
         out.put(static_cast<unsigned>(window[8 + j] >> (16 - level)), level - 8);
-    if (out.bytes() >= limit) return out.result(limit, false);
+    if (out.full()) return out.ended();
   }
-  return out.result(limit, true);
+  return out.flushed();
 }
 
 TEST(Inda, FindsTheBestReferences) {
   for (const Backend backend : supported_backends()) {
     const Forced forced(backend);
     SCOPED_TRACE(name_of(backend));
-    expect_same_streams(indaEncoder, model, 65);
+    expect_same_streams({indaEncoder, model, indaDecoder, indaDecoderSafe, 65});
   }
   // Once the parameters stand, eight bytes that repeat cost three bits.
   EXPECT_EQ(encode(indaEncoder, make_data(8, 65 * 8)).stream.size(),
@@ -77,7 +76,7 @@ TEST(Inda, DecodesAllParameters) {
         out.push_back(static_cast<uint8_t>((out[out.size() - 8 + distance] & kept) | any));
       }
     }
-    const Bytes expected(out.begin() + 8, out.end()), bytes = stream.result(0, true).stream;
+    const Bytes expected(out.begin() + 8, out.end()), bytes = stream.flushed().stream;
     ASSERT_EQ(decode(indaDecoder, bytes, 48), expected);
     ASSERT_EQ(decode(indaDecoderSafe, bytes, 48), expected);
   }

@@ -81,17 +81,6 @@ TEST_P(Transforms, EqualOneSampleAfterAnother) {
   }
 }
 
-TEST_P(Transforms, RestoreWhatTheyCode) {
-  const Row& row = GetParam();
-  for (int kind = 0; kind < kinds_of_data; ++kind)
-    for (size_t length : {65u, 1000u, 4099u}) {
-      Bytes data = make_data(kind, length);
-      const Bytes coded = encode(row.encoder, data).stream;
-      data.resize(coded.size());
-      EXPECT_TRUE(decode(row.decoder, coded, data.size()) == data);
-    }
-}
-
 TEST(TransformsByHand, Differences) {
   EXPECT_EQ(encode(iwave11Encoder, {128, 129, 127}), (Encoded{0, {0, 2, 3}}));
   EXPECT_EQ(encode(iwave11Encoder, {0}), (Encoded{0, {255}}));
