@@ -68,12 +68,13 @@ std::vector<UnscaledRow> rows() {
   constexpr uint32_t colour = 0xC0FFEE42;
   for (const auto& [mask, flip] :
        {std::pair{0u, 0u}, {0u, 0x12345678u}, {0xFFFFFFFFu, 0x12345678u}, {0xFF0F3355u, 0x77u}})
-    all.push_back({"Color",
-                   [mask, flip](auto* d, auto*, const Unscaled& c) {
-                     return BBIBltColor(d, c.dx, c.dy, c.w, c.h, mask, flip, colour);
-                   },
-                   [mask, flip](uint32_t d, uint32_t) { return ((d ^ flip) & mask) | (colour & ~mask); },
-                   true});
+    all.push_back(
+        {"Color",
+         [mask = mask, flip = flip](auto* d, auto*, const Unscaled& c) {
+           return BBIBltColor(d, c.dx, c.dy, c.w, c.h, mask, flip, colour);
+         },
+         [mask = mask, flip = flip](uint32_t d, uint32_t) { return ((d ^ flip) & mask) | (colour & ~mask); },
+         true});
   for (const float factor : {0.0f, 0.003f, 0.5f, 0.999f, 1.0f, INFINITY})
     all.push_back({"ColorBlend",
                    [factor](auto* d, auto*, const Unscaled& c) {
