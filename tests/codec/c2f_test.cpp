@@ -104,7 +104,7 @@ TEST(C2f, DecoderTakesWhatNoEncoderWrites) {
 TEST(C2f, RoundTrips) {
   Random random(6);
   for (int kind = 0; kind < 16; ++kind)
-    for (size_t length : {1, 31, 32, 33, 63, 64, 65, 4096, 4099, 40007}) {
+    for (size_t length : {1u, 31u, 32u, 33u, 63u, 64u, 65u, 4096u, 4099u, 40007u}) {
       Bytes source(length);
       // Byte k of a pixel changes in some blocks when bit k of the kind is set.
       for (size_t i = 0; i < length; ++i)
@@ -127,7 +127,7 @@ TEST(C2f, DamagedStreamsStayInside) {
     EXPECT_EQ(decode(Bytes(stream.begin(), stream.begin() + static_cast<ptrdiff_t>(size)), out),
               size < stream.size());
   }
-  for (size_t room : {0, 1, 31, 32, 100, 5951}) {
+  for (size_t room : {0u, 1u, 31u, 32u, 100u, 5951u}) {
     Bytes out(room);
     EXPECT_EQ(decode(stream, out), 1);
   }
