@@ -143,7 +143,9 @@ TEST(Windows, HooksNumberAtMost256) {
 
 // The program holds the library itself, so a copy under another name is loaded and freed.
 TEST(Windows, FreeingTheLibraryTakesItsHooksOff) {
-  ASSERT_TRUE(CopyFileA("tessaro.dll", "tessaro_copy.dll", FALSE));
+  char original[MAX_PATH];
+  ASSERT_NE(GetModuleFileNameA(GetModuleHandleA("tessaro.dll"), original, MAX_PATH), 0u);
+  ASSERT_TRUE(CopyFileA(original, "tessaro_copy.dll", FALSE));
   const auto hook = reinterpret_cast<TessaroHook>(hook_stdcall);
   HWND one = make_window(), two = make_window(other);
   for (bool both : {false, true}) {

@@ -168,7 +168,7 @@ TEST(Levels, StretchBetweenMeasuredBounds) {
     const Low_high b = bounds(levels[0], threshold), g = bounds(levels[1], threshold),
                    r = bounds(levels[2], threshold), whole = bounds(all, threshold);
     struct {
-      int32_t (*run)(ImageRecord*, int32_t);
+      int32_t(TESSARO_CALL* run)(ImageRecord*, int32_t);
       int low[3], high[3];
     } const expected[] = {
         {BBIAutoLevelRGB, {r[0], g[0], b[0]}, {r[1], g[1], b[1]}},
