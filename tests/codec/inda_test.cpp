@@ -45,9 +45,7 @@ Encoded model(const Bytes& data) {
 }
 
 TEST(Inda, FindsTheBestReferences) {
-  for (const Backend backend : supported_backends()) {
-    const Forced forced(backend);
-    SCOPED_TRACE(name_of(backend));
+  for (const Forced backend : supported_backends()) {
     check_codec({indaEncoder, model, indaDecoder, indaDecoderSafe, 65});
   }
   // Once the parameters stand, eight bytes that repeat cost three bits.

@@ -74,8 +74,7 @@ int32_t naive_map(const Map& m, Image& dst, Image& src, Image& map, Rect r) {
 }
 
 TEST(Maps, EqualTheirFormulas) {
-  for (const Backend backend : supported_backends()) {
-    const Forced forced(backend);
+  for (const Forced backend : supported_backends())
     for (uint32_t seed = 0; seed < 200; ++seed) {
       Random random(seed);
       const int32_t heights[] = {1, 2, 37, 256, 300};
@@ -91,15 +90,13 @@ TEST(Maps, EqualTheirFormulas) {
         Image want = dst, got = dst;
         ASSERT_EQ(m.call(got, src, map, r.dx, r.dy, r.w, r.h, r.sx, r.sy), naive_map(m, want, src, map, r))
             << m.name << " seed " << seed;
-        ASSERT_EQ(got, want) << m.name << " seed " << seed << ' ' << name_of(backend);
+        ASSERT_EQ(got, want) << m.name << " seed " << seed;
       }
     }
-  }
 }
 
 TEST(Maps, GoOnePixelAfterAnotherInSharedMemory) {
-  for (const Backend backend : supported_backends()) {
-    const Forced forced(backend);
+  for (const Forced backend : supported_backends())
     for (uint32_t seed = 0; seed < 120; ++seed) {
       Random random(seed);
       Image image = some_image(random, 300, 6), map(256, seed % 3 ? 256 : 5);
@@ -111,13 +108,12 @@ TEST(Maps, GoOnePixelAfterAnotherInSharedMemory) {
         Image want = image, got = image;
         naive_map(m, want, want, map, r);
         m.call(got, got, map, r.dx, r.dy, r.w, r.h, r.sx, r.sy);
-        ASSERT_EQ(got, want) << m.name << " seed " << seed << ' ' << name_of(backend);
+        ASSERT_EQ(got, want) << m.name << " seed " << seed;
         naive_map(m, want, want, want, r);  // the map, too
         m.call(got, got, got, r.dx, r.dy, r.w, r.h, r.sx, r.sy);
-        ASSERT_EQ(got, want) << m.name << " over its map, seed " << seed << ' ' << name_of(backend);
+        ASSERT_EQ(got, want) << m.name << " over its map, seed " << seed;
       }
     }
-  }
 }
 
 uint32_t transition(uint32_t o, uint32_t i, uint32_t alpha, float progress, float softness) {
@@ -154,8 +150,7 @@ const float progresses[] = {0, 1, 0.5f, 0.25f, 0.7f, -1, 2, nan_value, 1e-9f, 0.
 const float softnesses[] = {0, 0.5f, 1, 0.01f, 1e-9f, 3, 999, 1000, 1e30f, -5, nan_value};
 
 TEST(Stencils, EqualTheirFormulas) {
-  for (const Backend backend : supported_backends()) {
-    const Forced forced(backend);
+  for (const Forced backend : supported_backends())
     for (uint32_t seed = 0; seed < 330; ++seed) {
       Random random(seed);
       const auto image = [&] { return some_image(random, random.between(1, 75), random.between(1, 9)); };
@@ -171,8 +166,7 @@ TEST(Stencils, EqualTheirFormulas) {
         Image want = dst, got = dst;
         if (!nothing) naive_flip(kind, want, a, b, stencil, c, p, s);
         ASSERT_EQ(flip(kind, got, a, b, stencil, r, p, s, seed & 1), nothing) << seed;
-        ASSERT_EQ(got, want) << "seed " << seed << " kind " << static_cast<int>(kind) << ' '
-                             << name_of(backend);
+        ASSERT_EQ(got, want) << "seed " << seed << " kind " << static_cast<int>(kind);
         // In one image: the destination a few pixels from the pictures.
         Image shared = some_image(random, 90, 8);
         const Rect near{random.between(0, 20), random.between(0, 2), 70, 6,
@@ -182,11 +176,9 @@ TEST(Stencils, EqualTheirFormulas) {
         const bool in_front = seed & 2;
         naive_flip(kind, want, in_front ? want : other, in_front ? other : want, want, near, p, s);
         flip(kind, got, in_front ? got : other, in_front ? other : got, got, near, p, s, 1);
-        ASSERT_EQ(got, want) << "seed " << seed << " kind " << static_cast<int>(kind) << ' '
-                             << name_of(backend);
+        ASSERT_EQ(got, want) << "seed " << seed << " kind " << static_cast<int>(kind);
       }
     }
-  }
 }
 
 TEST(Stencils, AddSignedColoursForEveryByteAndAlpha) {
@@ -196,8 +188,7 @@ TEST(Stencils, AddSignedColoursForEveryByteAndAlpha) {
       stencil.set(x, y, static_cast<uint32_t>(y) << 24 | 0x123456);
       before.set(x, y, static_cast<uint32_t>(x) * 0x01010101u);
     }
-  for (const Backend backend : supported_backends()) {
-    const Forced forced(backend);
+  for (const Forced backend : supported_backends())
     for (const uint32_t color : {0x00808080u, 0xFF7F00FFu, 0x0001FE40u})
       for (const float opacity : {1.0f, 0.5f, 0.3f, -1.0f, 7.0f, nan_value}) {
         Image got = before;
@@ -216,7 +207,6 @@ TEST(Stencils, AddSignedColoursForEveryByteAndAlpha) {
           }
         }
       }
-  }
 }
 
 TEST(Mapping, StaysInsideWhateverTheRectangle) {

@@ -69,12 +69,10 @@ void check(const Row& row, const Bytes& memory, size_t dst, size_t src, int32_t 
     v = row.model(v);
     std::memcpy(model.data() + dst + i * row.dst_bytes, &v, row.dst_bytes);
   }
-  for (const Backend backend : supported_backends()) {
-    Forced forced(backend);
+  for (const Forced backend : supported_backends()) {
     Bytes got = memory;
     ASSERT_EQ(row.run(got.data() + dst, got.data() + src, count), 0);
-    ASSERT_EQ(got, model) << row.name << ' ' << name_of(backend) << " count " << count << " dst " << dst
-                          << " src " << src;
+    ASSERT_EQ(got, model) << row.name << ' ' << "count " << count << " dst " << dst << " src " << src;
   }
 }
 
@@ -184,8 +182,7 @@ TEST(Format, BlendsTwoRunsAndPacksBits) {
   Random random(5);
   Bytes memory(6000);
   for (auto& b : memory) b = random.byte();
-  for (const Backend backend : supported_backends()) {
-    Forced forced(backend);
+  for (const Forced backend : supported_backends())
     for (int32_t count = 0; count < 300; count += 1 + count / 20) {
       const auto n = static_cast<size_t>(count);
       for (const size_t dst : {size_t{0}, size_t{2496}, size_t{2503}, size_t{2000}, size_t{3990}}) {
@@ -197,7 +194,7 @@ TEST(Format, BlendsTwoRunsAndPacksBits) {
         }
         const auto word = [&](size_t place) { return reinterpret_cast<const uint32_t*>(got.data() + place); };
         ASSERT_EQ(BBIBltToXF(got.data() + dst, word(4001), word(2500), count, 565, 0.75f), 0);
-        ASSERT_EQ(got, model) << name_of(backend) << ' ' << count << " at " << dst;
+        ASSERT_EQ(got, model) << count << " at " << dst;
 
         model = got = memory;
         for (size_t i = 0; i < n; i += 8) {
@@ -207,10 +204,9 @@ TEST(Format, BlendsTwoRunsAndPacksBits) {
           model[dst + i / 8] = bits;
         }
         ASSERT_EQ(BBIBltTo1(got.data() + dst, word(2500), count), 0);
-        ASSERT_EQ(got, model) << name_of(backend) << ' ' << count << " at " << dst;
+        ASSERT_EQ(got, model) << count << " at " << dst;
       }
     }
-  }
 }
 
 TEST(Format, FillsImagesFromBottomUpBuffers) {
@@ -219,8 +215,7 @@ TEST(Format, FillsImagesFromBottomUpBuffers) {
   for (auto& b : bits) b = random.byte();
   uint32_t palette[256];
   for (auto& p : palette) p = random.pixel();
-  for (const Backend backend : supported_backends()) {
-    Forced forced(backend);
+  for (const Forced backend : supported_backends())
     for (int32_t width = 0; width < 70; width += 1 + width / 10)
       for (const int32_t stride : {280, 0, -283}) {
         Image images[4] = {
@@ -240,10 +235,8 @@ TEST(Format, FillsImagesFromBottomUpBuffers) {
         ASSERT_EQ(BBIBltTo32from8(images[1], start, palette, stride), 0);
         ASSERT_EQ(BBIBltTo32from24(images[2], start, stride), 0);
         ASSERT_EQ(BBIBltTo32from32(images[3], start, stride), 0);
-        for (int i = 0; i < 4; ++i)
-          ASSERT_EQ(images[i], models[i]) << name_of(backend) << ' ' << width << ' ' << i;
+        for (int i = 0; i < 4; ++i) ASSERT_EQ(images[i], models[i]) << width << ' ' << i;
       }
-  }
 }
 
 TEST(Format, RefusesUnknownFormatsAndEmptyRuns) {

@@ -36,16 +36,14 @@ TEST(Compare, FailsAtTheOneWrongPixel) {
   const uint32_t pass[8][2] = {
       {0x12345678, 0x12345678}, {0x12345678, 0x99345678}, {0x12345678, 0x12FFFFFF}, {},
       {0x00345678, 0},          {0xFF345678, 0},          {0x12FFFFFF, 0},          {0x11232323, 0}};
-  for (const Backend backend : supported_backends()) {
-    Forced forced(backend);
+  for (const Forced backend : supported_backends()) {
     Random random(1);
     for (int32_t mode = 0; mode < 8; ++mode)
       for (int32_t w = 1; w < 150; w += 1 + w / 40) {
         Image a = any_image(random, w, 3), b = any_image(random, w, 3);
         a.fill(pass[mode][0]);
         b.fill(pass[mode][1]);
-        ASSERT_EQ(BBICompare(a, b, mode), mode == 3 ? 2 : 0)
-            << name_of(backend) << " mode " << mode << " width " << w;
+        ASSERT_EQ(BBICompare(a, b, mode), mode == 3 ? 2 : 0) << "mode " << mode << " width " << w;
         if (mode == 3) continue;
         for (int trial = 0; trial < 60; ++trial) {
           const int32_t x = random.between(0, w - 1), y = random.between(0, 2);
@@ -53,7 +51,7 @@ TEST(Compare, FailsAtTheOneWrongPixel) {
           Image& changed = trial % 2 ? a : b;
           changed.set(x, y, changed.get(x, y) ^ flip);
           ASSERT_EQ(BBICompare(a, b, mode), tests[mode](a.get(x, y), b.get(x, y)) ? 0 : 1)
-              << name_of(backend) << " mode " << mode << " width " << w << " flip " << flip;
+              << "mode " << mode << " width " << w << " flip " << flip;
           changed.set(x, y, changed.get(x, y) ^ flip);
         }
       }
@@ -70,8 +68,7 @@ TEST(Compare, FailsAtTheOneWrongPixel) {
 }
 
 TEST(Compare, CountsPixelsThatDifferALittle) {
-  for (const Backend backend : supported_backends()) {
-    Forced forced(backend);
+  for (const Forced backend : supported_backends()) {
     Random random(2);
     for (const int32_t w : {1, 3, 17, 70, 9000}) {
       Image a = w > 8000 ? Image(w, 1, 4) : any_image(random, w, 4), b = a;
@@ -88,7 +85,7 @@ TEST(Compare, CountsPixelsThatDifferALittle) {
             for (int c = 0; c < 4; ++c) near = near || std::abs(at(ma, c) - at(mb, c)) <= t;
             count += ma != mb && near;
           });
-          ASSERT_EQ(BBICompareAny(a, b, mask, tolerance), count) << name_of(backend) << ' ' << w;
+          ASSERT_EQ(BBICompareAny(a, b, mask, tolerance), count) << w;
         }
     }
   }
@@ -141,8 +138,7 @@ TEST(Colours, CountsAndCollects) {
 }
 
 TEST(Trim, FindsTheContent) {
-  for (const Backend backend : supported_backends()) {
-    Forced forced(backend);
+  for (const Forced backend : supported_backends()) {
     Random random(4);
     for (int trial = 0; trial < 400; ++trial) {
       Image image = any_image(random, random.between(1, 150), random.between(1, 9));
@@ -162,7 +158,7 @@ TEST(Trim, FindsTheContent) {
       ASSERT_EQ(image, before);
       if (x1 < 0) x0 = y0 = x1 = y1 = 0;
       ASSERT_EQ((std::vector<int32_t>{x0, y0, x1 - x0 + 1, y1 - y0 + 1}), std::vector<int32_t>(box, box + 4))
-          << name_of(backend) << image;
+          << image;
     }
   }
   int32_t box[4] = {9, 9, 9, 9};
@@ -211,8 +207,7 @@ TEST(Whole, EqualsTheModelInEveryShape) {
        }},
       {"KeyingFilter", BBIKeyingFilter, mean_of_neighbours},
   };
-  for (const Backend backend : supported_backends()) {
-    Forced forced(backend);
+  for (const Forced backend : supported_backends()) {
     Random random(5);
     for (const Row& row : rows)
       for (int32_t w = 0; w < 75; ++w) {
@@ -225,15 +220,14 @@ TEST(Whole, EqualsTheModelInEveryShape) {
         Image before = image, model = image;
         for_pixels(model, [&](int32_t x, int32_t y) { model.set(x, y, row.model(before, x, y)); });
         ASSERT_EQ(row.run(image), w == 0 || image.height() == 0 ? 1 : 0);
-        ASSERT_EQ(image, model) << row.name << ' ' << name_of(backend) << " width " << w;
+        ASSERT_EQ(image, model) << row.name << ' ' << "width " << w;
       }
   }
   EXPECT_EQ(BBIAntiAreas(INT32_MIN, 0, -1), 0);
 }
 
 TEST(Rotation, PutsEveryPixelInItsPlace) {
-  for (const Backend backend : supported_backends()) {
-    Forced forced(backend);
+  for (const Forced backend : supported_backends()) {
     Random random(6);
     for (int trial = 0; trial < 300; ++trial) {
       const int32_t w = random.between(1, trial % 3 ? 40 : 150), h = random.between(1, trial % 5 ? 40 : 150);
@@ -248,7 +242,7 @@ TEST(Rotation, PutsEveryPixelInItsPlace) {
         if (mode == 2) model.set(y, w - 1 - x, p);
       });
       ASSERT_EQ(BBIRotation(dst, src, mode), 0);
-      ASSERT_EQ(dst, model) << name_of(backend) << " mode " << mode << ' ' << w << " x " << h;
+      ASSERT_EQ(dst, model) << "mode " << mode << ' ' << w << " x " << h;
     }
   }
   Image dst(3, 2), src(2, 3), flat(5, 0), tall(0, 5), before = dst;
@@ -285,8 +279,7 @@ int32_t naive_paint(Image& image, int32_t x, int32_t y, uint32_t colour, int32_t
 
 TEST(Paint, FillsExactlyTheConnectedPixels) {
   const uint32_t values[] = {0, 0xFF000000, 0x00000001, 0xFF00FF00};
-  for (const Backend backend : supported_backends()) {
-    Forced forced(backend);
+  for (const Forced backend : supported_backends()) {
     Random random(7);
     for (int trial = 0; trial < 1500; ++trial) {
       Image image = any_image(random, random.between(1, trial % 4 ? 24 : 90), random.between(1, 24));
@@ -304,7 +297,7 @@ TEST(Paint, FillsExactlyTheConnectedPixels) {
       int32_t got[4] = {-5, -5, -5, -5}, box[4] = {-5, -5, -5, -5};
       const int32_t status = naive_paint(model, x, y, colour, box);
       ASSERT_EQ(BBIPaint(image, x, y, colour, got, got + 1, got + 2, got + 3), status);
-      ASSERT_EQ(image, model) << name_of(backend) << " from " << x << ", " << y;
+      ASSERT_EQ(image, model) << "from " << x << ", " << y;
       ASSERT_EQ(std::vector<int32_t>(got, got + 4), std::vector<int32_t>(box, box + 4));
     }
   }

@@ -99,23 +99,29 @@ class Image {
   std::vector<uint8_t> bytes_;
 };
 
-// Forces a back end for the life of the object.
+// Forces a back end, and names it in failures, for the life of the object.
 class Forced {
  public:
-  explicit Forced(Backend backend) : before_(active_backend) { active_backend = backend; }
-  ~Forced() { active_backend = before_; }
-  Forced(const Forced&) = delete;
-  Forced& operator=(const Forced&) = delete;
+  explicit Forced(Backend backend) : trace_("on the back end", 0, name_of(backend)) {
+    active_backend = backend;
+  }
+  ~Forced() { active_backend = best_backend(); }
 
  private:
-  Backend before_;
+  testing::ScopedTrace trace_;
 };
 
-inline std::vector<Backend> supported_backends() {
-  std::vector<Backend> all;
-  for (int i = 0; i <= static_cast<int>(best_backend()); ++i) all.push_back(static_cast<Backend>(i));
-  return all;
-}
+// Each of them in turn, while the body of the loop runs: for (const Forced backend : supported_backends()) ...
+struct supported_backends {
+  struct Step {
+    int level;
+    Forced operator*() const { return Forced(static_cast<Backend>(level)); }
+    void operator++() { ++level; }
+    bool operator==(const Step&) const = default;
+  };
+  Step begin() const { return {0}; }
+  Step end() const { return {static_cast<int>(best_backend()) + 1}; }
+};
 
 // 32-bit arguments at which sums and products turn over.
 inline constexpr int32_t extreme_values[] = {

@@ -52,15 +52,13 @@ inline void compare(const UnscaledRow& row, Image& dst, Image& src, const Unscal
       want.set(x, y, row.rule(want.get(x, y), s));
     }
   ASSERT_EQ(row.run(dst, src, c), status) << row.name;
-  ASSERT_EQ(dst, want) << row.name << ' ' << name_of(active_backend) << ": " << c.w << " x " << c.h << " to "
-                       << c.dx << ',' << c.dy << " from " << c.sx << ',' << c.sy << ", one image "
-                       << (&src == &dst);
+  ASSERT_EQ(dst, want) << row.name << ": " << c.w << " x " << c.h << " to " << c.dx << ',' << c.dy << " from "
+                       << c.sx << ',' << c.sy << ", one image " << (&src == &dst);
 }
 
 // Every pair of bytes in every channel, and every alpha of the source with pairs of a coarser grid.
 inline void compare_every_pair_of_bytes(const std::vector<UnscaledRow>& rows) {
-  for (const Backend backend : supported_backends()) {
-    const Forced forced(backend);
+  for (const Forced backend : supported_backends())
     for (const UnscaledRow& row : rows)
       for (const bool alphas : {false, true}) {
         Image d(256, 256), s(256, 257);
@@ -75,14 +73,12 @@ inline void compare_every_pair_of_bytes(const std::vector<UnscaledRow>& rows) {
         compare(row, d, s, {0, 0, 256, 256, 0, 1});
         if (testing::Test::HasFatalFailure()) return;
       }
-  }
 }
 
 // Widths around a vector, any alignment and pitch; within one image the destination lies up to a vector and more before
 // or behind its source.
 inline void compare_every_shape(const std::vector<UnscaledRow>& rows) {
-  for (const Backend backend : supported_backends()) {
-    const Forced forced(backend);
+  for (const Forced backend : supported_backends()) {
     Random random(9);
     for (const UnscaledRow& row : rows)
       for (int32_t w = 1; w <= 70 && !testing::Test::HasFatalFailure(); ++w) {

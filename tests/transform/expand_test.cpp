@@ -154,8 +154,7 @@ Arguments random_arguments(Random& random) {
 // Runs `got` and `want` on equal random images, within one image every third time, on every back end.
 template <class Call, class Model>
 void compare(uint32_t seed, int rounds, int32_t widest, const Call& call, const Model& model) {
-  for (const Backend backend : supported_backends()) {
-    const Forced forced(backend);
+  for (const Forced backend : supported_backends()) {
     Random random(seed);
     for (int round = 0; round < rounds; ++round) {
       Image dst = random_image(random, random.between(1, widest), random.between(1, 7));
@@ -166,8 +165,7 @@ void compare(uint32_t seed, int rounds, int32_t widest, const Call& call, const 
       const Arguments a = random_arguments(random);
       const int32_t status = model(want, one ? want : src, c, a);
       ASSERT_EQ(call(dst, one ? dst : src, c, a), status) << "round " << round << ": " << c;
-      ASSERT_TRUE(dst == want) << name_of(backend) << ", round " << round << ", one image " << one << ": "
-                               << c << dst << want;
+      ASSERT_TRUE(dst == want) << "round " << round << ", one image " << one << ": " << c << dst << want;
     }
   }
 }
@@ -193,8 +191,7 @@ TEST(Expand, ChooseFollowsTheModel) { compare(9, 6000, 50, choose, expected_choo
 TEST(Expand, EveryLevelTable) {
   Image ramp(256, 1), start(256, 1);
   for (int32_t x = 0; x < 256; ++x) ramp.set(x, 0, static_cast<uint32_t>(x) * 0x010101u | 0x55000000u);
-  for (const Backend backend : supported_backends()) {
-    const Forced forced(backend);
+  for (const Forced backend : supported_backends())
     for (uint32_t lo = 0; lo < 256; ++lo)
       for (uint32_t hi = 0; hi < 256; ++hi) {
         // Neighbours in the other channels; the top byte keeps the levels from being none.
@@ -209,7 +206,6 @@ TEST(Expand, EveryLevelTable) {
               << lo << ", " << hi << ", " << v;
         }
       }
-  }
 }
 
 TEST(Expand, SaturationOfEveryColourOnAGrid) {
@@ -219,8 +215,7 @@ TEST(Expand, SaturationOfEveryColourOnAGrid) {
     for (uint32_t g = 0; g <= 255; g += 8)
       for (uint32_t r = 0; r <= 255; r += 8, ++at)
         grid.set(at % 4096, at / 4096, (b + b / 32) | (g + g / 32) << 8 | (r + r / 32) << 16 | 0x80000000u);
-  for (const Backend backend : supported_backends()) {
-    const Forced forced(backend);
+  for (const Forced backend : supported_backends())
     for (const float saturation :
          {0.0f, 0.25f, 0.999f, 1.001f, 1.5f, 2.0f, 7.7f, 31.9f, 63.99f, 64.0f, 256.0f}) {
       BBIExpandChooseBlt(out, grid, 0, 0, 4096, 8, 0, 0, 4096, 8, 1.0f, saturation, 0, 0xFFFFFF, 0,
@@ -229,7 +224,6 @@ TEST(Expand, SaturationOfEveryColourOnAGrid) {
         ASSERT_EQ(out.get(i % 4096, i / 4096), saturated(grid.get(i % 4096, i / 4096), saturation))
             << saturation;
     }
-  }
 }
 
 TEST(Expand, WorkedExamples) {
