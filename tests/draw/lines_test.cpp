@@ -87,11 +87,11 @@ struct Naive {
       const auto in = [&](int64_t m) { return flat ? inside(image, along, m) : inside(image, m, along); };
       if (in(ma) && in(mb)) {
         const float t = static_cast<float>(static_cast<double>(i) / length);
-        const uint32_t c = mix(c0, c1, static_cast<uint32_t>(t * 256.0f));
+        const uint32_t c = mixed(c0, c1, static_cast<uint32_t>(t * 256.0f));
         const double alpha = (c >> 24) * static_cast<double>(0.003921569f);
         const auto blend = [&](int64_t m, double strength) {
           const auto x = static_cast<int32_t>(flat ? along : m), y = static_cast<int32_t>(flat ? m : along);
-          image.set(x, y, mix(image.get(x, y), c, static_cast<uint32_t>(std::min(strength, 1.0) * 256)));
+          image.set(x, y, mixed(image.get(x, y), c, static_cast<uint32_t>(std::min(strength, 1.0) * 256)));
         };
         blend(ma, alpha * ca);
         blend(mb, alpha * cb);

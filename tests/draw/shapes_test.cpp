@@ -70,7 +70,7 @@ void check_boxes(uint32_t seed) {
           [&](int32_t i, int32_t j) { return c[(i / std::max(tw, 1) & 1) + 2 * (j / std::max(th, 1) & 1)]; });
   compare("BBIDrawBox", BBIDrawBox(got, x, y, w, h, mask, c[0], c[1], c[2], c[3]), [&](int32_t i, int32_t j) {
     const uint32_t a = down.weight(j, want.height(), true), u = across.weight(i, want.width(), false);
-    return mix(mix(c[0], c[2], a), mix(c[1], c[3], a), u);
+    return mixed(mixed(c[0], c[2], a), mixed(c[1], c[3], a), u);
   });
 }
 

@@ -120,12 +120,12 @@ uint32_t transition(uint32_t o, uint32_t i, uint32_t alpha, float progress, floa
   const double p = progress > 0 ? std::min(static_cast<double>(progress), 1.0) : 0.0;
   const double s = static_cast<double>(softness);
   if (!(softness > 0)) return alpha < static_cast<uint32_t>(p * 256) ? i : o;
-  if (softness >= 1000) return mix(i, o, static_cast<uint32_t>((1 - p) * 256));
+  if (softness >= 1000) return mixed(i, o, static_cast<uint32_t>((1 - p) * 256));
   const double low = static_cast<double>(static_cast<float>((s + 1) * p - s / 2 - s / 2));
   const double high = (s + 1) * p - s / 2 + s / 2;
   const double v = static_cast<double>(static_cast<float>(alpha) * 0.003921569f);
   const double weight = v <= low ? 0 : v >= high ? 256 : std::min((v - low) / s * 256, 256.0);
-  return mix(i, o, static_cast<uint32_t>(weight));
+  return mixed(i, o, static_cast<uint32_t>(weight));
 }
 
 enum class Kind { own, separate, reversed };
@@ -202,7 +202,7 @@ TEST(Stencils, AddSignedColoursForEveryByteAndAlpha) {
               target |= static_cast<uint32_t>(
                             std::clamp(x + 2 * static_cast<int32_t>(color >> k & 255) - 255, 0, 255))
                         << k;
-            ASSERT_EQ(got.get(x, y), mix(before.get(x, y), target, weight))
+            ASSERT_EQ(got.get(x, y), mixed(before.get(x, y), target, weight))
                 << x << ' ' << y << ' ' << opacity;
           }
         }

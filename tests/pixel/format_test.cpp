@@ -1,62 +1,34 @@
-#include <gtest/gtest.h>
-
 #include <cmath>
-#include <functional>
-#include <limits>
 
-#include "support/images.hpp"
+#include "support/unscaled.hpp"
 
 namespace tessaro::test {
 namespace {
 
 using Bytes = std::vector<uint8_t>;
-using Model = std::function<uint32_t(uint32_t)>;
 
-uint32_t at(uint32_t p, int channel) { return p >> (8 * channel) & 255; }
-
+// Keeps the upper bits of each channel, one behind the other.
 uint32_t packed(int format, uint32_t p) {
-  const uint32_t b = at(p, 0), g = at(p, 1), r = at(p, 2), a = at(p, 3);
-  switch (format) {
-    case 565:
-      return r / 8 * 2048 + g / 4 * 32 + b / 8;
-    case 555:
-      return r / 8 * 1024 + g / 8 * 32 + b / 8;
-    case 1555:
-      return a / 128 * 32768 + packed(555, p);
-    case 4444:
-      return a / 16 * 4096 + r / 16 * 256 + g / 16 * 16 + b / 16;
-    default:
-      return p;
-  }
+  const uint32_t b = channel(p, 0), g = channel(p, 8), r = channel(p, 16), a = channel(p, 24);
+  if (format == 565) return r / 8 * 2048 + g / 4 * 32 + b / 8;
+  if (format == 555) return r / 8 * 1024 + g / 8 * 32 + b / 8;
+  if (format == 1555) return a / 128 * 32768 + packed(555, p);
+  if (format == 4444) return a / 16 * 4096 + r / 16 * 256 + g / 16 * 16 + b / 16;
+  return p;
 }
 uint32_t unpacked(int format, uint32_t v) {
-  const auto word = [](uint32_t a, uint32_t r, uint32_t g, uint32_t b) {
-    return a << 24 | r << 16 | g << 8 | b;
-  };
-  switch (format) {
-    case 565:
-      return word(0, v / 2048 * 8, v / 32 % 64 * 4, v % 32 * 8);
-    case 555:
-      return word(0, v / 1024 % 32 * 8, v / 32 % 32 * 8, v % 32 * 8);
-    case 1555:
-      return (v >= 32768 ? 0x80000000u : 0u) + unpacked(555, v);
-    case 4444:
-      return word(v / 4096 * 16, v / 256 % 16 * 16, v / 16 % 16 * 16, v % 16 * 16);
-    default:
-      return v;
-  }
-}
-uint32_t blended(uint32_t p, uint32_t q, uint32_t weight) {
-  uint32_t v = 0;
-  for (int c = 0; c < 4; ++c) v |= (at(p, c) * weight + at(q, c) * (256 - weight)) / 256 << 8 * c;
+  if (format == 565) return v / 2048 * 8 << 16 | v / 32 % 64 * 4 << 8 | v % 32 * 8;
+  if (format == 555) return v / 1024 % 32 * 8 << 16 | v / 32 % 32 * 8 << 8 | v % 32 * 8;
+  if (format == 1555) return v / 32768 << 31 | unpacked(555, v);
+  if (format == 4444) return v / 4096 << 28 | v / 256 % 16 << 20 | v / 16 % 16 << 12 | v % 16 << 4;
   return v;
 }
 
 struct Row {
   std::string name;
   size_t dst_bytes, src_bytes;
-  std::function<int32_t(uint8_t* dst, const uint8_t* src, int32_t count)> run;
-  Model model;
+  std::function<int32_t(uint32_t* dst, const uint32_t* src, int32_t count)> run;
+  std::function<uint32_t(uint32_t)> model;
 };
 
 // Runs one conversion between two places of one memory, on all back ends, and compares with one pixel after
@@ -71,77 +43,52 @@ void check(const Row& row, const Bytes& memory, size_t dst, size_t src, int32_t 
   }
   for (const Forced backend : supported_backends()) {
     Bytes got = memory;
-    ASSERT_EQ(row.run(got.data() + dst, got.data() + src, count), 0);
-    ASSERT_EQ(got, model) << row.name << ' ' << "count " << count << " dst " << dst << " src " << src;
+    ASSERT_EQ(row.run(reinterpret_cast<uint32_t*>(got.data() + dst),
+                      reinterpret_cast<const uint32_t*>(got.data() + src), count),
+              0);
+    ASSERT_EQ(got, model) << row.name << " count " << count << " dst " << dst << " src " << src;
   }
-}
-
-template <class F>
-auto raw(F* f) {
-  return
-      [f](uint8_t* d, const uint8_t* s, int32_t n) { return f(d, reinterpret_cast<const uint32_t*>(s), n); };
-}
-
-Model saturated(float saturation, const Bytes& table, uint32_t colour, uint32_t weight, int format) {
-  return [=](uint32_t p) {
-    const auto m = static_cast<int32_t>(saturation * 1024), t = (1024 - m) / 3;
-    const auto sum = static_cast<int32_t>(at(p, 0) + at(p, 1) + at(p, 2));
-    uint32_t v = p & 0xFF000000;
-    for (int c = 0; c < 3; ++c) {
-      auto level = static_cast<int32_t>(at(p, c));
-      if (saturation != 1.0f)
-        level =
-            std::min(255, std::max(0, level * m / 1024 + static_cast<int32_t>(std::floor(sum * t / 1024.0))));
-      if (!table.empty()) level = table[static_cast<size_t>(256 * c + level)];
-      v |= static_cast<uint32_t>(level) << 8 * c;
-    }
-    return packed(format, blended(v, colour, weight));
-  };
 }
 
 std::vector<Row> all_rows(const Bytes& table) {
   std::vector<Row> rows{
-      {"888", 3, 4, raw(BBIBltTo24As888), [](uint32_t p) { return p; }},
-      {"444", 2, 4, raw(BBIBltTo16As444), [](uint32_t p) { return packed(4444, p); }},
-      {"565", 2, 4, raw(BBIBltTo16As565), [](uint32_t p) { return packed(565, p); }},
-      {"555", 2, 4, raw(BBIBltTo16As555), [](uint32_t p) { return packed(555, p); }},
-      {"1555", 2, 4, raw(BBIBltTo16As1555), [](uint32_t p) { return packed(1555, p); }},
-      {"gray", 1, 4, raw(BBIBltTo8AsGray), [](uint32_t p) { return p & 255; }},
-      {"alpha", 1, 4, raw(BBIBltTo8AsAlpha), [](uint32_t p) { return p >> 24; }},
+      {"888", 3, 4, BBIBltTo24As888, [](uint32_t p) { return p; }},
+      {"444", 2, 4, BBIBltTo16As444, [](uint32_t p) { return packed(4444, p); }},
+      {"565", 2, 4, BBIBltTo16As565, [](uint32_t p) { return packed(565, p); }},
+      {"555", 2, 4, BBIBltTo16As555, [](uint32_t p) { return packed(555, p); }},
+      {"1555", 2, 4, BBIBltTo16As1555, [](uint32_t p) { return packed(1555, p); }},
+      {"gray", 1, 4, BBIBltTo8AsGray, [](uint32_t p) { return p & 255; }},
+      {"alpha", 1, 4, BBIBltTo8AsAlpha, [](uint32_t p) { return p >> 24; }},
   };
-  const float nan = std::numeric_limits<float>::quiet_NaN();
   const std::pair<float, uint32_t> factors[] = {{0.f, 0},   {0.3f, 76}, {0.999f, 255}, {1.f, 256},
-                                                {7.f, 256}, {-2.f, 0},  {nan, 0}};
-  const std::pair<float, float> saturations[] = {{0.f, 0.f},    {0.4f, 0.4f},     {1.f, 1.f},
-                                                 {2.5f, 2.5f},  {63.99f, 63.99f}, {64.f, 64.f},
-                                                 {1e9f, 256.f}, {-1.f, 0.f},      {nan, 0.f}};
+                                                {7.f, 256}, {-2.f, 0},  {NAN, 0}};
+  const float saturations[] = {0.f, 0.4f, 1.f, 2.5f, 63.99f, 64.f, 1e9f, -1.f, NAN};
   const std::pair<int, size_t> formats[] = {{8888, 4}, {888, 3}, {565, 2}, {555, 2}, {1555, 2}, {4444, 2}};
   size_t i = 0;
   for (const auto& [f, size] : formats) {
     const int format = f;
     const std::string name = std::to_string(format);
     rows.push_back({"get" + name, 4, size,
-                    [=](uint8_t* d, const uint8_t* s, int32_t n) {
-                      return BBIBltToBBIGet(reinterpret_cast<uint32_t*>(d), s, n, format);
-                    },
+                    [=](auto* d, auto* s, int32_t n) { return BBIBltToBBIGet(d, s, n, format); },
                     [=](uint32_t v) { return unpacked(format, v); }});
     for (const auto& [factor_, weight_] : factors) {
-      const float factor = factor_;
-      const uint32_t weight = weight_, colour = 0x91F27C05u * static_cast<uint32_t>(++i);
-      rows.push_back({"X" + name, size, 4,
-                      [=](uint8_t* d, const uint8_t* s, int32_t n) {
-                        return BBIBltToX(d, reinterpret_cast<const uint32_t*>(s), n, format, colour, factor);
-                      },
-                      [=](uint32_t p) { return packed(format, blended(p, colour, weight)); }});
-      const auto [given, effective] = saturations[i % std::size(saturations)];
-      const float saturation = given;
+      const float factor = factor_, saturation = saturations[++i % std::size(saturations)];
+      const uint32_t weight = weight_, colour = 0x91F27C05u * static_cast<uint32_t>(i);
       const bool tabled = i % 2 != 0;
+      rows.push_back({"X" + name, size, 4,
+                      [=](auto* d, auto* s, int32_t n) { return BBIBltToX(d, s, n, format, colour, factor); },
+                      [=](uint32_t p) { return packed(format, mixed(colour, p, weight)); }});
       rows.push_back({"F" + name + " saturation " + std::to_string(saturation), size, 4,
-                      [=, &table](uint8_t* d, const uint8_t* s, int32_t n) {
-                        return BBIBltToF(d, reinterpret_cast<const uint32_t*>(s), n, format, colour, factor,
-                                         saturation, tabled, table.data());
+                      [=, &table](auto* d, auto* s, int32_t n) {
+                        return BBIBltToF(d, s, n, format, colour, factor, saturation, tabled, table.data());
                       },
-                      saturated(effective, tabled ? table : Bytes(), colour, weight, format)});
+                      [=, &table](uint32_t p) {
+                        const uint32_t v = per_channel([=, &table, s = saturated(p, saturation)](int at) {
+                          const uint32_t level = channel(s, at);
+                          return at < 24 && tabled ? table[static_cast<size_t>(32 * at) + level] : level;
+                        });
+                        return packed(format, mixed(colour, v, weight));
+                      }});
     }
   }
   return rows;
@@ -189,7 +136,7 @@ TEST(Format, BlendsTwoRunsAndPacksBits) {
         Bytes model = memory, got = memory;
         for (size_t i = 0; i < n; ++i) {
           const uint32_t v = packed(
-              565, blended(load<uint32_t>(&model[2500 + 4 * i]), load<uint32_t>(&model[4001 + 4 * i]), 192));
+              565, mixed(load<uint32_t>(&model[4001 + 4 * i]), load<uint32_t>(&model[2500 + 4 * i]), 192));
           store<uint16_t>(&model[dst + 2 * i], static_cast<uint16_t>(v));
         }
         const auto word = [&](size_t place) { return reinterpret_cast<const uint32_t*>(got.data() + place); };
@@ -222,15 +169,13 @@ TEST(Format, FillsImagesFromBottomUpBuffers) {
             {width, 4, 4 * width + 3}, {width, 4, 4 * width + 3}, {width, 4, -4 * width - 1}, {width, 4}};
         Image models[4] = {images[0], images[1], images[2], images[3]};
         const uint8_t* start = bits.data() + 1500;
-        for (int32_t y = 0; y < 4; ++y)
-          for (int32_t x = 0; x < width; ++x) {
-            const uint8_t* row = start + (3 - y) * stride;
-            models[0].set(x, y, palette[row[x / 8] >> (7 - x % 8) & 1]);
-            models[1].set(x, y, palette[row[x]]);
-            models[2].set(x, y,
-                          static_cast<uint32_t>(row[3 * x] | row[3 * x + 1] << 8 | row[3 * x + 2] << 16));
-            models[3].set(x, y, load<uint32_t>(row + 4 * x));
-          }
+        for_pixels(models[0], [&](int32_t x, int32_t y) {
+          const uint8_t* row = start + (3 - y) * stride;
+          models[0].set(x, y, palette[row[x / 8] >> (7 - x % 8) & 1]);
+          models[1].set(x, y, palette[row[x]]);
+          models[2].set(x, y, load<uint32_t>(row + 3 * x) & 0xFFFFFF);
+          models[3].set(x, y, load<uint32_t>(row + 4 * x));
+        });
         ASSERT_EQ(BBIBltTo32from1(images[0], start, palette, stride), 0);
         ASSERT_EQ(BBIBltTo32from8(images[1], start, palette, stride), 0);
         ASSERT_EQ(BBIBltTo32from24(images[2], start, stride), 0);

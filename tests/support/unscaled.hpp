@@ -4,25 +4,15 @@
 
 #include <functional>
 
-#include "support/images.hpp"
+#include "support/models.hpp"
 
 namespace tessaro::test {
-
-inline uint32_t channel(uint32_t v, int at) { return v >> at & 255; }
-template <class F>
-uint32_t per_channel(const F& f) {
-  return f(0) | f(8) << 8 | f(16) << 16 | f(24) << 24;
-}
-inline uint32_t mixed(uint32_t d, uint32_t s, uint32_t weight) {
-  return per_channel(
-      [=](int at) { return (channel(d, at) * (256 - weight) + channel(s, at) * weight) / 256; });
-}
 
 struct Unscaled {
   int32_t dx, dy, w, h, sx, sy;
 };
 struct UnscaledRow {
-  const char* name;
+  std::string name;
   std::function<int32_t(ImageRecord*, ImageRecord*, const Unscaled&)> run;
   std::function<uint32_t(uint32_t d, uint32_t s)> rule;
   bool alone = false;  // without a source

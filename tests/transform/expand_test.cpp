@@ -22,18 +22,6 @@ uint32_t masked(const Arguments& a, uint32_t s) {
   return (s & a.mask) | (((~s & a.invert) | a.color) & ~a.mask);
 }
 
-uint32_t saturated(uint32_t v, float saturation) {
-  if (!(saturation >= 0.0f)) saturation = 0.0f;
-  if (saturation > 256.0f) saturation = 256.0f;
-  const auto k = static_cast<int64_t>(saturation * 1024.0f), m = (1024 - k) / 3;
-  const int64_t t = ((channel(v, 0) + channel(v, 8) + channel(v, 16)) * m) >> 10;
-  return per_channel([&](int at) {
-    const int64_t c = channel(v, at);
-    return static_cast<uint32_t>(
-        at == 24 ? c : std::min<int64_t>(std::max<int64_t>(((c * k) >> 10) + t, 0), 255));
-  });
-}
-
 uint32_t level(uint32_t v, uint32_t lo, uint32_t hi) {
   if (v < lo) return 0;
   if (v == lo) return lo == hi ? 255 - lo : 0;
