@@ -13,7 +13,7 @@ TEST(Extreme, ArgumentsOfImageFunctionsStayInsideTheImages) {
   for (const host::Export& row : host::exports()) {
     if (!row.images) continue;
     ++functions;
-    for (uint64_t seed = 0; seed < 1500; ++seed) {
+    for (uint64_t seed = 0; seed < 3000; ++seed) {
       bool intact;
       const auto start = Clock::now();
       row.call(row, seed, host::Range::extreme, intact);

@@ -34,8 +34,7 @@ uint32_t true_blend(uint32_t d, uint32_t s, float opacity) {
   const int sa = at(s, 3), da = at(d, 3);
   if (sa == 0) return d;
   if (sa == 255 || da == 0) return s;
-  const double weight = sa * static_cast<double>(opacity) * static_cast<double>(0.003921569f) * 256.0;
-  return (mixed(d, s, static_cast<uint32_t>(weight)) & 0xFFFFFF) |
+  return (mixed(d, s, weight_of(s >> 24, opacity)) & 0xFFFFFF) |
          static_cast<uint32_t>(da == 255 ? 255 : da + (255 - da) * sa / 255) << 24;
 }
 

@@ -17,6 +17,12 @@ inline uint32_t mixed(uint32_t d, uint32_t s, uint32_t weight) {
       [=](int at) { return (channel(d, at) * (256 - weight) + channel(s, at) * weight) / 256; });
 }
 
+// The weight that an alpha has under an opacity of 0 to 1.
+inline uint32_t weight_of(uint32_t alpha, float opacity) {
+  return static_cast<uint32_t>(static_cast<double>(alpha) * static_cast<double>(opacity) *
+                               static_cast<double>(bits_as<float>(0x3B808081u)) * 256.0);
+}
+
 inline uint32_t saturated(uint32_t v, float saturation) {
   if (!(saturation >= 0.0f)) saturation = 0.0f;
   if (saturation > 256.0f) saturation = 256.0f;
@@ -39,11 +45,6 @@ inline Image some_image(Random& random, int32_t width, int32_t height) {
   Image image(width, height, random.word() & 1 ? pitch : -pitch, random.word() % 4);
   image.randomize(random.word());
   return image;
-}
-// Near an image's edges, or where sums turn over.
-inline int32_t any_coordinate(Random& random) {
-  return random.word() % 2 ? random.between(-4, 12)
-                           : extreme_values[random.word() % std::size(extreme_values)];
 }
 
 template <class Visit>

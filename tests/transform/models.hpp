@@ -1,16 +1,9 @@
 // Per-pixel models that several families' tests compare with, written down naively.
 #pragma once
 
-#include <cmath>
-
 #include "support/unscaled.hpp"
 
 namespace tessaro::test {
-
-inline uint32_t weight_of(uint32_t alpha, float opacity) {
-  return static_cast<uint32_t>(static_cast<double>(alpha) * static_cast<double>(opacity) *
-                               static_cast<double>(bits_as<float>(0x3B808081u)) * 256.0);
-}
 
 // An image of random pixels with a pitch that is wider than a row, bottom-up, odd or so small that rows overlap, at random.
 inline Image random_image(Random& random, int32_t width, int32_t height) {
