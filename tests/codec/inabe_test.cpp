@@ -71,21 +71,11 @@ Encoded model(const Bytes& data) {
 
 TEST(Iabr, CodesGroups) {
   check_codec({iabrEncoder, model<false>, iabrDecoder, iabrDecoderSafe, 257});
-  // 512 zeros: groups of 256, 128, 64, 32, 16, 8, 4 and 4 bytes, each k ones and 0 111.
-  EXPECT_EQ(
-      encode(iabrEncoder, Bytes(512)),
-      (Encoded{0, {0b11111101, 0b11111110, 0b11111110, 0b11111101, 0b11110111, 0b10111011, 0b10111000}}));
   // A group of more bytes than any count asks for.
   EXPECT_EQ(decode(iabrDecoderSafe, {0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0b01110000}, 1000), Bytes(1000));
 }
 
-TEST(Inabe, CodesGroups) {
-  check_codec({inabeEncoder, model<true>, inabeDecoder, inabeDecoderSafe, 257});
-  // Behind 0xFF four bytes that take three bits each: 15 bits with the width's mark, against 32 without.
-  Bytes data(900, 0xFF);
-  for (uint8_t i = 0; i < 4; ++i) data[512 + i] = i + 1;
-  EXPECT_EQ(encode(inabeEncoder, data), model<true>(data));
-}
+TEST(Inabe, CodesGroups) { check_codec({inabeEncoder, model<true>, inabeDecoder, inabeDecoderSafe, 257}); }
 
 TEST(Inabe, DecodesAllForms) {
   // Every width of field, escaped or not, also those above 7 that no encoder chooses.
@@ -112,8 +102,7 @@ TEST(Inabe, DecodesAllForms) {
         expected.push_back(static_cast<uint8_t>((expected.back() & 0xFF << w) | value));
       }
       const Bytes bytes = stream.flushed().stream;
-      EXPECT_EQ(decode(inabeDecoder, bytes, 8), expected) << kind << ' ' << e;
-      EXPECT_EQ(decode(inabeDecoderSafe, bytes, 8), expected) << kind << ' ' << e;
+      EXPECT_EQ(decode(inabeDecoder, inabeDecoderSafe, bytes, 8), expected) << kind << ' ' << e;
     }
 }
 
@@ -138,8 +127,8 @@ TEST(Inabe, RestoresPreparedPixels) {
       const Encoded e = encode(inabeEncoder, prepared(pixels));
       if (e.result != 0) continue;
       ++coded;
-      EXPECT_EQ(decode(inabeDecoderEx, e.stream, length), pixels) << kind << ' ' << length;
-      EXPECT_EQ(decode(inabeDecoderExSafe, e.stream, length), pixels) << kind << ' ' << length;
+      EXPECT_EQ(decode(inabeDecoderEx, inabeDecoderExSafe, e.stream, length), pixels)
+          << kind << ' ' << length;
       damage(e.stream, 5, 6, [&](const Bytes& bad) {
         const Exact source(bad), out(Bytes(length, 0));
         inabeDecoderExSafe(source, out.at.get(), static_cast<uint32_t>(bad.size()),
@@ -147,11 +136,8 @@ TEST(Inabe, RestoresPreparedPixels) {
       });
     }
   EXPECT_GT(coded, 50);
-  for (uint32_t count : {1u, 2u, 3u, 5u, 6u, 7u}) {
-    EXPECT_EQ(decode(inabeDecoderEx, Bytes(12), count), Bytes(count, 128));
-  }
-  EXPECT_EQ(decode(inabeDecoder, {}, 0, 0), Bytes{});
-  EXPECT_EQ(decode(inabeDecoderEx, {}, 0, 0), Bytes{});
+  for (uint32_t count : {0u, 1u, 2u, 3u, 5u, 6u, 7u})
+    EXPECT_EQ(decode(inabeDecoderEx, Bytes(count ? 12 : 0), count), Bytes(count, 128));
   EXPECT_EQ(decode(inabeDecoderExSafe, {}, 0, 1), Bytes{});
 }
 

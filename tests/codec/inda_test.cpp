@@ -45,12 +45,8 @@ Encoded model(const Bytes& data) {
 }
 
 TEST(Inda, FindsTheBestReferences) {
-  for (const Forced backend : supported_backends()) {
+  for (const Forced backend : supported_backends())
     check_codec({indaEncoder, model, indaDecoder, indaDecoderSafe, 65});
-  }
-  // Once the parameters stand, eight bytes that repeat cost three bits.
-  EXPECT_EQ(encode(indaEncoder, make_data(8, 65 * 8)).stream.size(),
-            encode(indaEncoder, make_data(8, 25 * 8)).stream.size() + 40 * 3 / 8);
 }
 
 // Every level, distance and mask, also those that an encoder would not choose, and parameters that stay unsent while
@@ -75,8 +71,7 @@ TEST(Inda, DecodesAllParameters) {
       }
     }
     const Bytes expected(out.begin() + 8, out.end()), bytes = stream.flushed().stream;
-    ASSERT_EQ(decode(indaDecoder, bytes, 48), expected);
-    ASSERT_EQ(decode(indaDecoderSafe, bytes, 48), expected);
+    ASSERT_EQ(decode(indaDecoder, indaDecoderSafe, bytes, 48), expected);
   }
 }
 

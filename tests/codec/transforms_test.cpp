@@ -74,17 +74,9 @@ TEST_P(Transforms, EqualOneSampleAfterAnother) {
             EXPECT_EQ(row.decoder(memory.data() + from, memory.data() + to, length), 0);
           }
           EXPECT_TRUE(memory == expected)
-              << "" << n << " bytes, " << distance << " apart, " << (encode ? "encoder" : "decoder");
+              << n << " bytes, " << distance << " apart, " << (encode ? "encoder" : "decoder");
         }
       }
-}
-
-TEST(TransformsByHand, Differences) {
-  EXPECT_EQ(encode(iwave11Encoder, {128, 129, 127}), (Encoded{0, {0, 2, 3}}));
-  EXPECT_EQ(encode(iwave11Encoder, {0}), (Encoded{0, {255}}));
-  EXPECT_EQ(encode(iwave21Encoder, {0x01, 0x00, 0x00, 0x80, 9}), (Encoded{0, {2, 0, 0xFE, 0xFF}}));
-  EXPECT_EQ(encode(iwave21Encoder, {9}), (Encoded{0, {}}));
-  EXPECT_EQ(encode(ichshift3Encoder, {0, 1, 2, 3, 4, 5, 6}), (Encoded{0, {0, 3, 6, 1, 4, 2, 5}}));
 }
 
 }  // namespace
