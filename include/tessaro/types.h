@@ -26,11 +26,13 @@ extern "C" {
 
 /* An image record: a block of the host's memory that begins with these two words and is never allocated,
  * resized or freed by the library. Both offsets are counted in bytes from the start of the record and may be
- * negative: dims_offset    to an ImageDims pixel_offset   to the first pixel of the first row The pixel at
- * column x, row y lies at record + pixel_offset + y * pitch + 4 * x: a 32-bit word 0xAARRGGBB, in memory the
- * bytes blue, green, red, alpha. Neither the record nor its pixels need any alignment. The record must be
- * consistent: every row's 4 * width bytes belong to the host. That is all a caller guarantees; rectangles and
- * other arguments may be anything. */
+ * negative:
+ *   dims_offset    to an ImageDims
+ *   pixel_offset   to the first pixel of the first row
+ * The pixel at column x, row y lies at record + pixel_offset + y * pitch + 4 * x: a 32-bit word 0xAARRGGBB, in
+ * memory the bytes blue, green, red, alpha. Neither the record nor its pixels need any alignment. The record
+ * must be consistent: every row's 4 * width bytes belong to the host. That is all a caller guarantees;
+ * rectangles and other arguments may be anything. */
 typedef struct ImageRecord {
   int16_t dims_offset;
   int16_t pixel_offset;

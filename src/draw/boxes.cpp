@@ -102,21 +102,29 @@ int32_t TESSARO_CALL BBIDrawColorTile(ImageRecord* image, int32_t x, int32_t y, 
   const int64_t tw = tile_width < 1 ? 1 : tile_width, th = tile_height < 1 ? 1 : tile_height;
   const int64_t left_in_band = th - box.dy % th;
   const bool starts_odd = box.dy / th % 2 != 0, both = box.dh > left_in_band;
-  each_strip(view, box.dx, box.dy, box.dw, box.dh, [&](int64_t done, Area area) {
-    uint32_t even[strip_width], odd[strip_width];
+  // Rows of whole pairs of tiles, repeated along the image; strips where the tiles are too wide. A mask makes the image
+  // itself pass through the nearest cache, which leaves less room there.
+  const int64_t room = mask == 0 ? strip_width : strip_width / 4;
+  const int64_t pair = 2 * tw, repeated = room / pair * pair;
+  const auto draw = [&](int64_t done, Area area) {
+    alignas(64) uint32_t even[strip_width], odd[strip_width];
+    const int64_t width = repeated > 0 && repeated < area.width ? repeated : area.width;
     const auto lay = [&](uint32_t* row, uint32_t c0, uint32_t c1) {
-      const int64_t at = box.dx + done;
+      const int64_t at = box.dx + done, first = width < pair ? width : pair;
       bool second = at / tw % 2 != 0;
       int64_t left = tw - at % tw;
-      for (int64_t i = 0; i < area.width; left = tw, second = !second) {
+      for (int64_t i = 0; i < first; left = tw, second = !second) {
         const uint32_t colour = (second ? c1 : c0) & ~mask;
-        for (const int64_t end = i + left < area.width ? i + left : area.width; i < end; ++i) row[i] = colour;
+        for (const int64_t end = i + left < first ? i + left : first; i < end; ++i) row[i] = colour;
       }
+      for (int64_t i = first; i < width; i *= 2)
+        std::memcpy(row + i, row, static_cast<size_t>(4 * (width - i < i ? width - i : i)));
     };
     if (both || !starts_odd) lay(even, colour0, colour1);
     if (both || starts_odd) lay(odd, colour2, colour3);
-    kernels<BoxKernels>().tiles(area, even, odd, box.dy, th, mask);
-  });
+    kernels<BoxKernels>().tiles(area, {even, odd, static_cast<ptrdiff_t>(width)}, box.dy, th, mask);
+  };
+  each_strip(view, box.dx, box.dy, box.dw, box.dh, draw, repeated > 0 ? box.dw : strip_width);
   return status_done;
 }
 

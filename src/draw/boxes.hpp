@@ -8,11 +8,16 @@
 
 namespace tessaro {
 
+// What the rows of a tiled area repeat.
+struct TileRows {
+  const uint32_t *even, *odd;
+  ptrdiff_t width;
+};
+
 struct BoxKernels {
   // Rows from y on, tile_height of them from the one pattern row, as many from the other. With a mask, the
   // patterns' bits inside it are clear.
-  void (*tiles)(const Area&, const uint32_t* even, const uint32_t* odd, int64_t y, int64_t tile_height,
-                uint32_t mask);
+  void (*tiles)(const Area&, const TileRows&, int64_t y, int64_t tile_height, uint32_t mask);
   // Mixes from left to right; weights are 0..256 in both halves of a word.
   void (*gradient)(uint8_t* row, const uint32_t* weights, size_t width, uint32_t left, uint32_t right,
                    uint32_t mask);

@@ -1,37 +1,38 @@
 // kernels: BoxKernels for scalar sse2 avx2 avx512
 #include "draw/boxes.hpp"
-#include "simd/walk.hpp"
+#include "simd/rows.hpp"
 
 namespace {
 
 using tessaro::Area;
+using tessaro::TileRows;
 
-template <class P>
-struct Tile {
-  TESSARO_INLINE P operator()(P, P pattern) const { return pattern; }
-};
 template <class P>
 struct MaskedTile {
   P mask;
   TESSARO_INLINE P operator()(P d, P pattern) const { return (d & mask) | pattern; }
 };
 
-template <class Rule>
-TESSARO_INLINE void tile_rows(Area n, const uint32_t* even, const uint32_t* odd, int64_t y,
-                              int64_t tile_height, const Rule& rule) {
+template <class DrawRow>
+TESSARO_INLINE void tile_rows(Area n, const TileRows& rows, int64_t y, int64_t tile_height,
+                              const DrawRow& draw) {
   bool in_odd = y / tile_height % 2 != 0;
   int64_t left = tile_height - y % tile_height;
   for (; n.height > 0; --n.height, n.at += n.pitch) {
-    row2<Px>(n.at, reinterpret_cast<const uint8_t*>(in_odd ? odd : even), static_cast<size_t>(n.width), rule);
+    const auto* row = reinterpret_cast<const uint8_t*>(in_odd ? rows.odd : rows.even);
+    for (ptrdiff_t x = 0; x < n.width; x += rows.width)
+      draw(n.at + 4 * x, row, static_cast<size_t>(n.width - x < rows.width ? n.width - x : rows.width));
     if (--left == 0) left = tile_height, in_odd = !in_odd;
   }
 }
-void tiles(const Area& n, const uint32_t* even, const uint32_t* odd, int64_t y, int64_t tile_height,
-           uint32_t mask) {
-  if (mask == 0)
-    tile_rows(n, even, odd, y, tile_height, Tile<Px>{});
-  else
-    tile_rows(n, even, odd, y, tile_height, MaskedTile<Px>{Px::splat(mask)});
+void tiles(const Area& n, const TileRows& rows, int64_t y, int64_t tile_height, uint32_t mask) {
+  if (mask == 0) {
+    tile_rows(n, rows, y, tile_height, RowWriter(n.width, n.height));
+  } else {
+    const MaskedTile<Px> rule{Px::splat(mask)};
+    tile_rows(n, rows, y, tile_height,
+              [&](uint8_t* dst, const uint8_t* src, size_t width) { row2<Px>(dst, src, width, rule); });
+  }
 }
 
 // (right * w + left * (256 - w)) >> 8. Modulo 65536 that is left * 256 + (right - left) * w: one product less.

@@ -27,15 +27,16 @@ struct Run {
   double fraction(int64_t coordinate) const { return way(coordinate) / span; }
 };
 
-// Areas are drawn in strips of this many columns, so that what depends on the column alone is computed once
+// Areas are drawn in strips of so many columns, so that what depends on the column alone is computed once
 // for all rows of a strip and stays in the nearest cache.
 inline constexpr int64_t strip_width = 4096;
 
 // Calls draw(first column, columns as an area) for each strip.
 template <class Draw>
-void each_strip(const ImageView& image, int64_t x, int64_t y, int64_t w, int64_t h, Draw draw) {
-  for (int64_t done = 0; done < w; done += strip_width) {
-    const int64_t n = w - done < strip_width ? w - done : strip_width;
+void each_strip(const ImageView& image, int64_t x, int64_t y, int64_t w, int64_t h, Draw draw,
+                int64_t strip = strip_width) {
+  for (int64_t done = 0; done < w; done += strip) {
+    const int64_t n = w - done < strip ? w - done : strip;
     draw(done,
          Area{image.at(x + done, y), image.pitch, static_cast<ptrdiff_t>(n), static_cast<ptrdiff_t>(h)});
   }

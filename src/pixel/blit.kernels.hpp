@@ -1,7 +1,7 @@
 // kernels: BlitKernels for scalar sse2 avx2 avx512
 #include "pixel/blit.hpp"
+#include "simd/rows.hpp"
 #include "simd/rules.hpp"
-#include "simd/walk.hpp"
 
 namespace {
 
@@ -15,7 +15,6 @@ using tessaro::AreaPair;
   struct Name {                                                                     \
     TESSARO_INLINE P operator()([[maybe_unused]] P d, P s) const { return result; } \
   }
-TESSARO_RULE2(Copy, s);
 TESSARO_RULE2(Add, add_sat(d, s));
 TESSARO_RULE2(Sub, sub_sat(d, s));
 TESSARO_RULE2(Difference, difference(d, s));
@@ -118,10 +117,6 @@ struct KeyedMix {
   TESSARO_INLINE P operator()(P d, P s) const { return select(equal(s, keying.key), d, mixing(d, s)); }
 };
 
-// From here on the processor's own string instructions fill and copy faster than vectors: they need not fetch the lines
-// that they overwrite.
-constexpr ptrdiff_t long_row = 4096;
-
 void fill(Area n, uint32_t colour) {
   if (n.pitch == 4 * n.width) {
     n.width *= n.height;
@@ -140,12 +135,13 @@ void copy(AreaPair n) {
     n.width *= n.height;
     n.height = 1;
   }
+  const RowWriter write(n.width, n.height);
   for (; n.height > 0; --n.height, n.dst += n.dst_pitch, n.src += n.src_pitch) {
-    const auto bytes = static_cast<size_t>(4 * n.width);
-    if (n.width < long_row || reads_own_writes(n.dst, n.src, bytes))
-      walk2<Copy>({n.dst, n.dst_pitch, n.src, n.src_pitch, n.width, 1});
+    const auto width = static_cast<size_t>(n.width);
+    if (reads_own_writes(n.dst, n.src, 4 * width))
+      walk2<Replace>({n.dst, n.dst_pitch, n.src, n.src_pitch, n.width, 1});
     else
-      __builtin_memmove(n.dst, n.src, bytes);
+      write(n.dst, n.src, width);
   }
 }
 

@@ -29,6 +29,7 @@ struct Px {
     return {_mm256_maskload_epi32(static_cast<const int*>(p), first(n))};
   }
   TESSARO_INLINE void store(void* p) const { _mm256_storeu_si256(static_cast<__m256i*>(p), v); }
+  TESSARO_INLINE void stream(void* p) const { _mm256_stream_si256(static_cast<__m256i*>(p), v); }
   TESSARO_INLINE void store(void* p, size_t n) const {
     _mm256_maskstore_epi32(static_cast<int*>(p), first(n), v);
   }

@@ -21,6 +21,7 @@ struct Px {
   TESSARO_INLINE static Px load(const void* p) { return {_mm512_loadu_si512(p)}; }
   TESSARO_INLINE static Px load(const void* p, size_t n) { return {_mm512_maskz_loadu_epi32(first(n), p)}; }
   TESSARO_INLINE void store(void* p) const { _mm512_storeu_si512(p, v); }
+  TESSARO_INLINE void stream(void* p) const { _mm512_stream_si512(static_cast<__m512i*>(p), v); }
   TESSARO_INLINE void store(void* p, size_t n) const { _mm512_mask_storeu_epi32(p, first(n), v); }
   TESSARO_INLINE static Px splat(uint32_t x) { return {_mm512_set1_epi32(static_cast<int>(x))}; }
   TESSARO_INLINE static uint32_t bits(__mmask16 mask) { return mask; }

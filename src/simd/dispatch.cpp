@@ -3,6 +3,7 @@
 namespace tessaro {
 
 constinit Backend active_backend = Backend::sse2;
+constinit ptrdiff_t streamed_area = never;
 
 Backend best_backend() {
   __builtin_cpu_init();
@@ -16,7 +17,10 @@ Backend best_backend() {
   return Backend::sse2;
 }
 
-void choose_backend() { active_backend = best_backend(); }
+void choose_backend() {
+  active_backend = best_backend();
+  if (__builtin_cpu_is("amd")) streamed_area = 4 << 20;  // 16 MiB: more than is found in a cache again
+}
 
 const char* name_of(Backend backend) {
   static constexpr const char* names[backend_count] = {"scalar", "sse2", "avx2", "avx512"};

@@ -22,6 +22,7 @@ struct One {
   TESSARO_INLINE static One load(const void* p, size_t) { return load(p); }
   TESSARO_INLINE void store(void* p) const { std::memcpy(p, &v, 4); }
   TESSARO_INLINE void store(void* p, size_t) const { store(p); }
+  TESSARO_INLINE void stream(void* p) const { store(p); }
   TESSARO_INLINE static One splat(uint32_t x) { return {x}; }
   TESSARO_INLINE static uint32_t bits(bool mask) { return mask; }
 };

@@ -42,6 +42,7 @@ struct Px {
       std::memcpy(at + 4 * (n & 2), &last, 4);
     }
   }
+  TESSARO_INLINE void stream(void* p) const { _mm_stream_si128(static_cast<__m128i*>(p), v); }
   TESSARO_INLINE static Px splat(uint32_t x) { return {_mm_set1_epi32(static_cast<int>(x))}; }
   TESSARO_INLINE static uint32_t bits(__m128i mask) {
     return static_cast<uint32_t>(_mm_movemask_ps(_mm_castsi128_ps(mask)));

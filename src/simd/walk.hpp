@@ -46,6 +46,12 @@ TESSARO_INLINE void row3(uint8_t* dst, const uint8_t* a, const uint8_t* b, size_
         .store(dst + 4 * x, rest);
 }
 
+// The rule of every copy.
+template <class P>
+struct Replace {
+  TESSARO_INLINE P operator()(P, P s) const { return s; }
+};
+
 // A frame without gaps between its rows is one long row.
 template <template <class> class Rule, class... Args>
 TESSARO_INLINE void walk1(tessaro::Area n, Args... args) {

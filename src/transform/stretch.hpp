@@ -80,11 +80,6 @@ TESSARO_INLINE void row_of_samples(uint8_t* dst, const Samples& samples, size_t 
 }
 #endif
 
-template <class P>
-struct Replace {
-  TESSARO_INLINE P operator()(P, P s) const { return s; }
-};
-
 // The source columns of a call, made once.
 struct ColumnMap {
   int vectors = 0;  // 1 or 2: by Permuted; 0: one pixel at a time

@@ -1,0 +1,57 @@
+// Rows that are written without being read, and only copied from what lies ready elsewhere.
+#pragma once
+
+#include "simd/dispatch.hpp"
+#include "simd/walk.hpp"
+
+namespace {
+
+// From here on the processor's own string instructions fill faster than vectors, and Intel's copy faster too: they need
+// not fetch the lines that they overwrite.
+constexpr ptrdiff_t long_row = 4096;
+
+// Copies rows of an area; chosen once for all its rows. Source and destination share no memory, or the destination
+// lies before its source.
+class RowWriter {
+ public:
+  TESSARO_INLINE RowWriter(ptrdiff_t width, ptrdiff_t height)
+      : streams_(width * height >= tessaro::streamed_area && width >= aligned_width),
+        moves_(tessaro::streamed_area == tessaro::never && width >= long_row) {}
+  TESSARO_INLINE ~RowWriter() {
+#if TESSARO_LANES > 1
+    if (streams_) _mm_sfence();
+#endif
+  }
+  RowWriter(const RowWriter&) = delete;
+  RowWriter& operator=(const RowWriter&) = delete;
+
+  TESSARO_INLINE void operator()(uint8_t* dst, const uint8_t* src, size_t width) const {
+    if (moves_) {
+      __builtin_memmove(dst, src, 4 * width);
+      return;
+    }
+    // Aligned stores: where the pitch is no multiple of a vector, others would cross two lines of the cache each.
+    const size_t ahead = -reinterpret_cast<uintptr_t>(dst) / 4 % Px::lanes;
+    if (ahead != 0 && width >= aligned_width) {
+      Px::load(src, ahead).store(dst, ahead);
+      dst += 4 * ahead;
+      src += 4 * ahead;
+      width -= ahead;
+    }
+    if (streams_ && reinterpret_cast<uintptr_t>(dst) % (4 * Px::lanes) == 0) {
+      const size_t whole = width / Px::lanes * Px::lanes;
+      for (size_t x = 0; x < whole; x += Px::lanes) Px::load(src + 4 * x).stream(dst + 4 * x);
+      dst += 4 * whole;
+      src += 4 * whole;
+      width -= whole;
+    }
+    row2<Px>(dst, src, width, Replace<Px>{});
+  }
+
+ private:
+  static constexpr ptrdiff_t aligned_width = 4 * Px::lanes;
+
+  bool streams_, moves_;
+};
+
+}  // namespace
