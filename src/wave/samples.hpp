@@ -77,8 +77,6 @@ struct SampleKernels {
   // frames lie in front of it. Leaves sums[1..frames] behind.
   void (*running16)(int32_t* sums, const int16_t* in, size_t frames, size_t lanes);
   void (*mean_of_span)(int16_t* out, const int32_t* ahead, const int32_t* behind, size_t n, int32_t span);
-  // frame = (first + j) * ratio truncated, part = the fraction times parts truncated; all fit.
-  void (*places)(int32_t* frame, int32_t* part, int32_t first, size_t n, double ratio, double parts);
   // Frames of two lanes times a gain that grows by step after every frame; gain is left at its next value.
   void (*ramp24)(int32_t* out, const int32_t* in, size_t frames, double gain[2], const double step[2]);
   void (*ramp64)(double* out, const double* in, size_t frames, double gain[2], const double step[2]);

@@ -202,15 +202,6 @@ void mean_of_span(I16* __restrict out, const int32_t* __restrict ahead, const in
   }
 }
 
-void places(int32_t* __restrict frame, int32_t* __restrict part, int32_t first, size_t n, double ratio,
-            double parts) {
-  for (int32_t j = 0; j < static_cast<int32_t>(n); ++j) {
-    const double p = (first + j) * ratio;
-    frame[j] = static_cast<int32_t>(p);
-    part[j] = static_cast<int32_t>((p - frame[j]) * parts);
-  }
-}
-
 // Gains are added up frame by frame, rounded at every step. While they stay between two powers of two, where the
 // spacing of the numbers is constant, every step adds the same amount, and frame i has the gain first + i * amount
 // exactly. (Steps that fall halfway between two numbers add another amount once; that the first two are equal
@@ -342,7 +333,6 @@ TESSARO_KERNELS(SampleKernels){
     .gain24 = gain24,
     .running16 = running16,
     .mean_of_span = mean_of_span,
-    .places = places,
     .ramp24 = ramp24,
     .ramp64 = ramp64,
     .peaks24 = peaks24,
