@@ -21,9 +21,9 @@ struct Soft {
 };
 template <class P>
 struct Fade {
-  typename P::Half weight, rest;
-  TESSARO_INLINE explicit Fade(uint32_t w) : weight(P::Half::splat(w)), rest(P::Half::splat(256 - w)) {}
-  TESSARO_INLINE P operator()(P o, P i, P) const { return mix(i, o, weight, rest); }
+  ConstantMix<P> mixing;
+  TESSARO_INLINE explicit Fade(uint32_t w) : mixing(w) {}
+  TESSARO_INLINE P operator()(P o, P i, P) const { return mixing(i, o); }
 };
 
 // dst[x] = rule(o[x], i[x], stencil[x])
@@ -58,11 +58,11 @@ void walk_stencil(const StencilAreas& n, Arg arg) {
 template <class P>
 struct AddSigned {
   P raise, lower;
-  uint32_t factor;
-  TESSARO_INLINE AddSigned(uint32_t r, uint32_t l, uint32_t f)
-      : raise(P::splat(r)), lower(P::splat(l)), factor(f) {}
+  AlphaWeights<P> weights;
+  TESSARO_INLINE AddSigned(uint32_t r, uint32_t l, uint32_t factor)
+      : raise(P::splat(r)), lower(P::splat(l)), weights(factor) {}
   TESSARO_INLINE P operator()(P d, P s) const {
-    return mix(d, sub_sat(add_sat(d, raise), lower), scaled_alpha(s, factor));
+    return mix(d, sub_sat(add_sat(d, raise), lower), weights(s));
   }
 };
 

@@ -41,7 +41,8 @@ struct Blend255 {  // alpha 0 keeps d, 255 gives s, between them (s * a + d * (2
   TESSARO_INLINE P operator()(P d, P s) const {
     const auto a = alpha_halves(s);
     const auto full = P::Half::splat(255);
-    return mix(d, s, plus_equal(a, full), plus_equal(full - a, full));
+    const auto w = plus_equal(a, full), rest = plus_equal(full - a, full);
+    return join_high(even(d) * rest + even(s) * w, odd(d) * rest + odd(s) * w);
   }
 };
 
@@ -103,16 +104,9 @@ struct Keying {
 };
 
 template <class P>
-struct Mix {
-  typename P::Half weight, rest;
-  TESSARO_INLINE explicit Mix(uint32_t w) : weight(P::Half::splat(w)), rest(P::Half::splat(256 - w)) {}
-  TESSARO_INLINE P operator()(P d, P s) const { return mix(d, s, weight, rest); }
-};
-
-template <class P>
 struct KeyedMix {
   Keying<P> keying;
-  Mix<P> mixing;
+  ConstantMix<P> mixing;
   TESSARO_INLINE KeyedMix(uint32_t k, uint32_t w) : keying(k), mixing(w) {}
   TESSARO_INLINE P operator()(P d, P s) const { return select(equal(s, keying.key), d, mixing(d, s)); }
 };
@@ -175,6 +169,6 @@ TESSARO_KERNELS(BlitKernels){
                      uint32_t weight) { walk1<MixColour>(n, colour, weight); },
     .alpha = [](const AreaPair& n, AlphaFlags flags) { walk2<Alpha>(n, flags); },
     .keying = [](const AreaPair& n, uint32_t key) { walk2<Keying>(n, key); },
-    .mix = [](const AreaPair& n, uint32_t weight) { walk2<Mix>(n, weight); },
+    .mix = [](const AreaPair& n, uint32_t weight) { walk2<ConstantMix>(n, weight); },
     .keyed_mix = [](const AreaPair& n, uint32_t key, uint32_t weight) { walk2<KeyedMix>(n, key, weight); },
 };

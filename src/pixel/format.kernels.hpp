@@ -157,11 +157,11 @@ void encode(uint8_t* dst, const uint8_t* src, size_t count) {
 template <class Format>
 void encode_mixed_with_colour(uint8_t* dst, const uint8_t* src, size_t count, uint32_t colour,
                               uint32_t weight) {
-  encode_run<Format>(
-      dst, count, may_read_ahead(dst, Format::bytes, src, 4, count), [=]<class P>(P, size_t x, size_t n) {
-        using H = typename P::Half;
-        return mix(P::splat(colour), load_some<P>(src + 4 * x, n), H::splat(weight), H::splat(256 - weight));
-      });
+  encode_run<Format>(dst, count, may_read_ahead(dst, Format::bytes, src, 4, count),
+                     [=]<class P>(P, size_t x, size_t n) {
+                       using H = typename P::Half;
+                       return mix(P::splat(colour), load_some<P>(src + 4 * x, n), H::splat(weight));
+                     });
 }
 
 template <class Format>
@@ -171,8 +171,7 @@ void encode_mixed(uint8_t* dst, const uint8_t* a, const uint8_t* b, size_t count
       may_read_ahead(dst, Format::bytes, a, 4, count) && may_read_ahead(dst, Format::bytes, b, 4, count),
       [=]<class P>(P, size_t x, size_t n) {
         using H = typename P::Half;
-        return mix(load_some<P>(a + 4 * x, n), load_some<P>(b + 4 * x, n), H::splat(weight),
-                   H::splat(256 - weight));
+        return mix(load_some<P>(a + 4 * x, n), load_some<P>(b + 4 * x, n), H::splat(weight));
       });
 }
 

@@ -98,14 +98,15 @@ struct ToneMix {
 
 template <class P>
 struct TrueBlend {
-  uint32_t factor;
+  AlphaWeights<P> weights;
+  TESSARO_INLINE explicit TrueBlend(uint32_t factor) : weights(factor) {}
   TESSARO_INLINE P operator()(P d, P s) const {
     using H = typename P::Half;
     const H sa = alpha_halves(s), da = alpha_halves(d);
     // A product of two bytes through 255, without the remainder.
     const H more = (H::splat(255) - da) * sa;
     const H alpha = da + shr<8>(more + H::splat(1) + shr<8>(more));
-    const P blended = with_alpha(mix(d, s, scaled_alpha(s, factor)), join(alpha, alpha));
+    const P blended = with_alpha(mix(d, s, weights(s)), join(alpha, alpha));
     const P first = P::splat(0x01000000), last = P::splat(0xFEFFFFFF);
     const P covered = select(above(first, d), s, select(above(s, last), s, blended));
     return select(above(first, s), d, covered);

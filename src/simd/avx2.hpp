@@ -126,13 +126,6 @@ TESSARO_INLINE Px::Half lookup_alpha(Px a, const uint32_t* table) {
       _mm256_i32gather_epi32(reinterpret_cast<const int*>(table), _mm256_srli_epi32(a.v, 24), 4);
   return {_mm256_or_si256(t, _mm256_slli_epi32(t, 16))};
 }
-TESSARO_INLINE Px::Half scaled_alpha(Px a, uint32_t m) {
-  const __m256i upper = _mm256_setr_epi8(2, 3, 2, 3, 6, 7, 6, 7, 10, 11, 10, 11, 14, 15, 14, 15,  //
-                                         2, 3, 2, 3, 6, 7, 6, 7, 10, 11, 10, 11, 14, 15, 14, 15);
-  const Px::Half alpha = alpha_halves(a);
-  const __m256i t = _mm256_madd_epi16(alpha.v, _mm256_set1_epi32(scale_pair(m)));
-  return alpha + Px::Half{_mm256_shuffle_epi8(t, upper)};
-}
 
 static_assert(PixelVector<Px>);
 

@@ -112,12 +112,6 @@ TESSARO_INLINE Px::Half lookup_alpha(Px a, const uint32_t* table) {
   const __m512i t = _mm512_i32gather_epi32(_mm512_srli_epi32(a.v, 24), table, 4);
   return {_mm512_or_si512(t, _mm512_slli_epi32(t, 16))};
 }
-TESSARO_INLINE Px::Half scaled_alpha(Px a, uint32_t m) {
-  const __m512i upper = _mm512_set4_epi32(0x0F0E0F0E, 0x0B0A0B0A, 0x07060706, 0x03020302);
-  const Px::Half alpha = alpha_halves(a);
-  const __m512i t = _mm512_madd_epi16(alpha.v, _mm512_set1_epi32(scale_pair(m)));
-  return alpha + Px::Half{_mm512_shuffle_epi8(t, upper)};
-}
 
 static_assert(PixelVector<Px>);
 

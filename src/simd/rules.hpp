@@ -12,19 +12,43 @@ struct Halves {
   TESSARO_INLINE static Halves of(P a) { return {::even(a), ::odd(a)}; }
 };
 
-// (d * (256 - w) + s * w) >> 8 in all four channels; w is 0..256 in both lanes of each pixel.
+// (d * (256 - w) + s * w) >> 8 in all four channels; w is 0..256 in both lanes of each pixel. That is d + ((s - d) * w >> 8),
+// where the upper bytes of the products and the sum may wrap: one product a channel.
 template <class P>
-TESSARO_INLINE P mix(P d, Halves<P> s, typename P::Half w, typename P::Half rest) {
-  return join_high(even(d) * rest + s.even * w, odd(d) * rest + s.odd * w);
-}
-template <class P>
-TESSARO_INLINE P mix(P d, P s, typename P::Half w, typename P::Half rest) {
-  return mix(d, Halves<P>::of(s), w, rest);
+TESSARO_INLINE P mix(P d, Halves<P> s, typename P::Half w) {
+  return add(d, join_high((s.even - even(d)) * w, (s.odd - odd(d)) * w));
 }
 template <class P>
 TESSARO_INLINE P mix(P d, P s, typename P::Half w) {
-  return mix(d, s, w, P::Half::splat(256) - w);
+  return mix(d, Halves<P>::of(s), w);
 }
+
+template <class P>
+struct ConstantMix {
+  typename P::Half weight;
+  TESSARO_INLINE explicit ConstantMix(uint32_t w) : weight(P::Half::splat(w)) {}
+  TESSARO_INLINE P operator()(P d, P s) const { return mix(d, s, weight); }
+};
+
+// (alpha * m) >> 16 in both lanes of each pixel; m at most 65794, from alpha_factor.
+template <class P>
+struct AlphaWeights {
+  using H = typename P::Half;
+  H factor;
+  bool beyond_16_bits;
+  TESSARO_INLINE explicit AlphaWeights(uint32_t m) : factor(H::splat(m)), beyond_16_bits(m > 65535) {}
+  TESSARO_INLINE H operator()(P s) const {
+    const H alpha = alpha_halves(s), part = mul_high(alpha, factor);
+    return beyond_16_bits ? part + alpha : part;
+  }
+};
+
+template <class P>
+struct AlphaMix {
+  AlphaWeights<P> weights;
+  TESSARO_INLINE explicit AlphaMix(uint32_t factor) : weights(factor) {}
+  TESSARO_INLINE P operator()(P d, P s) const { return mix(d, s, weights(s)); }
+};
 
 // (v >> 1) of every byte.
 template <class P>

@@ -94,14 +94,6 @@ TESSARO_INLINE One::Half colour_sums(One a) {
 TESSARO_INLINE One::Half lookup_alpha(One a, const uint32_t* table) {
   return One::Half::splat(table[a.v >> 24]);
 }
-// The multiplier of scaled_alpha for vectors that multiply signed 16 bits in pairs: m - 65536 in two halves;
-// what is left out is alpha itself.
-TESSARO_INLINE int scale_pair(uint32_t m) {
-  const int rest = static_cast<int>(m) - 65536, lower = rest >> 1;
-  return static_cast<int>((static_cast<uint32_t>(lower) & 0xFFFF) | static_cast<uint32_t>(rest - lower)
-                                                                        << 16);
-}
-TESSARO_INLINE One::Half scaled_alpha(One a, uint32_t m) { return One::Half::splat((a.v >> 24) * m >> 16); }
 template <class F>
 TESSARO_INLINE One::Half per_lane(One::Half a, One::Half b, F f) {
   return {(f(a.v & 0xFFFF, b.v & 0xFFFF) & 0xFFFF) | f(a.v >> 16, b.v >> 16) << 16};

@@ -136,11 +136,6 @@ TESSARO_INLINE Px::Half lookup_alpha(Px a, const uint32_t* table) {
                          _mm_unpacklo_epi32(entry(_mm_extract_epi16(i, 4)), entry(_mm_extract_epi16(i, 6))));
   return {_mm_or_si128(t, _mm_slli_epi32(t, 16))};
 }
-TESSARO_INLINE Px::Half scaled_alpha(Px a, uint32_t m) {
-  const Px::Half alpha = alpha_halves(a);
-  const __m128i t = _mm_madd_epi16(alpha.v, _mm_set1_epi32(scale_pair(m)));
-  return alpha + Px::Half{_mm_shufflehi_epi16(_mm_shufflelo_epi16(t, 0xF5), 0xF5)};
-}
 
 static_assert(PixelVector<Px>);
 

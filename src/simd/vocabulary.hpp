@@ -25,7 +25,6 @@
 //   alpha_halves(a)              the alpha in both lanes of each pixel
 //   colour_sums(a)               blue + green + red in both lanes
 //   lookup_alpha(a, table)       table[alpha] in both lanes; table has 256 32-bit entries below 65536
-//   scaled_alpha(a, m)           (alpha * m) >> 16 in both lanes; m at most 65794
 //   P::Half::splat(v)  + - *     modulo 65536;  shl<k> shr<k> (logical);  min max (signed)
 //   mul_high(a, b)               (a * b) >> 16, unsigned; mul_high_signed(a, b) signed
 //   plus_equal(a, b)             a + 1 where a == b, else a
@@ -78,7 +77,6 @@ concept PixelVector = requires(P a, typename P::Half h, const void* in, void* ou
   { alpha_halves(a) } -> std::same_as<typename P::Half>;
   { colour_sums(a) } -> std::same_as<typename P::Half>;
   { lookup_alpha(a, table) } -> std::same_as<typename P::Half>;
-  { scaled_alpha(a, 1u) } -> std::same_as<typename P::Half>;
   { (h + h) - (h * h) } -> std::same_as<typename P::Half>;
   { min(max(h, h), P::Half::splat(1)) } -> std::same_as<typename P::Half>;
   { plus_equal(h, h) } -> std::same_as<typename P::Half>;

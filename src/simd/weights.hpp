@@ -15,7 +15,7 @@ inline uint32_t alpha_weight(uint32_t alpha, float opacity) {
 }
 
 // The multiplier m with which alpha * m >> 16 is alpha_weight(alpha, opacity) for every alpha; at most 65794.
-// No table needs to be built and no vector has to gather: use scaled_alpha(pixel, m) in rules.
+// No table needs to be built and no vector has to gather: use AlphaWeights in rules.
 //
 // It always exists. The weights are floor(alpha * s), s = opacity * 256 / 255, so m must lie in
 // [max(w / alpha), min((w + 1) / alpha)) * 65536; the ends are different fractions with denominators of at most 255,

@@ -1,7 +1,7 @@
 // kernels: ExpandKernels for scalar sse2 avx2 avx512
 #include "transform/expand.hpp"
 
-#include "transform/rules.hpp"
+#include "simd/rules.hpp"
 #include "transform/stretch.hpp"
 
 namespace {
@@ -14,8 +14,9 @@ using tessaro::Gradient;
 template <class P>
 struct GradientRule {
   const Gradient& g;
+  AlphaWeights<P> weights;
   P left = P::splat(0), right = P::splat(0);
-  TESSARO_INLINE explicit GradientRule(const Gradient& gradient) : g(gradient) {}
+  TESSARO_INLINE explicit GradientRule(const Gradient& gradient) : g(gradient), weights(g.factor) {}
   TESSARO_INLINE void start_row(uint32_t weight) {
     const auto w = P::Half::splat(weight);
     left = mix(P::splat(g.top_left), P::splat(g.bottom_left), w);
@@ -24,7 +25,7 @@ struct GradientRule {
   TESSARO_INLINE P operator()(P d, P s, P column) const {
     const P mask = P::splat(g.mask), keep = P::splat(g.keep);
     s = choose_bits(mask, s, mix(left, right, halves(column)));
-    const auto weight = g.by_alpha ? scaled_alpha(s, g.factor) : P::Half::splat(g.weight);
+    const auto weight = g.by_alpha ? weights(s) : P::Half::splat(g.weight);
     return choose_bits(keep, d, mix(d, s, weight));
   }
 };
@@ -101,6 +102,7 @@ struct Choose {
   P vary, flip, set,
       keep;  // the mask, the inverted bits and the colour as one rule: ((s & vary) ^ flip) | set
   H weight;
+  AlphaWeights<P> weights;
   Saturate<P> saturate;
   Levels<P> levels;
   TESSARO_INLINE explicit Choose(const Choice& choice)
@@ -110,12 +112,13 @@ struct Choose {
         set(P::splat(c.color & ~c.mask)),
         keep(P::splat(c.keep)),
         weight(H::splat(c.weight)),
+        weights(c.factor),
         saturate{c.saturation, c.grey},
         levels{c.low, c.high} {}
   TESSARO_INLINE P operator()(P d, P s) const {
     const P base = c.source_is_base ? s : d;
     if (c.mask != 0xFFFFFFFF) s = ((s & vary) ^ flip) | set;
-    const H w = c.by_alpha ? scaled_alpha(s, c.factor) : weight;
+    const H w = c.by_alpha ? weights(s) : weight;
     Halves<P> v = Halves<P>::of(s);
     if (c.levelled)
       v = levels(c.saturated ? saturate.sums(s) : v);
@@ -124,7 +127,7 @@ struct Choose {
     if (c.add_color && c.add_alpha) {
       s = add_sat(base, join_high(v.even * w, v.odd * w));
     } else {
-      s = mix(base, v, w, H::splat(256) - w);
+      s = mix(base, v, w);
       if (c.add_color || c.add_alpha) {
         const P sum = add_sat(base, join_high(v.even * w, v.odd * w));
         s = c.add_color ? with_alpha(sum, s) : with_alpha(s, sum);
@@ -138,9 +141,9 @@ struct Choose {
 template <class P>
 struct FillByAlpha {
   P color;
-  uint32_t factor;
-  TESSARO_INLINE FillByAlpha(uint32_t c, uint32_t f) : color(P::splat(c)), factor(f) {}
-  TESSARO_INLINE P operator()(P d, P s) const { return mix(d, color, scaled_alpha(s, factor)); }
+  AlphaWeights<P> weights;
+  TESSARO_INLINE FillByAlpha(uint32_t c, uint32_t factor) : color(P::splat(c)), weights(factor) {}
+  TESSARO_INLINE P operator()(P d, P s) const { return mix(d, color, weights(s)); }
 };
 
 }  // namespace

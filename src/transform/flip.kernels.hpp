@@ -1,7 +1,7 @@
 // kernels: FlipKernels for scalar sse2 avx2 avx512
+#include "simd/rules.hpp"
 #include "simd/walk.hpp"
 #include "transform/flip.hpp"
-#include "transform/rules.hpp"
 
 namespace {
 

@@ -27,10 +27,9 @@ struct RenderRule {
 template <class P, class Rule>
 struct Between {
   const Rule& rule;
-  typename P::Half weight, rest;
-  TESSARO_INLINE Between(const Rule& r, uint32_t w)
-      : rule(r), weight(P::Half::splat(w)), rest(P::Half::splat(256 - w)) {}
-  TESSARO_INLINE P operator()(P d, P top, P bottom) const { return rule(d, mix(top, bottom, weight, rest)); }
+  ConstantMix<P> mixing;
+  TESSARO_INLINE Between(const Rule& r, uint32_t w) : rule(r), mixing(w) {}
+  TESSARO_INLINE P operator()(P d, P top, P bottom) const { return rule(d, mixing(top, bottom)); }
 };
 
 template <class P>
