@@ -130,6 +130,16 @@ class Arena {
   size_t at_[2];
 };
 
+// The library's function on two records leaves the memory as the model does on the buffers.
+template <class Call, class Model>
+void expect_alike(const Arena& arena, Call call, Model model) {
+  const auto got = arena.after([&](const Buffer& d, const Buffer& s) {
+    const WaveBuffer to = d.record(), from = s.record();
+    EXPECT_EQ(call(&to, &from), 0);
+  });
+  ASSERT_EQ(got, arena.after(model));
+}
+
 inline int64_t within(int64_t v, int64_t low, int64_t high) { return std::clamp(v, low, high); }
 inline int64_t saturated(int64_t v) { return within(v, -32768, 32767); }
 inline int64_t trunc_int(double v) { return trunc32(v); }
