@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <map>
 #include <vector>
 
@@ -66,22 +67,33 @@ TEST_F(Hooks, OffersMessagesAndPassesOnWhatIsNotHandled) {
   EXPECT_EQ(called.size(), 1u);
 }
 
-TEST_F(Hooks, ComeOffCleanlyFromTheEndAndLeaveAnEntryBehindInOtherOrders) {
+TEST_F(Hooks, OffOutOfOrderTakeTheProceduresOfTheNewest) {
   for (uintptr_t n : {1u, 2u, 3u}) EXPECT_TRUE(table.hook(window(n), pass_on, static_cast<intptr_t>(n)));
   EXPECT_TRUE(table.unhook(window(1)));
   EXPECT_EQ(procedures[1], 11);
-  EXPECT_EQ(table.count(), 2);
   EXPECT_EQ(table.offer(window(1), 0, 0, 0), 13 * 1000 + 1) << "the newest one's procedure";
   EXPECT_EQ(seen, 1);
-  EXPECT_EQ(table.offer(window(2), 0, 0, 0), 12 * 1000 + 2);
-  EXPECT_EQ(procedures[3], ours);
-  EXPECT_EQ(table.offer(window(3), 0, 0, 0), 0);
-  EXPECT_FALSE(table.unhook(window(3)));
-  for (uintptr_t n : {2u, 1u}) {
-    EXPECT_TRUE(table.unhook(window(n)));
-    EXPECT_EQ(procedures[n], n == 2 ? 12 : 13);
-    EXPECT_FALSE(table.unhook(window(n)));
-  }
+  EXPECT_EQ(table.offer(window(3), 0, 0, 0), 0) << "hooked, but no longer known";
+}
+
+TEST_F(Hooks, ComeOffInEveryOrder) {
+  std::vector<uintptr_t> order{1, 2, 3};
+  do {
+    HookTable hooks{substitute};
+    procedures = {{1, 11}, {2, 12}, {3, 13}};
+    // The table as it is left behind: the procedures move, the windows do not.
+    std::vector<std::pair<uintptr_t, intptr_t>> left(procedures.begin(), procedures.end());
+    for (uintptr_t n : {1u, 2u, 3u}) EXPECT_TRUE(hooks.hook(window(n), pass_on, 0));
+    for (uintptr_t n : {order[0], order[1], order[2], uintptr_t{1}, uintptr_t{2}}) {
+      const auto entry = std::find_if(left.begin(), left.end(), [&](auto& row) { return row.first == n; });
+      EXPECT_EQ(hooks.unhook(window(n)), entry != left.end());
+      if (entry == left.end()) continue;
+      EXPECT_EQ(procedures[n], entry->second);
+      entry->second = left.back().second;
+      left.pop_back();
+    }
+    EXPECT_EQ(hooks.count(), 0);
+  } while (std::next_permutation(order.begin(), order.end()));
 }
 
 TEST_F(Hooks, ASecondHookOfAWindowIsFoundAfterTheFirst) {

@@ -3,9 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <vector>
-
 #include "tessaro/tessaro.h"
 
 namespace {
@@ -90,54 +87,6 @@ TEST(Windows, HooksOfBothConventionsAreOfferedMessages) {
     DestroyWindow(window);
   }
   EXPECT_EQ(library.load(nullptr, reinterpret_cast<TessaroHook>(hook_cdecl), 0), 1);
-  FreeLibrary(library.module);
-}
-
-TEST(Windows, HooksComeOffInEveryOrder) {
-  Library library;
-  const auto hook = reinterpret_cast<TessaroHook>(hook_stdcall);
-  std::vector<int> order{0, 1, 2};
-  do {
-    HWND windows[3] = {make_window(), make_window(other), make_window()};
-    for (HWND window : windows) ASSERT_EQ(library.load(window, hook, 0), 0);
-    // The table as it is left behind: the procedures move, the windows do not.
-    std::vector<std::pair<HWND, WNDPROC>> table{
-        {windows[0], plain}, {windows[1], other}, {windows[2], plain}};
-    for (int n : order) {
-      const auto entry =
-          std::find_if(table.begin(), table.end(), [&](const auto& row) { return row.first == windows[n]; });
-      EXPECT_EQ(library.unload(windows[n]), entry == table.end() ? 1 : 0);
-      if (entry == table.end()) continue;
-      EXPECT_EQ(procedure(windows[n]), entry->second);
-      entry->second = table.back().second;
-      table.pop_back();
-    }
-    while (!table.empty()) {
-      EXPECT_EQ(library.unload(table[0].first), 0);
-      table[0].second = table.back().second;
-      table.pop_back();
-    }
-    for (HWND window : windows) DestroyWindow(window);
-  } while (std::next_permutation(order.begin(), order.end()));
-  FreeLibrary(library.module);
-}
-
-TEST(Windows, HooksNumberAtMost256) {
-  Library library;
-  const auto hook = reinterpret_cast<TessaroHook>(hook_stdcall);
-  std::vector<HWND> windows;
-  for (int i = 0; i < 257; ++i) windows.push_back(make_window());
-  for (int i = 0; i < 256; ++i) ASSERT_EQ(library.load(windows[static_cast<size_t>(i)], hook, i), 0);
-  EXPECT_EQ(library.load(windows[256], hook, 0), 1);
-  EXPECT_EQ(procedure(windows[256]), plain);
-  EXPECT_EQ(send(windows[255], 2, 3), 2003);
-  EXPECT_EQ(seen.value, 255);
-  std::reverse(windows.begin(), windows.end());
-  for (HWND window : windows) {
-    library.unload(window);
-    EXPECT_EQ(procedure(window), plain);
-    DestroyWindow(window);
-  }
   FreeLibrary(library.module);
 }
 
