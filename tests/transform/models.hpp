@@ -18,6 +18,8 @@ inline Image random_image(Random& random, int32_t width, int32_t height) {
 struct Scaled {
   int32_t dx, dy, dw, dh, sx, sy, sw, sh;
 };
+#define TESSARO_SCALED(c) c.dx, c.dy, c.dw, c.dh, c.sx, c.sy, c.sw, c.sh
+
 inline std::ostream& operator<<(std::ostream& out, const Scaled& c) {
   return out << c.dx << ' ' << c.dy << ' ' << c.dw << ' ' << c.dh << " from " << c.sx << ' ' << c.sy << ' '
              << c.sw << ' ' << c.sh;
@@ -62,6 +64,15 @@ void nearest(Image& dst, Image& src, const Scaled& c, const Rule& rule) {
       dst.set(c.dx + j, c.dy + i, rule(dst.get(c.dx + j, c.dy + i), s, j, i));
     }
   }
+}
+
+// call(dst, src) leaves dst as model(dst, src) leaves another; in one image when asked to.
+template <class Call, class Model>
+void compare_scaled(Image dst, Image src, bool one, const Scaled& c, const Call& call, const Model& model) {
+  Image want = dst;
+  const int32_t status = model(want, one ? want : src);
+  ASSERT_EQ(call(dst, one ? dst : src), status) << c;
+  ASSERT_TRUE(dst == want) << c << ", one image " << one << dst << want;
 }
 
 // Rectangles of all kinds around an image: enlarging, reducing, equal, cut, outside.

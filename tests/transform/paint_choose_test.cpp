@@ -14,7 +14,6 @@ struct Model {
   Image& p;
   const int32_t w = p.width(), h = p.height();
 
-  bool inside(int32_t x, int32_t y) const { return x >= 0 && y >= 0 && x < w && y < h; }
   template <class Visit>
   void each(Visit visit, int32_t step = 1, int32_t left = 0, int32_t top = 0) {
     for (int32_t y = top; y < h; y += step)
@@ -31,7 +30,7 @@ struct Model {
       const bool p_key = old.get(x, y) == key;
       if (op == 2 && !p_key) p.set(x, y, color);
       for (const auto& [nx, ny] : {std::pair{x - 1, y}, std::pair{x, y - 1}}) {
-        if (!inside(nx, ny) || (old.get(nx, ny) == key) == p_key) continue;
+        if (nx < 0 || ny < 0 || (old.get(nx, ny) == key) == p_key) continue;
         if (op != 4) p.set(p_key ? x : nx, p_key ? y : ny, op == 2 ? outer : color);
         if (op != 3) p.set(p_key ? nx : x, p_key ? ny : y, op == 2 ? inner : color);
       }
@@ -45,9 +44,9 @@ struct Model {
     each([&](int32_t x, int32_t y) {
       std::vector<std::pair<int32_t, int32_t>> region;
       const std::function<void(int32_t, int32_t)> grow = [&](int32_t a, int32_t b) {
-        if (!inside(a, b) || old.get(a, b) != key || !seen.emplace(a, b).second) return;
+        if (old.get(a, b) != key || !seen.emplace(a, b).second) return;
         region.emplace_back(a, b);
-        grow(a - 1, b), grow(a + 1, b), grow(a, b - 1), grow(a, b + 1);
+        for (const auto& [c, d] : neighbours(old, a, b)) grow(c, d);
       };
       grow(x, y);
       if (region.empty() || static_cast<int32_t>(region.size()) > limit) return;
@@ -59,30 +58,25 @@ struct Model {
 
   template <class Valid>
   bool fill(int32_t x, int32_t y, bool by_average, Valid valid) {
-    const std::pair<int32_t, int32_t> around[] = {{x - 1, y}, {x + 1, y}, {x, y - 1}, {x, y + 1}};
-    uint32_t count[4] = {}, colour[4] = {}, n = 0;
-    for (int i = 0; i < 4; ++i) {
-      const auto& [a, b] = around[i];
-      if (!inside(a, b) || !valid(a, b)) continue;
-      colour[i] = p.get(a, b);
-      n += count[i] = 1;
-    }
+    std::vector<uint32_t> colour;
+    for (const auto& [a, b] : neighbours(p, x, y))
+      if (valid(a, b)) colour.push_back(p.get(a, b));
+    const size_t n = colour.size();
     if (n == 0) return false;
     if (by_average) {
       constexpr uint32_t multiplier[] = {0, 256, 128, 85, 64}, bias[] = {0, 0, 0, 3, 2};
       p.set(x, y, per_channel([&](int at) {
               uint32_t sum = bias[n];
-              for (int i = 0; i < 4; ++i) sum += count[i] * channel(colour[i], at);
+              for (const uint32_t c : colour) sum += channel(c, at);
               return sum * multiplier[n] >> 8;
             }));
       return true;
     }
-    for (const auto& [a, b] : {std::pair{0, 1}, {0, 2}, {0, 3}, {1, 2}, {1, 3}, {2, 3}})
-      if (colour[a] == colour[b] && count[a] && count[b]) count[a] += count[b];
-    int best = 0;
-    for (int i = 1; i < 4; ++i)
-      if (count[i] > count[best]) best = i;
-    p.set(x, y, colour[best]);
+    std::vector<uint32_t> count(n, 1);
+    for (size_t a = 0; a < n; ++a)
+      for (size_t b = a + 1; b < n; ++b)
+        if (colour[a] == colour[b]) count[a] += count[b];
+    p.set(x, y, colour[static_cast<size_t>(std::max_element(count.begin(), count.end()) - count.begin())]);
     return true;
   }
 
