@@ -41,6 +41,29 @@ void build_ramp(uint32_t (&weights)[256], double p, double s) {
   }
 }
 
+// The line that gives these weights, which lie on one but for their rounding: much cheaper than to look them up. False
+// for the rare ramp whose rounding no line follows.
+bool fit_line(const uint32_t (&weights)[256], double s, StencilRamp& line) {
+  double rise = 256.0 * static_cast<double>(0.003921569f) / s;
+  if (rise > 1024.0) rise = 1024.0;  // from nothing to all in one step
+  line.shift = 16;
+  for (rise *= 65536.0; rise > 65533.0; rise /= 2) --line.shift;
+  line.rise = trunc32(rise);
+  for (const int last = line.rise + 1; line.rise <= last; ++line.rise) {
+    int32_t low = INT32_MIN, high = INT32_MAX;
+    for (int32_t i = 0; i < 256; ++i) {
+      const auto w = static_cast<int32_t>(weights[i]);
+      const int32_t least = (w << line.shift) - line.rise * i, most = least + (1 << line.shift) - 1;
+      if (w > 0 && least > low) low = least;
+      if (w < 256 && most < high) high = most;
+    }
+    if (low > high) continue;
+    line.base = low != INT32_MIN ? low : high;
+    return true;
+  }
+  return false;
+}
+
 int32_t flip(const StencilAreas& areas, float progress, float softness) {
   const StencilKernels& k = kernels<StencilKernels>();
   const float p = progress > 0 ? (progress < 1 ? progress : 1.0f) : 0.0f;  // not a number: 0
@@ -49,7 +72,11 @@ int32_t flip(const StencilAreas& areas, float progress, float softness) {
   } else if (softness > 0) {
     uint32_t weights[256];
     build_ramp(weights, static_cast<double>(p), static_cast<double>(softness));
-    k.soft(areas, weights);
+    StencilRamp line;
+    if (fit_line(weights, static_cast<double>(softness), line))
+      k.ramp(areas, line);
+    else
+      k.soft(areas, weights);
   } else {
     const auto limit = static_cast<uint32_t>(trunc32(p * 256.0f));
     if (limit == 0)

@@ -7,6 +7,7 @@ namespace {
 
 using tessaro::AreaPair;
 using tessaro::StencilAreas;
+using tessaro::StencilRamp;
 
 template <class P>
 struct Hard {
@@ -18,6 +19,12 @@ template <class P>
 struct Soft {
   const uint32_t* weights;
   TESSARO_INLINE P operator()(P o, P i, P stencil) const { return mix(i, o, lookup_alpha(stencil, weights)); }
+};
+template <class P>
+struct Ramp {
+  AlphaLine line;
+  TESSARO_INLINE explicit Ramp(const StencilRamp& r) : line{r.rise, r.base, r.shift} {}
+  TESSARO_INLINE P operator()(P o, P i, P stencil) const { return mix(i, o, ramp_alpha(stencil, line)); }
 };
 template <class P>
 struct Fade {
@@ -71,6 +78,7 @@ struct AddSigned {
 TESSARO_KERNELS(StencilKernels){
     .hard = walk_stencil<Hard, uint32_t>,
     .soft = walk_stencil<Soft, const uint32_t*>,
+    .ramp = walk_stencil<Ramp, const StencilRamp&>,
     .fade = walk_stencil<Fade, uint32_t>,
     .add_signed = [](const AreaPair& n, uint32_t raise, uint32_t lower,
                      uint32_t factor) { walk2<AddSigned>(n, raise, lower, factor); },

@@ -126,6 +126,13 @@ TESSARO_INLINE Px::Half lookup_alpha(Px a, const uint32_t* table) {
       _mm256_i32gather_epi32(reinterpret_cast<const int*>(table), _mm256_srli_epi32(a.v, 24), 4);
   return {_mm256_or_si256(t, _mm256_slli_epi32(t, 16))};
 }
+TESSARO_INLINE Px::Half ramp_alpha(Px a, const AlphaLine& line) {
+  const __m256i products = _mm256_madd_epi16(alpha_halves(a).v, _mm256_set1_epi32(rise_pair(line)));
+  const __m256i sums = _mm256_add_epi32(products, _mm256_set1_epi32(line.base));
+  const __m256i values = _mm256_sra_epi32(sums, _mm_cvtsi32_si128(line.shift));
+  const __m256i words = _mm256_packus_epi32(values, values);
+  return {_mm256_min_epu16(_mm256_unpacklo_epi16(words, words), _mm256_set1_epi16(256))};
+}
 
 static_assert(PixelVector<Px>);
 

@@ -82,7 +82,8 @@ TESSARO_INLINE Px::Half even(Px a) { return {_mm512_and_si512(a.v, _mm512_set1_e
 TESSARO_INLINE Px::Half odd(Px a) { return {_mm512_srli_epi16(a.v, 8)}; }
 TESSARO_INLINE Px join(Px::Half e, Px::Half o) { return {_mm512_or_si512(e.v, _mm512_slli_epi16(o.v, 8))}; }
 TESSARO_INLINE Px join_high(Px::Half e, Px::Half o) {
-  return {_mm512_ternarylogic_epi32(_mm512_srli_epi16(e.v, 8), o.v, _mm512_set1_epi16(255), 0xE4)};
+  const __m512i upper = _mm512_set4_epi32(0x0F0F0D0D, 0x0B0B0909, 0x07070505, 0x03030101);
+  return {_mm512_mask_shuffle_epi8(o.v, 0x5555555555555555, e.v, upper)};
 }
 TESSARO_INLINE Px::Half operator+(Px::Half a, Px::Half b) { return {_mm512_add_epi16(a.v, b.v)}; }
 TESSARO_INLINE Px::Half operator-(Px::Half a, Px::Half b) { return {_mm512_sub_epi16(a.v, b.v)}; }
@@ -111,6 +112,13 @@ TESSARO_INLINE Px::Half colour_sums(Px a) {
 TESSARO_INLINE Px::Half lookup_alpha(Px a, const uint32_t* table) {
   const __m512i t = _mm512_i32gather_epi32(_mm512_srli_epi32(a.v, 24), table, 4);
   return {_mm512_or_si512(t, _mm512_slli_epi32(t, 16))};
+}
+TESSARO_INLINE Px::Half ramp_alpha(Px a, const AlphaLine& line) {
+  const __m512i products = _mm512_madd_epi16(alpha_halves(a).v, _mm512_set1_epi32(rise_pair(line)));
+  const __m512i sums = _mm512_add_epi32(products, _mm512_set1_epi32(line.base));
+  const __m512i values = _mm512_sra_epi32(sums, _mm_cvtsi32_si128(line.shift));
+  const __m512i words = _mm512_packus_epi32(values, values);
+  return {_mm512_min_epu16(_mm512_unpacklo_epi16(words, words), _mm512_set1_epi16(256))};
 }
 
 static_assert(PixelVector<Px>);

@@ -94,6 +94,14 @@ TESSARO_INLINE One::Half colour_sums(One a) {
 TESSARO_INLINE One::Half lookup_alpha(One a, const uint32_t* table) {
   return One::Half::splat(table[a.v >> 24]);
 }
+// The rise of ramp_alpha for vectors that multiply signed 16 bits in pairs: two halves of it.
+TESSARO_INLINE int rise_pair(const AlphaLine& line) {
+  return (line.rise - (line.rise >> 1)) << 16 | line.rise >> 1;
+}
+TESSARO_INLINE One::Half ramp_alpha(One a, const AlphaLine& line) {
+  const int v = (static_cast<int>(a.v >> 24) * line.rise + line.base) >> line.shift;
+  return One::Half::splat(static_cast<uint32_t>(v < 0 ? 0 : v > 256 ? 256 : v));
+}
 template <class F>
 TESSARO_INLINE One::Half per_lane(One::Half a, One::Half b, F f) {
   return {(f(a.v & 0xFFFF, b.v & 0xFFFF) & 0xFFFF) | f(a.v >> 16, b.v >> 16) << 16};

@@ -136,6 +136,13 @@ TESSARO_INLINE Px::Half lookup_alpha(Px a, const uint32_t* table) {
                          _mm_unpacklo_epi32(entry(_mm_extract_epi16(i, 4)), entry(_mm_extract_epi16(i, 6))));
   return {_mm_or_si128(t, _mm_slli_epi32(t, 16))};
 }
+TESSARO_INLINE Px::Half ramp_alpha(Px a, const AlphaLine& line) {
+  const __m128i products = _mm_madd_epi16(alpha_halves(a).v, _mm_set1_epi32(rise_pair(line)));
+  const __m128i sums = _mm_add_epi32(products, _mm_set1_epi32(line.base));
+  const __m128i values = _mm_sra_epi32(sums, _mm_cvtsi32_si128(line.shift));
+  const __m128i words = _mm_packs_epi32(values, values);
+  return min(max(Px::Half{_mm_unpacklo_epi16(words, words)}, Px::Half::splat(0)), Px::Half::splat(256));
+}
 
 static_assert(PixelVector<Px>);
 

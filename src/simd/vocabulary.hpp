@@ -25,6 +25,7 @@
 //   alpha_halves(a)              the alpha in both lanes of each pixel
 //   colour_sums(a)               blue + green + red in both lanes
 //   lookup_alpha(a, table)       table[alpha] in both lanes; table has 256 32-bit entries below 65536
+//   ramp_alpha(a, line)          (alpha * rise + base) >> shift, kept within 0..256, in both lanes; see AlphaLine
 //   P::Half::splat(v)  + - *     modulo 65536;  shl<k> shr<k> (logical);  min max (signed)
 //   mul_high(a, b)               (a * b) >> 16, unsigned; mul_high_signed(a, b) signed
 //   plus_equal(a, b)             a + 1 where a == b, else a
@@ -42,6 +43,11 @@ namespace {
 template <class P>
 struct Unzipped {
   P even, odd;
+};
+
+// A straight line over the alphas: rise is at most 65534, base and every value before the shift fit 32 bits.
+struct AlphaLine {
+  int rise, base, shift;
 };
 
 template <class P>
@@ -77,6 +83,7 @@ concept PixelVector = requires(P a, typename P::Half h, const void* in, void* ou
   { alpha_halves(a) } -> std::same_as<typename P::Half>;
   { colour_sums(a) } -> std::same_as<typename P::Half>;
   { lookup_alpha(a, table) } -> std::same_as<typename P::Half>;
+  { ramp_alpha(a, AlphaLine{}) } -> std::same_as<typename P::Half>;
   { (h + h) - (h * h) } -> std::same_as<typename P::Half>;
   { min(max(h, h), P::Half::splat(1)) } -> std::same_as<typename P::Half>;
   { plus_equal(h, h) } -> std::same_as<typename P::Half>;

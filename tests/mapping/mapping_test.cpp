@@ -124,8 +124,9 @@ int32_t flip(Kind kind, Image& dst, Image& a, Image& b, Image& stencil, Rect r, 
                                                                            r.w, r.h, r.sx, r.sy, p, s);
 }
 
-const float progresses[] = {0, 1, 0.5f, 0.25f, 0.7f, -1, 2, NAN, 1e-9f, 0.999999f};
-const float softnesses[] = {0, 0.5f, 1, 0.01f, 1e-9f, 3, 999, 1000, 1e30f, -5, NAN};
+// The rounded weights of 0.75 with 0.64 lie on no line.
+const float progresses[] = {0, 1, 0.5f, 0.25f, 0.7f, -1, 2, NAN, 1e-9f, 0.75f};
+const float softnesses[] = {0, 0.5f, 1, 0.01f, 1e-9f, 0.64f, 999, 1000, 1e30f, -5, NAN};
 
 TEST(Stencils, EqualTheirFormulas) {
   for (const Forced backend : supported_backends())
