@@ -8,16 +8,9 @@ namespace {
 using gallery::Gallery;
 using gallery::Picture;
 
-// A copy of `of` cut to w x h, drawn from (x, y).
-Picture cut(const Picture& of, int x, int y, int w, int h) {
-  Picture part(w, h);
-  BBIBlt(part, of, 0, 0, w, h, x, y);
-  return part;
-}
-
 // Alpha 0 at the rim to 255 in the middle: a soft round sprite of a photograph.
 Picture soft_disc(const Picture& of, int size) {
-  Picture disc = cut(of, (of.width() - size) / 2, (of.height() - size) / 2, size, size);
+  Picture disc = of.middle(size, size);
   for (int y = 0; y < size; ++y)
     for (int x = 0; x < size; ++x) {
       const int u = 2 * x - size + 1, v = 2 * y - size + 1;
@@ -32,7 +25,7 @@ Picture soft_disc(const Picture& of, int size) {
 void show_blits(Gallery& gallery) {
   const int w = std::min(gallery.photo(0).width(), gallery.photo(1).width());
   const int h = std::min(gallery.photo(0).height(), gallery.photo(1).height());
-  const Picture first = cut(gallery.photo(0), 0, 0, w, h), second = cut(gallery.photo(1), 0, 0, w, h);
+  const Picture first = gallery.photo(0).cut(0, 0, w, h), second = gallery.photo(1).cut(0, 0, w, h);
 
   gallery.heading(
       "Unscaled blits",
@@ -103,7 +96,7 @@ void show_blits(Gallery& gallery) {
                  [&] { BBIBltShiftAlpha(dst, disc, 0, 0, size, size, 0, 0); });
   }
   {
-    Picture dst = cut(first, (w - size) / 2, (h - size) / 2, size, size);
+    Picture dst = first.middle(size, size);
     gallery.show(
         "Alpha alone", "BBIBltAlpha(dst, sprite, 0, 0, size, size, 0, 0, 0, 0, 1, 0);",
         "dst keeps its colours and takes the sprite's alpha, inverted by a flag: a hole in the first "
@@ -112,7 +105,7 @@ void show_blits(Gallery& gallery) {
         dst, [&] { BBIBltAlpha(dst, disc, 0, 0, size, size, 0, 0, 0, 0, 1, 0); }, true);
   }
   // A key colour needs a flat background, as a studio would have it.
-  Picture keyed = cut(second, 0, 0, size, size);
+  Picture keyed = second.cut(0, 0, size, size);
   for (int y = 0; y < size; ++y)
     for (int x = 0; x < size; ++x)
       if (disc.pixels()[y * size + x] >> 24 < 128) keyed.pixels()[y * size + x] = 0xFF00B140;

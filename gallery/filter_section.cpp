@@ -8,12 +8,6 @@ namespace {
 using gallery::Gallery;
 using gallery::Picture;
 
-Picture cut(const Picture& of, int x, int y, int w, int h) {
-  Picture part(w, h);
-  BBIBlt(part, of, 0, 0, w, h, x, y);
-  return part;
-}
-
 void show_blurs(Gallery& gallery) {
   const Picture photo = gallery.photo(0).fitted(480, 360);
   const int w = photo.width(), h = photo.height();
@@ -45,7 +39,7 @@ void show_blurs(Gallery& gallery) {
   }
   {
     // A tile, blurred with both kinds of window, then laid twice side by side.
-    const Picture tile = cut(photo, w / 4, h / 4, 120, 120);
+    const Picture tile = photo.cut(w / 4, h / 4, 120, 120);
     Picture dst(490, 240);
     gallery.show("A tile that still tiles",
                  "BBIBltUBlur(tile, ...); BBIBltVBlur(tile, ...);  BBIBltUBlurLoop(tile, ...); "

@@ -26,6 +26,9 @@ class Picture {
   uint32_t* pixels() const;
   // Nearest-sample reduction to fit in width x height, done with the library's own scaled blit.
   Picture fitted(int width, int height) const;
+  // The part of this size that begins at (x, y), or in the middle.
+  Picture cut(int x, int y, int width, int height) const;
+  Picture middle(int width, int height) const;
 
  private:
   struct Block* block_;

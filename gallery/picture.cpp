@@ -53,4 +53,13 @@ Picture Picture::fitted(int max_width, int max_height) const {
   return small;
 }
 
+Picture Picture::cut(int x, int y, int part_width, int part_height) const {
+  Picture part(part_width, part_height);
+  BBIBlt(part, record(), 0, 0, part_width, part_height, x, y);
+  return part;
+}
+Picture Picture::middle(int part_width, int part_height) const {
+  return cut((width() - part_width) / 2, (height() - part_height) / 2, part_width, part_height);
+}
+
 }  // namespace gallery

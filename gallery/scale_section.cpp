@@ -9,12 +9,6 @@ namespace {
 using gallery::Gallery;
 using gallery::Picture;
 
-Picture cut(const Picture& of, int x, int y, int w, int h) {
-  Picture part(w, h);
-  BBIBlt(part, of, 0, 0, w, h, x, y);
-  return part;
-}
-
 // A round sprite of a photograph, its alpha falling off towards the rim.
 Picture sprite_of(const Picture& photo, int size) {
   const int side = std::min(photo.width(), photo.height());
@@ -43,7 +37,7 @@ void show_scaling(Gallery& gallery) {
 
   // One detail, eight times as large, by every kind of sampling.
   const int part_w = std::min(48, w), part_h = std::min(32, h), px = (w - part_w) / 2, py = (h - part_h) / 2;
-  const Picture detail = cut(photo, px, py, part_w, part_h);
+  const Picture detail = photo.cut(px, py, part_w, part_h);
   const int large_w = 8 * part_w, large_h = 8 * part_h;
   const auto enlarged = [&](const char* title, const char* code, const char* notice, auto call) {
     Picture large(large_w, large_h);
@@ -196,7 +190,7 @@ void show_scaling(Gallery& gallery) {
 
   gallery.heading("Cross-fades, depth and lines", "Pictures of the same size, pixel on pixel.");
   const int both_w = std::min(w, other.width()), both_h = std::min(h, other.height());
-  const Picture first = cut(photo, 0, 0, both_w, both_h), second = cut(other, 0, 0, both_w, both_h);
+  const Picture first = photo.cut(0, 0, both_w, both_h), second = other.cut(0, 0, both_w, both_h);
   {
     Picture dst = first;
     gallery.show("Cross-fade", "BBIFlip(dst, src, 0, 0, w, h, 0, 0, 0.5f);", "Half of each, alpha included.",

@@ -8,16 +8,10 @@ namespace {
 using gallery::Gallery;
 using gallery::Picture;
 
-Picture cut(const Picture& of, int w, int h) {
-  Picture part(w, h);
-  BBIBlt(part, of, 0, 0, w, h, (of.width() - w) / 2, (of.height() - h) / 2);
-  return part;
-}
-
 void show_tone(Gallery& gallery) {
   const int w = std::min({gallery.photo(0).width(), gallery.photo(1).width(), 480});
   const int h = std::min({gallery.photo(0).height(), gallery.photo(1).height(), 360});
-  const Picture first = cut(gallery.photo(0), w, h), second = cut(gallery.photo(1), w, h);
+  const Picture first = gallery.photo(0).middle(w, h), second = gallery.photo(1).middle(w, h);
   gallery.heading("Tone and true blend", "dst starts as the first photograph, src is the second.");
   Picture tone = first;
   gallery.show(

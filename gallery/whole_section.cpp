@@ -8,12 +8,6 @@ namespace {
 using gallery::Gallery;
 using gallery::Picture;
 
-Picture cut(const Picture& of, int x, int y, int w, int h) {
-  Picture part(w, h);
-  BBIBlt(part, of, 0, 0, w, h, x, y);
-  return part;
-}
-
 void show_turns(Gallery& gallery) {
   const Picture photo = gallery.photo(0).fitted(420, 320);
   const int w = photo.width(), h = photo.height();
@@ -55,7 +49,7 @@ void show_keys(Gallery& gallery) {
       [&] { BBIKeying(keyed, 0xFF00FF); }, true);
   {
     // A coarse stretch of a small part, with and without clean edges.
-    Picture small = cut(keyed, w / 2, h * 2 / 7, 60, 45), clean = small, shown(490, 180, 0xFF404040);
+    Picture small = keyed.cut(w / 2, h * 2 / 7, 60, 45), clean = small, shown(490, 180, 0xFF404040);
     gallery.show("Clean edges", "BBIKeyingFilter(image);\nBBIBltHalfSize(dst, image, ...);",
                  "Left: scaled down after keying, the hidden magenta bleeds into the rim. Right: transparent "
                  "pixels had "
