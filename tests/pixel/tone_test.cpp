@@ -85,24 +85,17 @@ TEST(Tone, RefusesNegativeOpacities) {
 
 // ---- Levels
 
-using Low_high = std::array<int, 2>;
-Low_high bounds(const std::vector<int>& levels, int32_t threshold) {
-  const auto passed = [&](int from, int to) {
-    int64_t n = 0;
-    for (const int v : levels) n += v >= from && v <= to;
-    return n > threshold;
+using Low_high = std::array<uint32_t, 2>;
+Low_high bounds(const std::vector<uint32_t>& levels, int32_t threshold) {
+  const auto passed = [&](uint32_t from, uint32_t to) {
+    return std::count_if(levels.begin(), levels.end(), [=](uint32_t v) { return v >= from && v <= to; }) >
+           threshold;
   };
   Low_high found{0, 255};
-  for (int v = 255; v >= 0; --v)
-    if (passed(0, v)) found[0] = v;
-  for (int v = 0; v < 256; ++v)
-    if (passed(v, 255)) found[1] = v;
+  while (found[0] < 255 && !passed(0, found[0])) ++found[0];
+  while (found[1] > 0 && !passed(found[1], 255)) --found[1];
+  if (!passed(0, 255)) found = {0, 255};
   return found;
-}
-int stretched(int v, int low, int high) {
-  if (v < low) return 0;
-  if (v == low) return low == high ? 255 - low : 0;
-  return v >= high ? 255 : 255 * (v - low) / (high - low);
 }
 
 TEST(Levels, StretchBetweenMeasuredBounds) {
@@ -112,11 +105,11 @@ TEST(Levels, StretchBetweenMeasuredBounds) {
     Image source(w, h, trial % 2 ? 0 : -4 * w - 5);
     const int floor[3] = {random.between(0, 100), random.between(0, 100), random.between(0, 100)};
     const int span[3] = {random.between(0, 150), random.between(0, 150), random.between(0, 150)};
-    std::vector<int> levels[3], all;
+    std::vector<uint32_t> levels[3], all;
     for_pixels(source, [&](int32_t x, int32_t y) {
       source.set(x, y, random.word());
       for (int c = 0; c < 3; ++c) {
-        const int v = floor[c] + random.between(0, span[c]);
+        const auto v = static_cast<uint32_t>(floor[c] + random.between(0, span[c]));
         source.at(x, y)[c] = static_cast<uint8_t>(v);
         levels[c].push_back(v);
         all.push_back(v);
@@ -128,7 +121,7 @@ TEST(Levels, StretchBetweenMeasuredBounds) {
                    r = bounds(levels[2], threshold), whole = bounds(all, threshold);
     struct {
       int32_t(TESSARO_CALL* run)(ImageRecord*, int32_t);
-      int low[3], high[3];
+      uint32_t low[3], high[3];
     } const expected[] = {
         {BBIAutoLevelRGB, {r[0], g[0], b[0]}, {r[1], g[1], b[1]}},
         {BBIAutoLevelRGBRev,
@@ -140,7 +133,7 @@ TEST(Levels, StretchBetweenMeasuredBounds) {
       Image got = source, model = source;
       for_pixels(source, [&](int32_t x, int32_t y) {
         for (int c = 0; c < 3; ++c)
-          model.at(x, y)[c] = static_cast<uint8_t>(stretched(source.at(x, y)[c], e.low[c], e.high[c]));
+          model.at(x, y)[c] = static_cast<uint8_t>(level(source.at(x, y)[c], e.low[c], e.high[c]));
       });
       ASSERT_EQ(e.run(got, threshold), 0);
       ASSERT_EQ(got, model) << "threshold " << threshold << " export " << &e - expected;

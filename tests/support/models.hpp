@@ -35,6 +35,14 @@ inline uint32_t saturated(uint32_t v, float saturation) {
   });
 }
 
+// A byte stretched from lo..hi to all that bytes hold.
+inline uint32_t level(uint32_t v, uint32_t lo, uint32_t hi) {
+  if (v < lo) return 0;
+  if (v == lo) return lo == hi ? 255 - lo : 0;
+  if (v >= hi) return 255;
+  return 255 * (v - lo) / (hi - lo);
+}
+
 struct Ends {
   int32_t x0, y0, x1, y1;
 };

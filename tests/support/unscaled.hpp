@@ -32,15 +32,13 @@ inline void compare(const UnscaledRow& row, Image& dst, Image& src, const Unscal
   const int64_t apart_x = row.alone ? 0 : int64_t{c.sx} - c.dx,
                 apart_y = row.alone ? 0 : int64_t{c.sy} - c.dy;
   int32_t status = 1;
-  for (int32_t y = 0; y < dst.height(); ++y)
-    for (int32_t x = 0; x < dst.width(); ++x) {
-      const int64_t i = int64_t{x} - c.dx, j = int64_t{y} - c.dy, u = x + apart_x, v = y + apart_y;
-      if (i < 0 || j < 0 || i >= c.w || j >= c.h) continue;
-      if (u < 0 || v < 0 || u >= from.width() || v >= from.height()) continue;
-      status = 0;
-      const uint32_t s = from.get(static_cast<int32_t>(u), static_cast<int32_t>(v));
-      want.set(x, y, row.rule(want.get(x, y), s));
-    }
+  for_pixels(dst, [&](int32_t x, int32_t y) {
+    const int64_t i = int64_t{x} - c.dx, j = int64_t{y} - c.dy, u = x + apart_x, v = y + apart_y;
+    if (i < 0 || j < 0 || i >= c.w || j >= c.h || !inside(from, u, v)) return;
+    status = 0;
+    const uint32_t s = from.get(static_cast<int32_t>(u), static_cast<int32_t>(v));
+    want.set(x, y, row.rule(want.get(x, y), s));
+  });
   ASSERT_EQ(row.run(dst, src, c), status) << row.name;
   ASSERT_EQ(dst, want) << row.name << ": " << c.w << " x " << c.h << " to " << c.dx << ',' << c.dy << " from "
                        << c.sx << ',' << c.sy << ", one image " << (&src == &dst);
@@ -53,12 +51,11 @@ inline void compare_every_pair_of_bytes(const std::vector<UnscaledRow>& rows) {
       for (const bool alphas : {false, true}) {
         Image d(256, 256), s(256, 257);
         s.fill(first_of_source);
-        for (int32_t y = 0; y < 256; ++y)
-          for (int32_t x = 0; x < 256; ++x) {
-            const auto a = static_cast<uint32_t>(x), b = static_cast<uint32_t>(y);
-            d.set(x, y, alphas ? (a * 17 & 255) * 0x010101 | (255 - a) << 24 : a * 0x01010101);
-            s.set(x, y + 1, alphas ? (a * 5 & 255) * 0x010101 | b << 24 : b * 0x01010101);
-          }
+        for_pixels(d, [&](int32_t x, int32_t y) {
+          const auto a = static_cast<uint32_t>(x), b = static_cast<uint32_t>(y);
+          d.set(x, y, alphas ? (a * 17 & 255) * 0x010101 | (255 - a) << 24 : a * 0x01010101);
+          s.set(x, y + 1, alphas ? (a * 5 & 255) * 0x010101 | b << 24 : b * 0x01010101);
+        });
         s.set(3, 1, first_of_source);
         compare(row, d, s, {0, 0, 256, 256, 0, 1});
         if (testing::Test::HasFatalFailure()) return;

@@ -22,13 +22,6 @@ uint32_t masked(const Arguments& a, uint32_t s) {
   return (s & a.mask) | (((~s & a.invert) | a.color) & ~a.mask);
 }
 
-uint32_t level(uint32_t v, uint32_t lo, uint32_t hi) {
-  if (v < lo) return 0;
-  if (v == lo) return lo == hi ? 255 - lo : 0;
-  if (v >= hi) return 255;
-  return 255 * (v - lo) / (hi - lo);
-}
-
 uint32_t chosen(const Arguments& a, uint32_t d, uint32_t raw) {
   const uint32_t b = a.source_is_base ? raw : d;
   uint32_t s = a.mask != 0xFFFFFFFF ? masked(a, raw) : raw;

@@ -32,17 +32,13 @@ TEST(CutDown, EqualsTheFormulaForEveryByteAndThreshold) {
     for (const Row& row : rows)
       for (uint32_t offset = 0; offset < 256; offset += 5) {
         Image image(61, 9, -4 * 62, offset % 4), model(61, 9, -4 * 62, offset % 4);
-        for (int32_t y = 0; y < 9; ++y)
-          for (int32_t x = 0; x < 61; ++x) {
-            uint32_t want = 0, have = 0;
-            for (int channel = 0; channel < 4; ++channel) {
-              const uint32_t c = (offset + static_cast<uint32_t>(37 * y + 4 * x + channel)) & 255;
-              have |= c << (8 * channel);
-              want |= (channel == 3 || c == 0 ? c : row.formula(c, x, y)) << (8 * channel);
-            }
-            image.set(x, y, have);
-            model.set(x, y, want);
+        for_pixels(image, [&](int32_t x, int32_t y) {
+          for (int32_t k = 0; k < 4; ++k) {
+            const uint32_t c = (offset + static_cast<uint32_t>(37 * y + 4 * x + k)) & 255;
+            image.at(x, y)[k] = static_cast<uint8_t>(c);
+            model.at(x, y)[k] = static_cast<uint8_t>(k == 3 || c == 0 ? c : row.formula(c, x, y));
           }
+        });
         ASSERT_EQ(row.run(image), 0);
         ASSERT_EQ(image, model);
       }
