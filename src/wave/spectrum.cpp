@@ -4,43 +4,48 @@
 
 #include "frame/numbers.hpp"
 #include "wave/blocks.hpp"
+#include "wave/trigonometry.hpp"
 
 using namespace tessaro;
 
 namespace {
 
+// Not 2 pi to the last bit: the constant has 15 digits.
+constexpr double full_turn = 6.28318530717959;
+
+// Twiddles that are computed at a time.
 constexpr int64_t twiddle_block = 512;
 
-// The twiddles of one stage after another: computed where a stage has more than a block of them, otherwise picked
-// from those of an earlier stage, where the same angles stand further apart.
-class TwiddleBlock {
- public:
-  Twiddles at(int64_t first, int64_t count, int64_t k, double angle) {
-    if (held_ != 0) {
-      const int64_t apart = held_ / k;
-      for (int64_t j = 0; apart > 1 && j < k; ++j) {
-        cosines_[j] = cosines_[apart * j];
-        sines_[j] = sines_[apart * j];
-      }
-    } else {
-      kernels<SpectrumKernels>().twiddles(cosines_, sines_, static_cast<size_t>(first),
-                                          static_cast<size_t>(count), angle);
+// Of powers of two every stage of k twiddles has the same, whatever the length of the transform: halving an angle is
+// exact. Those of stages of up to a block are here, the stage of k behind the k - 1 of the ones before it.
+struct StageTwiddles {
+  double cosines[2 * twiddle_block - 1], sines[2 * twiddle_block - 1];
+};
+constexpr StageTwiddles small_stages = [] {
+  StageTwiddles all{};
+  for (int64_t k = 1; k <= twiddle_block; k *= 2)
+    for (int64_t j = 0; j < k; ++j) {
+      const Direction at = direction(static_cast<double>(j) * (full_turn / static_cast<double>(2 * k)));
+      all.cosines[k - 1 + j] = at.cosine;
+      all.sines[k - 1 + j] = at.sine;
     }
-    if (count == k) held_ = k;
-    return {cosines_, sines_};
-  }
+  return all;
+}();
 
- private:
-  double cosines_[twiddle_block], sines_[twiddle_block];
-  int64_t held_ = 0;  // twiddles of the whole stage that are here
+struct TwiddleRoom {
+  double cosines[twiddle_block], sines[twiddle_block];
 };
 
-void one_stage(Bins bins, int64_t n, int64_t m, int64_t k, double angle, TwiddleBlock& twiddles) {
-  for (int64_t first = 0; first < k; first += twiddle_block) {
-    const int64_t count = smaller(twiddle_block, k - first);
-    const Twiddles at = twiddles.at(first, count, k, angle);
-    kernels<SpectrumKernels>().stage(bins, n, m, k, first, count, at.cosines, at.sines);
-  }
+Twiddles computed(TwiddleRoom& room, int64_t first, int64_t count, double angle) {
+  kernels<SpectrumKernels>().twiddles(room.cosines, room.sines, static_cast<size_t>(first),
+                                      static_cast<size_t>(count), angle);
+  return {room.cosines, room.sines};
+}
+
+// Of the stage of k, which is a power of two.
+Twiddles of_stage(TwiddleRoom& room, int64_t k, int64_t first, int64_t count) {
+  if (k <= twiddle_block) return {small_stages.cosines + k - 1 + first, small_stages.sines + k - 1 + first};
+  return computed(room, first, count, full_turn / static_cast<double>(2 * k));
 }
 
 void reverse_bits(Bins bins, int64_t n) {
@@ -64,44 +69,39 @@ void reverse_bits(Bins bins, int64_t n) {
   }
 }
 
-// Not 2 pi to the last bit: the constant has 15 digits.
-constexpr double full_turn = 6.28318530717959;
-
 void transform_any(Bins bins, int64_t n) {
-  TwiddleBlock twiddles;
+  TwiddleRoom room;
   double angle = full_turn / static_cast<double>(n);
-  for (int64_t m = n, k = n / 2; k >= 1; m = k, k /= 2, angle *= 2) one_stage(bins, n, m, k, angle, twiddles);
+  for (int64_t m = n, k = n / 2; k >= 1; m = k, k /= 2, angle *= 2)
+    for (int64_t first = 0; first < k; first += twiddle_block) {
+      const int64_t count = smaller(twiddle_block, k - first);
+      kernels<SpectrumKernels>().stage(bins, n, m, k, first, count, computed(room, first, count, angle));
+    }
   reverse_bits(bins, n);
 }
 
 // The same for a power of two of at least 64, in fewer passes.
 void transform_power_of_two(Bins bins, int64_t n) {
   const SpectrumKernels& kernel = kernels<SpectrumKernels>();
-  TwiddleBlock one, two, three;
-  double angle = full_turn / static_cast<double>(n);
+  TwiddleRoom rooms[3];
   int64_t k = n / 2;
   if (__builtin_ctzll(static_cast<uint64_t>(n)) % 2 == 0) {  // an odd number of stages before the last three
-    one_stage(bins, n, n, k, angle, one);
+    for (int64_t first = 0; first < k; first += twiddle_block) {
+      const int64_t count = smaller(twiddle_block, k - first);
+      kernel.stage(bins, n, n, k, first, count, of_stage(rooms[0], k, first, count));
+    }
     k /= 2;
-    angle *= 2;
   }
-  for (; k > 4; k /= 4, angle *= 4) {
+  for (; k > 4; k /= 4) {
     const int64_t half = k / 2;
     for (int64_t first = 0; first < half; first += twiddle_block) {
       const int64_t count = smaller(twiddle_block, half - first);
-      Twiddles at[3];
-      if (k <= twiddle_block) {
-        at[0] = one.at(0, k, k, angle);
-        at[1] = {at[0].cosines + half, at[0].sines + half};
-      } else {
-        at[0] = one.at(first, count, k, angle);
-        at[1] = two.at(half + first, count, k, angle);
-      }
-      at[2] = three.at(first, count, half, angle * 2);
+      const Twiddles at[3] = {of_stage(rooms[0], k, first, count), of_stage(rooms[1], k, half + first, count),
+                              of_stage(rooms[2], half, first, count)};
       kernel.two_stages(bins, n, k, first, count, at);
     }
   }
-  kernel.finish(bins, n, one.at(0, 4, 4, angle));
+  kernel.finish(bins, n, of_stage(rooms[0], 4, 0, 4));
 }
 
 // The angle of the point (x, y), as the field's atan2: the same on every target.

@@ -27,8 +27,7 @@ struct SpectrumKernels {
   void (*twiddles)(double* cosines, double* sines, size_t first, size_t count, double angle);
   // The butterflies of one stage for twiddles first..first + count - 1: elements i and i + k in every block of
   // m, for i = first.. in the block, as far as both lie below n.
-  void (*stage)(Bins bins, int64_t n, int64_t m, int64_t k, int64_t first, int64_t count,
-                const double* cosines, const double* sines);
+  void (*stage)(Bins bins, int64_t n, int64_t m, int64_t k, int64_t first, int64_t count, Twiddles at);
   // Two stages at once, k and k / 2, where blocks of 2 k divide n: for i = first..first + count - 1, below k / 2,
   // the first stage's twiddles of i and of i + k / 2 and the second stage's of i.
   void (*two_stages)(Bins bins, int64_t n, int64_t k, int64_t first, int64_t count, const Twiddles at[3]);

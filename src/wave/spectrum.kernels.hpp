@@ -13,11 +13,9 @@ using tessaro::Twiddles;
 void twiddles(double* __restrict cosines, double* __restrict sines, size_t first, size_t count,
               double angle) {
   for (size_t j = 0; j < count; ++j) {
-    const Angle a = reduced(static_cast<double>(static_cast<int32_t>(first + j)) * angle);
-    const double c = cosine_of_rest(a), s = sine_of_rest(a);
-    const double across = a.quarter & 1 ? s : c, up = a.quarter & 1 ? c : s;  // quarters 0, 1, 2
-    cosines[j] = a.quarter == 0 ? across : -across;
-    sines[j] = a.quarter == 2 ? -up : up;
+    const Direction at = direction(static_cast<double>(static_cast<int32_t>(first + j)) * angle);
+    cosines[j] = at.cosine;
+    sines[j] = at.sine;
   }
 }
 
@@ -35,8 +33,9 @@ void start(Bins bins, const F64* values, int64_t frames, bool stereo) {
   }
 }
 
-void stage(Bins bins, int64_t n, int64_t m, int64_t k, int64_t first, int64_t count,
-           const double* __restrict cosines, const double* __restrict sines) {
+void stage(Bins bins, int64_t n, int64_t m, int64_t k, int64_t first, int64_t count, Twiddles at) {
+  const double* __restrict cosines = at.cosines;
+  const double* __restrict sines = at.sines;
   for (int64_t i = first; i + k < n; i += m) {
     F64* __restrict near_re = reinterpret_cast<F64*>(bins.re) + i;
     F64* __restrict near_im = reinterpret_cast<F64*>(bins.im) + i;

@@ -13,7 +13,7 @@ struct Angle {
 };
 
 // For |a| up to 2^24. Pi / 2 is taken in three parts: the products with the first two are exact.
-TESSARO_INLINE Angle reduced(double a) {
+TESSARO_INLINE constexpr Angle reduced(double a) {
   const double turns = a * 0x1.45f306dc9c883p-1;
   const int32_t quarter = static_cast<int32_t>(turns + (turns < 0 ? -0.5 : 0.5));
   const double k = quarter;
@@ -26,7 +26,7 @@ TESSARO_INLINE Angle reduced(double a) {
 }
 
 // Taylor series of the rest: at an eighth of a turn the first term left out is below 2^-62.
-TESSARO_INLINE double sine_of_rest(Angle a) {
+TESSARO_INLINE constexpr double sine_of_rest(Angle a) {
   const double z = a.rest * a.rest;
   const double series =
       -1.0 / 6 +
@@ -37,7 +37,7 @@ TESSARO_INLINE double sine_of_rest(Angle a) {
                                                                          z * (1.0 / 355687428096000)))))));
   return a.rest + (a.rest * z * series + a.tail * (1 - 0.5 * z));
 }
-TESSARO_INLINE double cosine_of_rest(Angle a) {
+TESSARO_INLINE constexpr double cosine_of_rest(Angle a) {
   const double z = a.rest * a.rest, half = 0.5 * z, rough = 1 - half;
   const double series =
       1.0 / 24 +
@@ -45,6 +45,17 @@ TESSARO_INLINE double cosine_of_rest(Angle a) {
                                                 z * (1.0 / 479001600 + z * (-1.0 / 87178291200 +
                                                                             z * (1.0 / 20922789888000))))));
   return rough + (((1 - rough) - half) + (z * z * series - a.rest * a.tail));
+}
+
+// Where an angle of 0..pi points.
+struct Direction {
+  double cosine, sine;
+};
+TESSARO_INLINE constexpr Direction direction(double angle) {
+  const Angle a = reduced(angle);
+  const double c = cosine_of_rest(a), s = sine_of_rest(a);
+  const double across = a.quarter & 1 ? s : c, up = a.quarter & 1 ? c : s;  // quarters 0, 1, 2
+  return {a.quarter == 0 ? across : -across, a.quarter == 2 ? -up : up};
 }
 
 }  // namespace
