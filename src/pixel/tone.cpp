@@ -19,7 +19,7 @@ int32_t TESSARO_CALL BBIBltToneWB(ImageRecord* dst, const ImageRecord* src, int3
                                   int32_t cx, int32_t cy, int32_t sx, int32_t sy, float factor) {
   AreaPair areas;
   if (!clip_two(dst, src, dx, dy, cx, cy, sx, sy, areas)) return status_nothing;
-  kernels<ToneKernels>().tone_mix(areas, static_cast<double>(factor));
+  kernels<ToneKernels>().tone_mix(areas, factor);
   return status_done;
 }
 

@@ -10,7 +10,7 @@ namespace tessaro {
 
 struct ToneKernels {
   void (*tone)(const AreaPair&);
-  void (*tone_mix)(const AreaPair&, double factor);
+  void (*tone_mix)(const AreaPair&, float factor);
   void (*true_blend)(const AreaPair&, uint32_t factor);  // alpha_factor
 };
 TESSARO_DECLARE_KERNELS(ToneKernels);

@@ -10,10 +10,11 @@ namespace {
 
 using tessaro::AreaPair;
 
-// sum / 3 without the remainder: 21846 / 65536 is a little more than 1/3, and exact for sums up to 766.
-template <class H>
-TESSARO_INLINE H third(H sum) {
-  return mul_high(sum, H::splat(21846));
+// (blue + green + red + more) / 3, without the remainder, in both lanes: 21846 / 65536 is a little more than 1/3, and
+// exact for sums up to 766.
+template <class P>
+TESSARO_INLINE typename P::Half mean(P a, int more) {
+  return colour_sums<0>(a, 21846, 21846 * more);
 }
 
 template <class P>
@@ -23,8 +24,8 @@ struct Tone {
     return with_alpha(sub_sat(add_sat(s, sub_sat(wanted, has)), sub_sat(has, wanted)), d);
   }
   TESSARO_INLINE static P brightness(P a) {  // in all four bytes
-    const auto mean = third(colour_sums(a) + P::Half::splat(1));
-    return join(mean, mean);
+    const auto grey = mean(a, 1);
+    return join(grey, grey);
   }
 };
 
@@ -32,37 +33,41 @@ struct Tone {
 // the squares of both lanes of `even` and the lower lane of `odd`, truncated.
 // Sums stay below 2^20, and single precision gives their truncated root exactly: a float holds every sum, and the root
 // of one less than a square lies further below the integer than half a unit in the last place.
-TESSARO_INLINE One::Half weight_by_distance(One::Half even, One::Half odd, double factor) {
+TESSARO_INLINE One::Half weight_by_distance(One::Half even, One::Half odd, float factor) {
   const int32_t blue = static_cast<int16_t>(even.v), red = static_cast<int16_t>(even.v >> 16),
                 green = static_cast<int16_t>(odd.v);
   const auto sum = static_cast<float>(blue * blue + green * green + red * red);
   const int32_t distance = _mm_cvttss_si32(_mm_sqrt_ss(_mm_set_ss(sum)));
-  const int32_t weight = tessaro::trunc32(256.0 - distance * factor);
+  const int32_t weight = tessaro::trunc32(256.0 - distance * static_cast<double>(factor));
   return One::Half::splat(weight < 0 ? 0 : weight > 256 ? 256 : static_cast<uint32_t>(weight));
 }
 #if TESSARO_LANES == 16
-TESSARO_INLINE Px::Half weight_by_distance(Px::Half even, Px::Half odd, double factor) {
-  const __m512i green = _mm512_and_si512(odd.v, _mm512_set1_epi32(0xFFFF));
+TESSARO_INLINE Px::Half weight_by_distance(Px::Half even, Px::Half odd, float factor) {
+  const __m512i green = _mm512_maskz_mov_epi16(0x55555555, odd.v);
   const __m512i sum = _mm512_add_epi32(_mm512_madd_epi16(even.v, even.v), _mm512_madd_epi16(green, green));
-  const __m512i distance = _mm512_cvttps_epi32(_mm512_sqrt_ps(_mm512_cvtepi32_ps(sum)));
-  const auto weights = [factor](__m256i eight) {
-    return _mm512_cvttpd_epi32(
-        _mm512_sub_pd(_mm512_set1_pd(256), _mm512_mul_pd(_mm512_cvtepi32_pd(eight), _mm512_set1_pd(factor))));
-  };
-  const __m512i all = _mm512_inserti64x4(_mm512_castsi256_si512(weights(_mm512_castsi512_si256(distance))),
-                                         weights(_mm512_extracti64x4_epi64(distance, 1)), 1);
+  const __m512 distance =
+      _mm512_roundscale_ps(_mm512_sqrt_ps(_mm512_cvtepi32_ps(sum)), _MM_FROUND_TO_ZERO | _MM_FROUND_NO_EXC);
+  // Rounded once and downwards, single precision keeps the integer part of 256 - distance * factor. Doubles give the
+  // same but where they round to 256 what lies less than half a unit below it: that takes a tiny factor, and then the
+  // same happens at a scale that floats have.
+  const bool tiny = factor > 0 && factor <= 0x1p-46f;
+  const __m512 start = _mm512_set1_ps(tiny ? 256 + 0x1p-15f : 256),
+               slope = _mm512_set1_ps(tiny ? factor * 0x1p31f : factor);
+  const __m512i all = _mm512_cvttps_epi32(
+      _mm512_fnmadd_round_ps(distance, slope, start, _MM_FROUND_TO_NEG_INF | _MM_FROUND_NO_EXC));
   const __m512i weight =
       _mm512_min_epi32(_mm512_max_epi32(all, _mm512_setzero_si512()), _mm512_set1_epi32(256));
-  return {_mm512_or_si512(weight, _mm512_slli_epi32(weight, 16))};
+  return {_mm512_shuffle_epi8(weight, _mm512_set4_epi32(0x0D0C0D0C, 0x09080908, 0x05040504, 0x01000100))};
 }
 #elif TESSARO_LANES == 8
-TESSARO_INLINE Px::Half weight_by_distance(Px::Half even, Px::Half odd, double factor) {
+TESSARO_INLINE Px::Half weight_by_distance(Px::Half even, Px::Half odd, float factor) {
   const __m256i green = _mm256_and_si256(odd.v, _mm256_set1_epi32(0xFFFF));
   const __m256i sum = _mm256_add_epi32(_mm256_madd_epi16(even.v, even.v), _mm256_madd_epi16(green, green));
   const __m256i distance = _mm256_cvttps_epi32(_mm256_sqrt_ps(_mm256_cvtepi32_ps(sum)));
-  const auto weights = [factor](__m128i four) {
+  const __m256d slope = _mm256_set1_pd(static_cast<double>(factor));
+  const auto weights = [slope](__m128i four) {
     return _mm256_cvttpd_epi32(
-        _mm256_sub_pd(_mm256_set1_pd(256), _mm256_mul_pd(_mm256_cvtepi32_pd(four), _mm256_set1_pd(factor))));
+        _mm256_sub_pd(_mm256_set1_pd(256), _mm256_mul_pd(_mm256_cvtepi32_pd(four), slope)));
   };
   const __m256i weight = _mm256_set_m128i(weights(_mm256_extracti128_si256(distance, 1)),
                                           weights(_mm256_castsi256_si128(distance)));
@@ -71,13 +76,13 @@ TESSARO_INLINE Px::Half weight_by_distance(Px::Half even, Px::Half odd, double f
   return {_mm256_unpacklo_epi16(kept, kept)};
 }
 #elif TESSARO_LANES == 4
-TESSARO_INLINE Px::Half weight_by_distance(Px::Half even, Px::Half odd, double factor) {
+TESSARO_INLINE Px::Half weight_by_distance(Px::Half even, Px::Half odd, float factor) {
   const __m128i green = _mm_and_si128(odd.v, _mm_set1_epi32(0xFFFF));
   const __m128i sum = _mm_add_epi32(_mm_madd_epi16(even.v, even.v), _mm_madd_epi16(green, green));
   const __m128i distance = _mm_cvttps_epi32(_mm_sqrt_ps(_mm_cvtepi32_ps(sum)));
-  const auto weights = [factor](__m128i two) {
-    return _mm_cvttpd_epi32(
-        _mm_sub_pd(_mm_set1_pd(256), _mm_mul_pd(_mm_cvtepi32_pd(two), _mm_set1_pd(factor))));
+  const __m128d slope = _mm_set1_pd(static_cast<double>(factor));
+  const auto weights = [slope](__m128i two) {
+    return _mm_cvttpd_epi32(_mm_sub_pd(_mm_set1_pd(256), _mm_mul_pd(_mm_cvtepi32_pd(two), slope)));
   };
   const __m128i weight =
       _mm_unpacklo_epi64(weights(distance), weights(_mm_unpackhi_epi64(distance, distance)));
@@ -89,10 +94,10 @@ TESSARO_INLINE Px::Half weight_by_distance(Px::Half even, Px::Half odd, double f
 
 template <class P>
 struct ToneMix {
-  double factor;
+  float factor;
   TESSARO_INLINE P operator()(P d, P s) const {
-    const auto lift = third(colour_sums(s)) - third(colour_sums(d));
-    return mix(d, s, weight_by_distance(even(d) - even(s) + lift, odd(d) - odd(s) + lift, factor));
+    const auto lift = mean(d, 0) - mean(s, 0);
+    return mix(d, s, weight_by_distance(even(s) - even(d) + lift, odd(s) - odd(d) + lift, factor));
   }
 };
 
@@ -117,6 +122,6 @@ struct TrueBlend {
 
 TESSARO_KERNELS(ToneKernels){
     .tone = [](const AreaPair& n) { walk2<Tone>(n); },
-    .tone_mix = [](const AreaPair& n, double factor) { walk2<ToneMix>(n, factor); },
+    .tone_mix = [](const AreaPair& n, float factor) { walk2<ToneMix>(n, factor); },
     .true_blend = [](const AreaPair& n, uint32_t factor) { walk2<TrueBlend>(n, factor); },
 };

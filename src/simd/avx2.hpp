@@ -98,6 +98,8 @@ TESSARO_INLINE Px join_high(Px::Half e, Px::Half o) {
 }
 TESSARO_INLINE Px::Half operator+(Px::Half a, Px::Half b) { return {_mm256_add_epi16(a.v, b.v)}; }
 TESSARO_INLINE Px::Half operator-(Px::Half a, Px::Half b) { return {_mm256_sub_epi16(a.v, b.v)}; }
+TESSARO_INLINE Px::Half operator&(Px::Half a, Px::Half b) { return {_mm256_and_si256(a.v, b.v)}; }
+TESSARO_INLINE Px::Half operator|(Px::Half a, Px::Half b) { return {_mm256_or_si256(a.v, b.v)}; }
 TESSARO_INLINE Px::Half operator*(Px::Half a, Px::Half b) { return {_mm256_mullo_epi16(a.v, b.v)}; }
 TESSARO_INLINE Px::Half plus_equal(Px::Half a, Px::Half b) {
   return {_mm256_sub_epi16(a.v, _mm256_cmpeq_epi16(a.v, b.v))};
@@ -115,11 +117,13 @@ TESSARO_INLINE Px::Half shr(Px::Half a) {
   return {_mm256_srli_epi16(a.v, k)};
 }
 TESSARO_INLINE Px::Half halves(Px a) { return {a.v}; }
-TESSARO_INLINE Px::Half colour_sums(Px a) {
-  const __m256i t =
-      _mm256_madd_epi16(_mm256_maddubs_epi16(a.v, _mm256_set1_epi32(0x010101)), _mm256_set1_epi16(1));
-  return {_mm256_shuffle_epi8(t, _mm256_setr_epi8(0, 1, 0, 1, 4, 5, 4, 5, 8, 9, 8, 9, 12, 13, 12, 13,  //
-                                                  0, 1, 0, 1, 4, 5, 4, 5, 8, 9, 8, 9, 12, 13, 12, 13))};
+template <int k>
+TESSARO_INLINE Px::Half colour_sums(Px a, int m, int c) {
+  const __m256i pairs = _mm256_maddubs_epi16(a.v, _mm256_set1_epi32(0x010101 << k));
+  const __m256i sum = _mm256_madd_epi16(pairs, _mm256_set1_epi16(static_cast<short>(m)));
+  const __m256i upper = _mm256_setr_epi8(2, 3, 2, 3, 6, 7, 6, 7, 10, 11, 10, 11, 14, 15, 14, 15,  //
+                                         2, 3, 2, 3, 6, 7, 6, 7, 10, 11, 10, 11, 14, 15, 14, 15);
+  return {_mm256_shuffle_epi8(_mm256_add_epi32(sum, _mm256_set1_epi32(c)), upper)};
 }
 TESSARO_INLINE Px::Half lookup_alpha(Px a, const uint32_t* table) {
   const __m256i t =

@@ -87,6 +87,8 @@ TESSARO_INLINE Px join_high(Px::Half e, Px::Half o) {
 }
 TESSARO_INLINE Px::Half operator+(Px::Half a, Px::Half b) { return {_mm512_add_epi16(a.v, b.v)}; }
 TESSARO_INLINE Px::Half operator-(Px::Half a, Px::Half b) { return {_mm512_sub_epi16(a.v, b.v)}; }
+TESSARO_INLINE Px::Half operator&(Px::Half a, Px::Half b) { return {_mm512_and_si512(a.v, b.v)}; }
+TESSARO_INLINE Px::Half operator|(Px::Half a, Px::Half b) { return {_mm512_or_si512(a.v, b.v)}; }
 TESSARO_INLINE Px::Half operator*(Px::Half a, Px::Half b) { return {_mm512_mullo_epi16(a.v, b.v)}; }
 TESSARO_INLINE Px::Half plus_equal(Px::Half a, Px::Half b) {
   return {_mm512_mask_add_epi16(a.v, _mm512_cmpeq_epi16_mask(a.v, b.v), a.v, _mm512_set1_epi16(1))};
@@ -104,10 +106,12 @@ TESSARO_INLINE Px::Half shr(Px::Half a) {
   return {_mm512_srli_epi16(a.v, k)};
 }
 TESSARO_INLINE Px::Half halves(Px a) { return {a.v}; }
-TESSARO_INLINE Px::Half colour_sums(Px a) {
-  const __m512i t =
-      _mm512_madd_epi16(_mm512_maddubs_epi16(a.v, _mm512_set1_epi32(0x010101)), _mm512_set1_epi16(1));
-  return {_mm512_shuffle_epi8(t, _mm512_set4_epi32(0x0D0C0D0C, 0x09080908, 0x05040504, 0x01000100))};
+template <int k>
+TESSARO_INLINE Px::Half colour_sums(Px a, int m, int c) {
+  const __m512i pairs = _mm512_maddubs_epi16(a.v, _mm512_set1_epi32(0x010101 << k));
+  const __m512i sum = _mm512_madd_epi16(pairs, _mm512_set1_epi16(static_cast<short>(m)));
+  const __m512i upper = _mm512_set4_epi32(0x0F0E0F0E, 0x0B0A0B0A, 0x07060706, 0x03020302);
+  return {_mm512_shuffle_epi8(_mm512_add_epi32(sum, _mm512_set1_epi32(c)), upper)};
 }
 TESSARO_INLINE Px::Half lookup_alpha(Px a, const uint32_t* table) {
   const __m512i t = _mm512_i32gather_epi32(_mm512_srli_epi32(a.v, 24), table, 4);

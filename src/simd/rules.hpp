@@ -61,19 +61,18 @@ TESSARO_INLINE P half_bytes(P a) {
 template <class P>
 struct Saturate {
   using H = typename P::Half;
-  H even_k, odd_k, even_m, odd_m;  // alpha stays: 1 and 0
-  TESSARO_INLINE Saturate(int32_t k, int32_t m) {
-    const auto of_channel = static_cast<uint32_t>(k), of_sum = static_cast<uint32_t>(2 * m) & 0xFFFF;
+  H even_k, odd_k;  // alpha stays
+  int32_t sum_part;
+  TESSARO_INLINE Saturate(int32_t k, int32_t m) : sum_part(m) {
+    const auto of_channel = static_cast<uint32_t>(k);
     even_k = H::splat(of_channel);
     odd_k = halves(P::splat(of_channel | 1024 << 16));
-    even_m = H::splat(of_sum);
-    odd_m = halves(P::splat(of_sum));
   }
   // Not yet kept within a byte.
   TESSARO_INLINE Halves<P> sums(P s) const {
-    const H grey = shl<5>(colour_sums(s));
-    const auto sum = [&](H c, H k, H m) { return mul_high_signed(shl<6>(c), k) + mul_high_signed(grey, m); };
-    return {sum(even(s), even_k, even_m), sum(odd(s), odd_k, odd_m)};
+    const H grey = colour_sums<6>(s, sum_part, 0);
+    const auto scaled = [](H c, H k) { return mul_high_signed(shl<6>(c), k); };
+    return {scaled(even(s), even_k) + grey, scaled(odd(s), odd_k) + (grey & halves(P::splat(0xFFFF)))};
   }
   TESSARO_INLINE P operator()(P s) const {
     const auto byte = [](H c) { return min(max(c, H::splat(0)), H::splat(255)); };

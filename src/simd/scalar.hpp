@@ -88,8 +88,10 @@ TESSARO_INLINE One join_high(One::Half e, One::Half o) {
 }
 TESSARO_INLINE One::Half alpha_halves(One a) { return One::Half::splat(a.v >> 24); }
 TESSARO_INLINE One::Half halves(One a) { return {a.v}; }
-TESSARO_INLINE One::Half colour_sums(One a) {
-  return One::Half::splat((a.v & 255) + (a.v >> 8 & 255) + (a.v >> 16 & 255));
+template <int k>
+TESSARO_INLINE One::Half colour_sums(One a, int m, int c) {
+  const auto sum = static_cast<int>((a.v & 255) + (a.v >> 8 & 255) + (a.v >> 16 & 255));
+  return One::Half::splat(static_cast<uint32_t>((sum * (1 << k) * m + c) >> 16));
 }
 TESSARO_INLINE One::Half lookup_alpha(One a, const uint32_t* table) {
   return One::Half::splat(table[a.v >> 24]);
@@ -112,6 +114,8 @@ TESSARO_INLINE One::Half operator+(One::Half a, One::Half b) {
 TESSARO_INLINE One::Half operator-(One::Half a, One::Half b) {
   return per_lane(a, b, [](uint32_t x, uint32_t y) { return x - y; });
 }
+TESSARO_INLINE One::Half operator&(One::Half a, One::Half b) { return {a.v & b.v}; }
+TESSARO_INLINE One::Half operator|(One::Half a, One::Half b) { return {a.v | b.v}; }
 TESSARO_INLINE One::Half operator*(One::Half a, One::Half b) {
   return per_lane(a, b, [](uint32_t x, uint32_t y) { return x * y; });
 }

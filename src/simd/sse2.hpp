@@ -106,6 +106,8 @@ TESSARO_INLINE Px join_high(Px::Half e, Px::Half o) {
 }
 TESSARO_INLINE Px::Half operator+(Px::Half a, Px::Half b) { return {_mm_add_epi16(a.v, b.v)}; }
 TESSARO_INLINE Px::Half operator-(Px::Half a, Px::Half b) { return {_mm_sub_epi16(a.v, b.v)}; }
+TESSARO_INLINE Px::Half operator&(Px::Half a, Px::Half b) { return {_mm_and_si128(a.v, b.v)}; }
+TESSARO_INLINE Px::Half operator|(Px::Half a, Px::Half b) { return {_mm_or_si128(a.v, b.v)}; }
 TESSARO_INLINE Px::Half operator*(Px::Half a, Px::Half b) { return {_mm_mullo_epi16(a.v, b.v)}; }
 TESSARO_INLINE Px::Half plus_equal(Px::Half a, Px::Half b) {
   return {_mm_sub_epi16(a.v, _mm_cmpeq_epi16(a.v, b.v))};
@@ -123,10 +125,14 @@ TESSARO_INLINE Px::Half shr(Px::Half a) {
   return {_mm_srli_epi16(a.v, k)};
 }
 TESSARO_INLINE Px::Half halves(Px a) { return {a.v}; }
-TESSARO_INLINE Px::Half colour_sums(Px a) {
-  const __m128i t = _mm_add_epi32(_mm_madd_epi16(even(a).v, _mm_set1_epi16(1)),
-                                  _mm_and_si128(odd(a).v, _mm_set1_epi32(255)));
-  return {_mm_or_si128(t, _mm_slli_epi32(t, 16))};
+template <int k>
+TESSARO_INLINE Px::Half colour_sums(Px a, int m, int c) {
+  const __m128i factor = _mm_set1_epi16(static_cast<short>(m));
+  const __m128i green = _mm_and_si128(odd(a).v, _mm_set1_epi32(255));
+  const __m128i t = _mm_add_epi32(_mm_madd_epi16(_mm_slli_epi16(even(a).v, k), factor),
+                                  _mm_madd_epi16(_mm_slli_epi16(green, k), factor));
+  const __m128i sum = _mm_add_epi32(t, _mm_set1_epi32(c));
+  return {_mm_shufflehi_epi16(_mm_shufflelo_epi16(sum, 0xF5), 0xF5)};
 }
 TESSARO_INLINE Px::Half lookup_alpha(Px a, const uint32_t* table) {
   const __m128i i = _mm_srli_epi32(a.v, 24);

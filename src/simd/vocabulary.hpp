@@ -23,10 +23,11 @@
 //   join_high(e, o)              back to bytes from the upper halves, that is shifted right by 8
 //   halves(a)                    the lower and the upper 16 bits of a pixel as they are
 //   alpha_halves(a)              the alpha in both lanes of each pixel
-//   colour_sums(a)               blue + green + red in both lanes
+//   colour_sums<k>(a, m, c)      (((blue + green + red) << k) * m + c) >> 16, signed, in both lanes; k at most 6, m of 16
+//                                bits with sign
 //   lookup_alpha(a, table)       table[alpha] in both lanes; table has 256 32-bit entries below 65536
 //   ramp_alpha(a, line)          (alpha * rise + base) >> shift, kept within 0..256, in both lanes; see AlphaLine
-//   P::Half::splat(v)  + - *     modulo 65536;  shl<k> shr<k> (logical);  min max (signed)
+//   P::Half::splat(v)  + - *     modulo 65536;  & |;  shl<k> shr<k> (logical);  min max (signed)
 //   mul_high(a, b)               (a * b) >> 16, unsigned; mul_high_signed(a, b) signed
 //   plus_equal(a, b)             a + 1 where a == b, else a
 #pragma once
@@ -81,10 +82,10 @@ concept PixelVector = requires(P a, typename P::Half h, const void* in, void* ou
   { join_high(even(a), odd(a)) } -> std::same_as<P>;
   { halves(a) } -> std::same_as<typename P::Half>;
   { alpha_halves(a) } -> std::same_as<typename P::Half>;
-  { colour_sums(a) } -> std::same_as<typename P::Half>;
+  { colour_sums<6>(a, 1, 1) } -> std::same_as<typename P::Half>;
   { lookup_alpha(a, table) } -> std::same_as<typename P::Half>;
   { ramp_alpha(a, AlphaLine{}) } -> std::same_as<typename P::Half>;
-  { (h + h) - (h * h) } -> std::same_as<typename P::Half>;
+  { ((h + h) - (h * h)) | (h & h) } -> std::same_as<typename P::Half>;
   { min(max(h, h), P::Half::splat(1)) } -> std::same_as<typename P::Half>;
   { plus_equal(h, h) } -> std::same_as<typename P::Half>;
   { mul_high(h, h) } -> std::same_as<typename P::Half>;

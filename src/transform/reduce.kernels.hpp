@@ -50,9 +50,8 @@ void dither(uint8_t* row, size_t width, const DitherRow& thresholds) {
 // (blue + green + red) / 3 as the alpha of a pixel without colour.
 template <class P>
 TESSARO_INLINE P mean_as_alpha(P a) {
-  const auto sum = even(a & P::splat(0xFF)) + odd(a & P::splat(0xFF00)) + even(shr<16>(a) & P::splat(0xFF));
   // 21846 / 65536 is 1/3 and a little more: exact up to 765.
-  return shl<24>(join(mul_high(sum, P::Half::splat(21846)), P::Half::splat(0)));
+  return shl<24>(join(colour_sums<0>(a, 21846, 0), P::Half::splat(0)));
 }
 
 // trunc(green * w.green + blue * w.blue + red * w.red) as the alpha of a pixel without colour, in doubles and in this

@@ -43,7 +43,7 @@ uint32_t true_blend(uint32_t d, uint32_t s, float opacity) {
 std::vector<UnscaledRow> rows() {
   std::vector<UnscaledRow> all{{"tone", CALL(BBIBltTone), tone}};
   for (const float factor :
-       {0.0f, 0.3f, 1.0f, 2.0f, 1e-30f, 700.0f, -1.0f, -1e7f, -1e30f, INFINITY, -INFINITY, NAN})
+       {0.0f, 0.3f, 1.0f, 2.0f, 1e-16f, 700.0f, -1.0f, -1e7f, -1e30f, INFINITY, -INFINITY, NAN})
     all.push_back({"factor " + std::to_string(factor), CALL(BBIBltToneWB, factor),
                    [=](uint32_t d, uint32_t s) { return tone_mix(d, s, factor); }});
   for (const float opacity : {0.0f, 0.3f, 0.5f, 1.0f, 1e30f})
