@@ -3,7 +3,6 @@
 #include <array>
 #include <functional>
 
-#include "picture_files.hpp"
 #include "support/images.hpp"
 
 #ifdef _WIN32
@@ -17,11 +16,7 @@ namespace {
 
 using Bytes = std::vector<uint8_t>;
 
-Bytes bytes_of(const char* hex) {
-  Bytes bytes;
-  for (; *hex; hex += 2) bytes.push_back(static_cast<uint8_t>(std::stoi(std::string(hex, 2), nullptr, 16)));
-  return bytes;
-}
+#include "pictures.inc"
 
 constexpr uint32_t untouched = 0x12345678;
 
@@ -135,7 +130,7 @@ TEST(Picture, RefusesSizesAndReportsNothingWithoutABitmap) {
     EXPECT_EQ(e, (Extent{1, 0, 0})) << size;
     EXPECT_EQ(DecodeImage(nullptr, noise.data(), size), 1) << size;
   }
-  for (const Bytes& file : {noise, Bytes(8 << 20, 0), bytes_of(icon), bytes_of(metafile)}) {
+  for (const Bytes& file : {noise, Bytes(8 << 20, 0), icon_ico, placeable_wmf}) {
     EXPECT_EQ(extent(file), (Extent{0, 0, 0}));
     expect_drawn(
         file, 4, 4, [](int32_t, int32_t) { return untouched; }, "no bitmap");
@@ -174,9 +169,9 @@ TEST(Picture, DrawsTheCrossedRectangle) {
       row, 3, 2, [](int32_t x, int32_t y) { return y ? untouched : colour(x, y); }, "narrow");
 }
 
+// Red 200 left of column 8 and 40 right of it; green 180, 90, 20 by eight rows; blue 60.
 TEST(Picture, ReadsJpeg) {
-  for (const char* hex : {jpeg_baseline, jpeg_progressive}) {
-    const Bytes file = bytes_of(hex);
+  for (const Bytes& file : {baseline_jpg, progressive_jpg}) {
     EXPECT_EQ(extent(file), (Extent{0, himetric(16), himetric(24)}));
     Screen screen(16, 24);
     EXPECT_EQ(screen.draw(file), 0);
@@ -198,33 +193,30 @@ uint32_t indexed(int32_t index) {
 }
 
 TEST(Picture, ReadsPngAndGifWithTheirAlpha) {
+  const auto rgb = [](int32_t x, int32_t y) {
+    return static_cast<uint32_t>(x << 20 | y << 13 | (255 - 8 * x - 8 * y));
+  };
   const struct {
-    const char* hex;
+    const Bytes& file;
     int32_t w, h;
-    uint32_t (*pixel)(int32_t x, int32_t y);
+    Pixels pixel;
   } cases[] = {
-      {png_rgb, 6, 5,
-       [](int32_t x, int32_t y) { return static_cast<uint32_t>(x << 20 | y << 13 | (255 - 8 * x - 8 * y)); }},
-      {png_rgba, 6, 5,
-       [](int32_t x, int32_t y) {
-         return static_cast<uint32_t>(40 * x + y) << 24 |
-                static_cast<uint32_t>(x << 20 | y << 13 | (255 - 8 * x - 8 * y));
-       }},
-      {png_palette, 9, 3,
+      {rgb_png, 6, 5, rgb},
+      {rgba_png, 6, 5,
+       [&](int32_t x, int32_t y) { return static_cast<uint32_t>(40 * x + y) << 24 | rgb(x, y); }},
+      {palette_png, 9, 3,
        [](int32_t x, int32_t y) {
          constexpr uint32_t alpha[] = {0, 0x80000000, 0xFF000000, 0xFF000000};
          const int32_t index = x < 8 ? (x + y) % 4 : y;
          return indexed(index) | alpha[index];
        }},
-      {gif_transparent, 9, 7,
+      {transparent_gif, 9, 7,
        [](int32_t x, int32_t y) { return indexed((x + y) % 4) | ((x + y) % 4 == 3 ? 0 : 0xFF000000); }},
-      {gif_interlaced, 9, 7, [](int32_t x, int32_t y) { return indexed((x + y) % 4); }},
-  };
+      {interlaced_gif, 9, 7, [](int32_t x, int32_t y) { return indexed((x + y) % 4); }}};
   for (const auto& c : cases) {
-    const Bytes file = bytes_of(c.hex);
-    EXPECT_EQ(extent(file), (Extent{0, himetric(c.w), himetric(c.h)}));
+    EXPECT_EQ(extent(c.file), (Extent{0, himetric(c.w), himetric(c.h)}));
     expect_drawn(
-        file, c.w + 1, c.h, [&](int32_t x, int32_t y) { return x < c.w ? c.pixel(x, y) : untouched; },
+        c.file, c.w + 1, c.h, [&](int32_t x, int32_t y) { return x < c.w ? c.pixel(x, y) : untouched; },
         "png or gif");
   }
 }
@@ -251,7 +243,7 @@ TEST(Picture, RowsThatACutFileLacksAreNotDrawn) {
   }
   // Without its end marker a JPEG is whole; without the data of its last blocks their rows are missing.
   for (const size_t cut : {size_t{2}, size_t{14}}) {
-    Bytes jpeg = bytes_of(jpeg_baseline);
+    Bytes jpeg = baseline_jpg;
     jpeg.resize(jpeg.size() - cut);
     Screen screen(16, 24);
     EXPECT_EQ(screen.draw(jpeg), 0);
@@ -263,12 +255,15 @@ TEST(Picture, RowsThatACutFileLacksAreNotDrawn) {
 // Every cut and every damaged byte of every kind of file: the status is 0, and nothing is written outside the
 // destination, whose guards and the sanitizers watch.
 TEST(Picture, SurvivesDamage) {
-  std::vector<Bytes> files;
-  for (const char* hex :
-       {jpeg_baseline, jpeg_progressive, png_rgb, png_rgba, png_palette, gif_transparent, gif_interlaced})
-    files.push_back(bytes_of(hex));
-  files.push_back(bitmap_file(4, 9, 5, colour, std::vector<uint32_t>(16, 0x405060)));
-  files.push_back(bitmap_file(32, 5, -3, colour, {}, {0xFF0000, 0xFF00, 0xFF}));
+  const Bytes files[] = {baseline_jpg,
+                         progressive_jpg,
+                         rgb_png,
+                         rgba_png,
+                         palette_png,
+                         transparent_gif,
+                         interlaced_gif,
+                         bitmap_file(4, 9, 5, colour, std::vector<uint32_t>(16, 0x405060)),
+                         bitmap_file(32, 5, -3, colour, {}, {0xFF0000, 0xFF00, 0xFF})};
   Random random(7);
   Image image(7, 9);
   // Exact heap blocks, so that reading past the end is seen.
