@@ -27,6 +27,11 @@ struct Px {
   TESSARO_INLINE static uint32_t bits(__mmask16 mask) { return mask; }
 };
 
+// Reads of memory that a rule uses more than once would become an operand of each use, and the processor read it as often.
+TESSARO_INLINE Px kept(Px a) {
+  __asm__("" : "+v"(a.v));
+  return a;
+}
 TESSARO_INLINE Px add_sat(Px a, Px b) { return {_mm512_adds_epu8(a.v, b.v)}; }
 TESSARO_INLINE Px sub_sat(Px a, Px b) { return {_mm512_subs_epu8(a.v, b.v)}; }
 TESSARO_INLINE Px add(Px a, Px b) { return {_mm512_add_epi8(a.v, b.v)}; }

@@ -25,6 +25,9 @@ class RowWriter {
   RowWriter(const RowWriter&) = delete;
   RowWriter& operator=(const RowWriter&) = delete;
 
+  // Rows pay that are prepared in the nearest cache and written from there.
+  TESSARO_INLINE bool passes_caches() const { return streams_ || moves_; }
+
   TESSARO_INLINE void operator()(uint8_t* dst, const uint8_t* src, size_t width) const {
     if (moves_) {
       __builtin_memmove(dst, src, 4 * width);

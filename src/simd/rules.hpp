@@ -16,11 +16,12 @@ struct Halves {
 // where the upper bytes of the products and the sum may wrap: one product a channel.
 template <class P>
 TESSARO_INLINE P mix(P d, Halves<P> s, typename P::Half w) {
+  d = kept(d);
   return add(d, join_high((s.even - even(d)) * w, (s.odd - odd(d)) * w));
 }
 template <class P>
 TESSARO_INLINE P mix(P d, P s, typename P::Half w) {
-  return mix(d, Halves<P>::of(s), w);
+  return mix(d, Halves<P>::of(kept(s)), w);
 }
 
 template <class P>
@@ -47,7 +48,10 @@ template <class P>
 struct AlphaMix {
   AlphaWeights<P> weights;
   TESSARO_INLINE explicit AlphaMix(uint32_t factor) : weights(factor) {}
-  TESSARO_INLINE P operator()(P d, P s) const { return mix(d, s, weights(s)); }
+  TESSARO_INLINE P operator()(P d, P s) const {
+    s = kept(s);
+    return mix(d, s, weights(s));
+  }
 };
 
 // (v >> 1) of every byte.

@@ -36,6 +36,7 @@ TESSARO_INLINE One per_byte(One a, One b, F f) {
         << at;
   return {v};
 }
+TESSARO_INLINE One kept(One a) { return a; }
 TESSARO_INLINE One add_sat(One a, One b) {
   return per_byte(a, b, [](int x, int y) { return x + y > 255 ? 255 : x + y; });
 }

@@ -49,6 +49,10 @@ struct Px {
   }
 };
 
+TESSARO_INLINE Px kept(Px a) {
+  __asm__("" : "+x"(a.v));
+  return a;
+}
 TESSARO_INLINE Px add_sat(Px a, Px b) { return {_mm_adds_epu8(a.v, b.v)}; }
 TESSARO_INLINE Px sub_sat(Px a, Px b) { return {_mm_subs_epu8(a.v, b.v)}; }
 TESSARO_INLINE Px add(Px a, Px b) { return {_mm_add_epi8(a.v, b.v)}; }

@@ -5,6 +5,7 @@
 //   P::lanes                     pixels in a value
 //   P::load(p) P::load(p, n)     from any alignment; n < lanes reads n pixels and no byte more, the others are 0
 //   a.store(p) a.store(p, n)
+//   kept(a)                      a, in a register
 //   a.stream(p)                  past the caches, to a multiple of the vector's size; a fence follows the last
 //   P::splat(word)               the same pixel in every lane
 //   add_sat sub_sat add sub      per byte; the first two saturate, the others wrap
@@ -60,6 +61,7 @@ concept PixelVector = requires(P a, typename P::Half h, const void* in, void* ou
   a.store(out, n);
   a.stream(out);
   { P::splat(0u) } -> std::same_as<P>;
+  { kept(a) } -> std::same_as<P>;
   { add_sat(a, a) } -> std::same_as<P>;
   { sub_sat(a, a) } -> std::same_as<P>;
   { add(a, a) } -> std::same_as<P>;

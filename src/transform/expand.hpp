@@ -28,15 +28,19 @@ bool clip_stretch(const ImageView& dst, const ImageView& src, ScaledBlit& rect);
 
 // The clipped call, its columns to be given room.
 Stretch stretch_of(const ImageView& dst, const ImageView& src, const ScaledBlit& rect);
-// A column for each pixel, and one for each vector of at least eight. Small rectangles stay off the heap.
-inline size_t columns_room(int32_t dw) { return static_cast<size_t>(dw) + static_cast<size_t>(dw) / 8 + 1; }
+// A column for each pixel, and one for each vector of at least eight; and what it takes to start on a line of the cache,
+// without which every vector of columns would be read from two. Small rectangles stay off the heap.
+inline size_t columns_room(int32_t dw) { return static_cast<size_t>(dw) + static_cast<size_t>(dw) / 8 + 16; }
 using Columns = ScratchArray<int32_t, 256>;
+inline int32_t* aligned_columns(Columns& columns) {
+  return columns ? columns.data() + -reinterpret_cast<uintptr_t>(columns.data()) / 4 % 16 : nullptr;
+}
 // Gives a clipped call room for its columns, where they are of use, and runs it.
 template <class Run>
 void run_stretch(const ImageView& dst, const ImageView& src, const ScaledBlit& rect, Run run) {
   Stretch n = stretch_of(dst, src, rect);
   Columns columns(n.dw == n.sw || n.shared ? 0 : columns_room(n.dw));
-  n.columns = columns.data();
+  n.columns = aligned_columns(columns);
   run(n);
 }
 

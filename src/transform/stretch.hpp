@@ -1,7 +1,7 @@
 // The nearest-sample walk for kernels: which source row and column come next, and the loops that bring samples to a rule.
 #pragma once
 
-#include "simd/walk.hpp"
+#include "simd/rows.hpp"
 #include "transform/expand.hpp"
 
 namespace {
@@ -49,53 +49,50 @@ TESSARO_INLINE Px load_some(const uint8_t* at, int32_t count) {
   return count >= lanes ? Px::load(at) : Px::load(at, count > 0 ? static_cast<size_t>(count) : 0);
 }
 
-// The samples of a row, where those of each vector lie within one or two vectors of the source: loads and a permutation.
-template <int vectors>
-struct Permuted {
-  const uint8_t* src;
-  int32_t sw;
-  const int32_t *places, *bases;
-  TESSARO_INLINE Px at(size_t x, Px place) const {
-    const int32_t base = bases[x / Px::lanes], left = sw - base;
-    const uint8_t* from = src + 4 * static_cast<ptrdiff_t>(base);
-    if constexpr (vectors == 1)
-      return permuted(load_some(from, left), place);
-    else
-      return permuted(load_some(from, left),
-                      load_some(from + 4 * Px::lanes, left - static_cast<int32_t>(Px::lanes)), place);
+// A few vectors of a source row, from which pixels are picked by their places.
+template <int count>
+struct Loaded {
+  Px in[count];
+  TESSARO_INLINE explicit Loaded(const uint8_t* at) {
+    for (int k = 0; k < count; ++k) in[k] = Px::load(at + 4 * Px::lanes * static_cast<size_t>(k));
   }
-  TESSARO_INLINE Px operator()(size_t x) const { return at(x, Px::load(places + x)); }
-  TESSARO_INLINE Px operator()(size_t x, size_t n) const { return at(x, Px::load(places + x, n)); }
+  TESSARO_INLINE Loaded(const uint8_t* at, int32_t width) {
+    constexpr auto lanes = static_cast<int32_t>(Px::lanes);
+    for (int k = 0; k < count; ++k) in[k] = load_some(at + 4 * lanes * k, width - lanes * k);
+  }
+  TESSARO_INLINE Px operator[](Px place) const {
+    if constexpr (count == 1) return permuted(in[0], place);
+    if constexpr (count == 2) return permuted(in[0], in[1], place);
+    if constexpr (count == 4)
+      return select(above(place, Px::splat(2 * Px::lanes - 1)), permuted(in[2], in[3], place),
+                    permuted(in[0], in[1], place));
+  }
 };
-
-// dst[x] = rule(dst[x], sample[x])
-template <class Samples, class Rule>
-TESSARO_INLINE void row_of_samples(uint8_t* dst, const Samples& samples, size_t from, size_t width,
-                                   const Rule& rule) {
-  size_t x = 0;
-  for (; x + Px::lanes <= width; x += Px::lanes)
-    rule(Px::load(dst + 4 * x), samples(from + x)).store(dst + 4 * x);
-  if (const size_t rest = width - x)
-    rule(Px::load(dst + 4 * x, rest), samples(from + x, rest)).store(dst + 4 * x, rest);
-}
 #endif
 
 // The source columns of a call, made once.
 struct ColumnMap {
-  int vectors = 0;  // 1 or 2: by Permuted; 0: one pixel at a time
-  const int32_t *columns, *bases;
-  TESSARO_INLINE explicit ColumnMap(const Stretch& n) : columns(n.columns), bases(n.columns + n.dw) {
+  // So many vectors of the source hold the samples of a vector: loads and permutations. 0: one pixel at a time.
+  int vectors = 0;
+  bool whole_row = false;  // they hold all of a row that is shorter
+  int32_t sw;
+  const int32_t *columns, *bases;  // columns count from the base of their vector, where there are any
+  TESSARO_INLINE explicit ColumnMap(const Stretch& n)
+      : sw(n.sw), columns(n.columns), bases(n.columns + n.dw) {
     Steps column(n.sw, n.dw);
+    [[maybe_unused]] const bool even_steps = column.rest == 0;
     for (int32_t j = 0; j < n.dw; ++j, column.next()) n.columns[j] = column.at;
 #ifdef TESSARO_PERMUTES
     constexpr auto lanes = static_cast<int32_t>(Px::lanes);
-    const int64_t reach = static_cast<int64_t>(lanes - 1) * n.sw;
-    const int64_t span = reach / n.dw + (n.sw % n.dw == 0 ? 1 : 2);
-    vectors = span <= lanes ? 1 : span <= 2 * lanes ? 2 : 0;
-    if (vectors == 0) return;
+    const int64_t reach = static_cast<int64_t>(lanes - 1) * n.sw / n.dw + (even_steps ? 1 : 2);
+    const int64_t span = reach < n.sw ? reach : n.sw;
+    vectors = span <= lanes ? 1 : span <= 2 * lanes ? 2 : span <= 4 * lanes ? 4 : 0;
+    whole_row = n.sw <= vectors * lanes;
+    if (vectors == 0 || whole_row) return;
+    const int32_t last_base = n.sw - vectors * lanes;
     for (int32_t j = 0, k = n.dw; j < n.dw; j += lanes, ++k) {
-      const int32_t base = n.columns[j];
       int32_t* at = n.columns + j;
+      const int32_t base = *at < last_base ? *at : last_base;
       n.columns[k] = base;
       const Px from = Px::splat(static_cast<uint32_t>(base));
       if (n.dw - j >= lanes)
@@ -106,21 +103,44 @@ struct ColumnMap {
 #endif
   }
 #ifdef TESSARO_PERMUTES
-  // rule(d, s) with samples straight from the source.
+  // dst[x] = rule(dst[x], sample[from + x]), where there are vectors; `from` is a multiple of every vector.
   template <class Rule>
-  TESSARO_INLINE void row(uint8_t* dst, const uint8_t* src, const Stretch& n, size_t from, size_t width,
+  TESSARO_INLINE void row(uint8_t* dst, const uint8_t* src, size_t from, size_t width,
                           const Rule& rule) const {
     if (vectors == 1)
-      row_of_samples(dst, Permuted<1>{src, n.sw, columns, bases}, from, width, rule);
+      row_of<1>(dst, src, from, width, rule);
+    else if (vectors == 2)
+      row_of<2>(dst, src, from, width, rule);
     else
-      row_of_samples(dst, Permuted<2>{src, n.sw, columns, bases}, from, width, rule);
+      row_of<4>(dst, src, from, width, rule);
+  }
+  template <int count, class Rule>
+  TESSARO_INLINE void row_of(uint8_t* dst, const uint8_t* src, size_t from, size_t width,
+                             const Rule& rule) const {
+    if (whole_row) {
+      const Loaded<count> row(src, sw);
+      pick(dst, from, width, rule, [&](size_t) { return row; });
+    } else {
+      pick(dst, from, width, rule, [&](size_t x) {
+        return Loaded<count>(src + 4 * static_cast<ptrdiff_t>(bases[(from + x) / Px::lanes]));
+      });
+    }
+  }
+  template <class Rule, class Load>
+  TESSARO_INLINE void pick(uint8_t* dst, size_t from, size_t width, const Rule& rule,
+                           const Load& loaded) const {
+    size_t x = 0;
+    for (; x + Px::lanes <= width; x += Px::lanes)
+      rule(Px::load(dst + 4 * x), loaded(x)[Px::load(columns + from + x)]).store(dst + 4 * x);
+    if (const size_t rest = width - x)
+      rule(Px::load(dst + 4 * x, rest), loaded(x)[Px::load(columns + from + x, rest)])
+          .store(dst + 4 * x, rest);
   }
 #endif
-  // out[x] = sample[from + x]; `from` is a multiple of every vector.
-  TESSARO_INLINE void sample(uint8_t* out, const uint8_t* src, [[maybe_unused]] const Stretch& n, size_t from,
-                             size_t width) const {
+  // out[x] = sample[from + x]
+  TESSARO_INLINE void sample(uint8_t* out, const uint8_t* src, size_t from, size_t width) const {
 #ifdef TESSARO_PERMUTES
-    if (vectors != 0) return row(out, src, n, from, width, Replace<Px>{});
+    if (vectors != 0) return row(out, src, from, width, Replace<Px>{});
 #endif
     for (size_t x = 0; x < width; ++x)
       One::load(src + 4 * static_cast<ptrdiff_t>(columns[from + x])).store(out + 4 * x);
@@ -160,7 +180,7 @@ TESSARO_INLINE void for_samples(const Stretch& n, const Body& body) {
       for (; i < n.dh && row.at == at; ++i) row.next();
       for (int32_t x = 0; x < n.dw; x += part_width) {
         const int32_t width = n.dw - x < part_width ? n.dw - x : part_width;
-        columns.sample(samples, src, n, static_cast<size_t>(x), static_cast<size_t>(width));
+        columns.sample(samples, src, static_cast<size_t>(x), static_cast<size_t>(width));
         dst = n.dst + from * n.dst_pitch + 4 * static_cast<ptrdiff_t>(x);
         for (int32_t k = from; k < i; ++k, dst += n.dst_pitch)
           body.template operator()<V>(dst, samples, x, width, k);
@@ -186,36 +206,28 @@ TESSARO_INLINE void stretch(const Stretch& n, const Args&... args) {
 template <template <class> class Rule, class... Args>
 TESSARO_INLINE void stretch_short(const Stretch& n, const Args&... args) {
 #ifdef TESSARO_PERMUTES
-  // Close columns only; the others' samples would be fetched again for each row that shows them.
-  if (n.dw != n.sw && !n.shared && n.columns && n.sw < 2 * static_cast<int64_t>(n.dw)) {
-    const ColumnMap columns(n);
-    const Rule<Px> rule{args...};
-    Steps row(n.sh, n.dh);
-    uint8_t* dst = n.dst;
-    for (int32_t i = 0; i < n.dh; ++i, row.next(), dst += n.dst_pitch)
-      columns.row(dst, n.src + row.at * n.src_pitch, n, 0, static_cast<size_t>(n.dw), rule);
-    return;
+  // The samples of rows that are shown often are better kept.
+  if (n.dw != n.sw && !n.shared && n.columns && n.dh < 2 * static_cast<int64_t>(n.sh)) {
+    if (const ColumnMap columns(n); columns.vectors != 0) {
+      const Rule<Px> rule{args...};
+      Steps row(n.sh, n.dh);
+      uint8_t* dst = n.dst;
+      for (int32_t i = 0; i < n.dh; ++i, row.next(), dst += n.dst_pitch)
+        columns.row(dst, n.src + row.at * n.src_pitch, 0, static_cast<size_t>(n.dw), rule);
+      return;
+    }
   }
 #endif
   stretch<Px, Rule>(n, args...);
 }
 
-// A copy with aligned stores: where the pitch is no multiple of a vector, unaligned ones would cross two lines of the cache
-// each.
-TESSARO_INLINE void copy_row(uint8_t* dst, const uint8_t* src, size_t width) {
-  const size_t ahead = -reinterpret_cast<uintptr_t>(dst) / 4 % Px::lanes;
-  if (ahead != 0 && ahead < width) {
-    Px::load(src, ahead).store(dst, ahead);
-    dst += 4 * ahead;
-    src += 4 * ahead;
-    width -= ahead;
-  }
-  row2<Px>(dst, src, width, Replace<Px>{});
-}
-
-// Rows that show the same source row are copies of the first.
 TESSARO_INLINE void stretch_copy(const Stretch& n) {
   if (n.dw == n.sw || n.shared || !n.columns) return stretch<Px, Replace>(n);
+  const RowWriter write(n.dw, n.dh);
+  if (write.passes_caches())
+    return for_samples<Px>(n, [&]<class P>(uint8_t* dst, const uint8_t* src, int32_t, int32_t width,
+                                           int32_t) { write(dst, src, static_cast<size_t>(width)); });
+  // In the caches, rows that show the same source row are copies of the first.
   const ColumnMap columns(n);
   const auto width = static_cast<size_t>(n.dw);
   Steps row(n.sh, n.dh);
@@ -223,9 +235,9 @@ TESSARO_INLINE void stretch_copy(const Stretch& n) {
   int32_t shown = -1;
   for (int32_t i = 0; i < n.dh; ++i, row.next(), dst += n.dst_pitch) {
     if (row.at == shown)
-      copy_row(dst, dst - n.dst_pitch, width);
+      write(dst, dst - n.dst_pitch, width);
     else
-      columns.sample(dst, n.src + row.at * n.src_pitch, n, 0, width);
+      columns.sample(dst, n.src + row.at * n.src_pitch, 0, width);
     shown = row.at;
   }
 }
