@@ -140,7 +140,7 @@ Encoded slow_ica(const Bytes& data) {
 
 Encoded slow_imist(const Bytes& data) {
   return slow_pixels(data, [](BitString& out, const uint8_t* now, const uint8_t* before) {
-    for (size_t first : {0, 1}) {
+    for (size_t first = 0; first < 2; ++first) {
       const int change = (now[first] ^ before[first]) | (now[first + 2] ^ before[first + 2]);
       const size_t kind = change == 0 ? 0 : change < 8 ? 1 : change < 32 ? 2 : 3;
       constexpr unsigned marks[] = {7, 6, 2, 0}, mark_bits[] = {3, 3, 2, 1}, widths[] = {0, 3, 5, 8};

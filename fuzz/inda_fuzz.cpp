@@ -1,3 +1,0 @@
-#include "decoder_fuzz.hpp"
-
-TESSARO_FUZZ_DECODER(indaDecoderSafe, indaDecoder)
