@@ -51,27 +51,61 @@ bool apart(const AreaPair& n) {
   return (n.dst == n.src && n.dst_pitch == n.src_pitch) || !share_memory(dst_of(n), src_of(n));
 }
 
-// Columns of one map row together, others in tiles so narrow that their map rows stay in the nearest cache, and
-// so low that their pixels' pages stay known to the processor.
+// The rows at the top that go through tables, one for every map row in use: how many they are. Building the tables and
+// transposing tiles take a good many rows to pay.
+ptrdiff_t by_tables(const Mapping& m, const int32_t* offsets) {
+  constexpr ptrdiff_t tile = 64, worth = 24;
+  AreaPair n = m.areas;
+  const MapKernels& k = kernels<MapKernels>();
+  if (n.height % tile < worth) n.height -= n.height % tile;
+  if (n.height == 0 || n.width < worth || !k.has_tables()) return 0;
+  const auto width = static_cast<size_t>(n.width);
+  size_t count = 1;
+  for (size_t x = 1; x < width; ++x) count += offsets[x] != offsets[x - 1];
+  constexpr size_t line = 64, table = 1024;
+  HeapArray<uint8_t> memory(table * count + line);
+  HeapArray<int32_t> places(width + 15);
+  if (!memory || !places) return 0;
+  uint8_t* tables = memory.data() + (line - reinterpret_cast<uintptr_t>(memory.data()) % line);
+  int32_t place = -static_cast<int32_t>(table);
+  for (size_t x = 0; x < width + 15; ++x) {
+    if (x == 0 || (x < width && offsets[x] != offsets[x - 1])) {
+      place += static_cast<int32_t>(table);
+      k.split_row(m.map.pixels + offsets[x], tables + place);
+    }
+    places[x] = place;
+  }
+  k.by_tables(n, tables, places.data());
+  return n.height;
+}
+
+// Columns of one map row together, others in tiles of so few map rows that these stay in the nearest cache, and so low
+// that their pixels' pages stay known to the processor.
 void by_columns(const Mapping& m, const int32_t* offsets) {
-  constexpr ptrdiff_t narrow = 32, low = 32, many = 64;
+  constexpr ptrdiff_t few = 24, low = 32, many = 64;
   const AreaPair& n = m.areas;
   const MapKernels& k = kernels<MapKernels>();
-  for (ptrdiff_t top = 0; top < n.height; top += low) {
+  for (ptrdiff_t top = by_tables(m, offsets); top < n.height; top += low) {
     const ptrdiff_t rows = n.height - top < low ? n.height - top : low;
     for (ptrdiff_t x = 0, end; x < n.width; x = end) {
-      for (end = x + 1; end < n.width && offsets[end] == offsets[x];) ++end;
+      const auto next = [&](ptrdiff_t from) {
+        while (++from < n.width && offsets[from] == offsets[from - 1]) {
+        }
+        return from;
+      };
       AreaPair part{n.dst + top * n.dst_pitch + 4 * x,
                     n.dst_pitch,
                     n.src + top * n.src_pitch + 4 * x,
                     n.src_pitch,
-                    end - x,
+                    0,
                     rows};
+      end = next(x);
       if (end - x >= many) {
+        part.width = end - x;
         k.by_one_row(part, m.map.pixels + offsets[x]);
         continue;
       }
-      end = n.width - x < narrow ? n.width : x + narrow;
+      for (ptrdiff_t taken = 1; taken < few && end < n.width; ++taken) end = next(end);
       for (; part.height > 0; --part.height, part.dst += n.dst_pitch, part.src += n.src_pitch)
         k.by_column(part.dst, part.src, static_cast<size_t>(end - x), m.map.pixels, offsets + x);
     }

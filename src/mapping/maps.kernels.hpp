@@ -14,12 +14,14 @@ TESSARO_INLINE uint32_t pixel_at(const uint8_t* at) {
   return v;
 }
 
-// The four bytes of `columns`, each looked up in its own channel of the map row.
-TESSARO_INLINE uint32_t look_up(const uint8_t* row, uint32_t columns) {
-  return (pixel_at(row + 4 * (columns & 255)) & 0x000000FF) |
-         (pixel_at(row + 4 * (columns >> 8 & 255)) & 0x0000FF00) |
-         (pixel_at(row + 4 * (columns >> 16 & 255)) & 0x00FF0000) |
-         (pixel_at(row + 4 * (columns >> 24)) & 0xFF000000);
+// Each byte of the pixel at `columns`, looked up in its own channel of the map row. Single bytes are read and written: four
+// lookups are most of the work wherever the row changes, and putting words together would add to it.
+template <bool keep_alpha = false>
+TESSARO_INLINE void look_up(uint8_t* dst, const uint8_t* row, const uint8_t* columns) {
+  const uint8_t b = row[4 * columns[0]], g = row[4 * columns[1] + 1], r = row[4 * columns[2] + 2],
+                a = row[4 * columns[3] + 3];
+  dst[0] = b, dst[1] = g, dst[2] = r;
+  if (!keep_alpha) dst[3] = a;
 }
 
 TESSARO_INLINE uint32_t value_of(uint32_t pixel, bool by_sum) {
@@ -27,56 +29,24 @@ TESSARO_INLINE uint32_t value_of(uint32_t pixel, bool by_sum) {
 }
 
 void plain_by_one_row(uint8_t* dst, const uint8_t* src, size_t width, const uint8_t* row) {
-  for (size_t x = 0; x < 4 * width; x += 4) {
-    const uint32_t out = look_up(row, pixel_at(src + x));
-    std::memcpy(dst + x, &out, 4);
-  }
+  for (size_t x = 0; x < 4 * width; x += 4) look_up(dst + x, row, src + x);
 }
 
-#ifdef __AVX512BW__
-
-// Sixteen pixels, each through the map row at an offset of its own.
-TESSARO_INLINE __m512i gather_pixels(const uint8_t* map, __m512i offsets, __m512i columns, __mmask16 some) {
-  const __m512i none = _mm512_setzero_si512(), byte = _mm512_set1_epi32(0x3FC);
-  const auto fetch = [&](__m512i column_times_4) {
-    const __m512i at = _mm512_add_epi32(offsets, _mm512_and_si512(column_times_4, byte));
-    return _mm512_mask_i32gather_epi32(none, some, at, map, 1);
-  };
-  const __m512i b = fetch(_mm512_slli_epi32(columns, 2)), g = fetch(_mm512_srli_epi32(columns, 6)),
-                r = fetch(_mm512_srli_epi32(columns, 14)), a = fetch(_mm512_srli_epi32(columns, 22));
-  constexpr __mmask64 first = 0x1111111111111111;
-  const __m512i bg = _mm512_mask_blend_epi8(first, g, b), ra = _mm512_mask_blend_epi8(first << 2, a, r);
-  return _mm512_mask_blend_epi16(0x55555555, ra, bg);
-}
-
-void gather_by_column(uint8_t* dst, const uint8_t* src, size_t width, const uint8_t* map,
-                      const int32_t* offsets) {
-  for (size_t x = 0; x < width; x += 16) {
-    const auto some = static_cast<__mmask16>(width - x < 16 ? (1u << (width - x)) - 1 : 0xFFFF);
-    const __m512i out = gather_pixels(map, _mm512_maskz_loadu_epi32(some, offsets + x),
-                                      _mm512_maskz_loadu_epi32(some, src + 4 * x), some);
-    _mm512_mask_storeu_epi32(dst + 4 * x, some, out);
-  }
+void by_column(uint8_t* dst, const uint8_t* src, size_t width, const uint8_t* map, const int32_t* offsets) {
+  for (size_t x = 0; x < width; ++x) look_up(dst + 4 * x, map + offsets[x], src + 4 * x);
 }
 
 template <bool by_sum, bool from_dest, bool keep_alpha>
-void gather_by_value(uint8_t* dst, const uint8_t* src, size_t width, const MapByValue& m) {
-  const __m512i byte = _mm512_set1_epi32(255), alpha = _mm512_set1_epi32(static_cast<int>(0xFF000000));
-  for (size_t x = 0; x < width; x += 16) {
-    const auto some = static_cast<__mmask16>(width - x < 16 ? (1u << (width - x)) - 1 : 0xFFFF);
-    const __m512i s = _mm512_maskz_loadu_epi32(some, src + 4 * x);
-    const __m512i d = from_dest || keep_alpha ? _mm512_maskz_loadu_epi32(some, dst + 4 * x) : s;
-    __m512i value = _mm512_srli_epi32(s, 24);
-    if (by_sum)
-      value = _mm512_add_epi32(
-          _mm512_add_epi32(_mm512_and_si512(s, byte), _mm512_and_si512(_mm512_srli_epi32(s, 8), byte)),
-          _mm512_and_si512(_mm512_srli_epi32(s, 16), byte));
-    const __m512i offsets = _mm512_mask_i32gather_epi32(_mm512_setzero_si512(), some, value, m.offsets, 4);
-    __m512i out = gather_pixels(m.map, offsets, from_dest ? d : s, some);
-    if (keep_alpha) out = _mm512_ternarylogic_epi32(d, out, alpha, 0xE4);  // the third chooses d where set
-    _mm512_mask_storeu_epi32(dst + 4 * x, some, out);
-  }
+TESSARO_INLINE void look_up_by_value(uint8_t* dst, const uint8_t* src, const MapByValue& m) {
+  look_up<keep_alpha>(dst, m.map + m.offsets[value_of(pixel_at(src), by_sum)], from_dest ? dst : src);
 }
+template <bool by_sum, bool from_dest, bool keep_alpha>
+void plain_by_value(uint8_t* dst, const uint8_t* src, size_t width, const MapByValue& m) {
+  for (size_t x = 0; x < 4 * width; x += 4)
+    look_up_by_value<by_sum, from_dest, keep_alpha>(dst + x, src + x, m);
+}
+
+#ifdef __AVX512BW__
 
 // 64 pixels, one register a channel.
 struct Planes {
@@ -124,31 +94,31 @@ TESSARO_INLINE void join_planes(const Planes& p, uint8_t* at, const __mmask16 (&
 }
 
 // A map row as four tables of 256 bytes.
+constexpr __mmask16 all_parts[4] = {0xFFFF, 0xFFFF, 0xFFFF, 0xFFFF};
 struct RowTables {
   __m512i part[4][4];  // of each channel, 64 entries
   TESSARO_INLINE void load(const uint8_t* row) {
-    const __mmask16 all[4] = {0xFFFF, 0xFFFF, 0xFFFF, 0xFFFF};
     for (int i = 0; i < 4; ++i) {
-      const Planes p = split(row + 256 * i, all);
+      const Planes p = split(row + 256 * i, all_parts);
       for (int k = 0; k < 4; ++k) part[k][i] = p.channel[k];
     }
   }
 };
+TESSARO_VBMI inline __m512i look_up(const __m512i (&part)[4], __m512i i) {
+  const __m512i low = _mm512_permutex2var_epi8(part[0], i, part[1]);
+  const __m512i high = _mm512_permutex2var_epi8(part[2], i, part[3]);
+  return _mm512_mask_blend_epi8(_mm512_movepi8_mask(i), low, high);
+}
 TESSARO_VBMI inline void look_up(const RowTables& t, Planes& p) {
-  for (int k = 0; k < 4; ++k) {
-    const __m512i i = p.channel[k];
-    const __m512i low = _mm512_permutex2var_epi8(t.part[k][0], i, t.part[k][1]);
-    const __m512i high = _mm512_permutex2var_epi8(t.part[k][2], i, t.part[k][3]);
-    p.channel[k] = _mm512_mask_blend_epi8(_mm512_movepi8_mask(i), low, high);
-  }
+  for (int k = 0; k < 4; ++k) p.channel[k] = look_up(t.part[k], p.channel[k]);
 }
 struct BlockMask {
   __mmask16 part[4];
-  TESSARO_INLINE explicit BlockMask(size_t pixels) {
-    for (size_t i = 0; i < 4; ++i) {
-      const size_t n = pixels > 16 * i ? pixels - 16 * i : 0;
-      part[i] = static_cast<__mmask16>(n < 16 ? (1u << n) - 1 : 0xFFFF);
-    }
+  TESSARO_INLINE explicit BlockMask(uint64_t pixels) {  // one bit a pixel
+    for (size_t i = 0; i < 4; ++i) part[i] = static_cast<__mmask16>(pixels >> 16 * i);
+  }
+  TESSARO_INLINE static uint64_t first(size_t pixels) {
+    return pixels < map_block ? (uint64_t{1} << pixels) - 1 : ~uint64_t{0};
   }
 };
 
@@ -160,7 +130,7 @@ TESSARO_VBMI void permute_by_one_row(const AreaPair& n, const uint8_t* row) {
   for (ptrdiff_t y = 0; y < n.height; ++y, dst += n.dst_pitch, src += n.src_pitch) {
     const auto width = static_cast<size_t>(n.width);
     for (size_t x = 0; x < width; x += map_block) {
-      const BlockMask mask(width - x);
+      const BlockMask mask(BlockMask::first(width - x));
       Planes p = split(src + 4 * x, mask.part);
       look_up(tables, p);
       join_planes(p, dst + 4 * x, mask.part, false);
@@ -168,16 +138,66 @@ TESSARO_VBMI void permute_by_one_row(const AreaPair& n, const uint8_t* row) {
   }
 }
 
-// Pixels whose rows differ gather; blocks of one value go by permutes, with the tables of the last such row.
+// A block of several rows: the pixels of each row that is there often go together by permutes, the others one by one, and
+// all of them where hardly two neighbours agree.
+template <bool by_sum, bool from_dest, bool keep_alpha>
+[[gnu::noinline]] TESSARO_VBMI void permute_mixed(uint8_t* dst, const uint8_t* src, uint64_t all,
+                                                  const MapByValue& m) {
+  constexpr int few = 6;     // pixels of one row that are not worth its tables
+  constexpr int often = 12;  // changes of the row from pixel to pixel
+  const __m512i deciding = _mm512_set1_epi32(by_sum ? 0x00FFFFFF : static_cast<int>(0xFF000000));
+  const BlockMask mask(all);
+  __m512i s[4];
+  uint64_t changes = 0;
+  for (int i = 0; i < 4; ++i) {
+    s[i] = _mm512_maskz_loadu_epi32(mask.part[i], src + 64 * i);
+    const __m512i change = _mm512_xor_si512(s[i], _mm512_alignr_epi32(s[i], s[i], 1));
+    changes |= uint64_t{_mm512_test_epi32_mask(change, deciding)} << 16 * i;
+  }
+  if (__builtin_popcountll(changes) > often) {
+    plain_by_value<by_sum, from_dest, keep_alpha>(dst, src, static_cast<size_t>(__builtin_popcountll(all)),
+                                                  m);
+    return;
+  }
+  // Nothing is written before all is read: the destination may lie a little before its source.
+  const Planes columns = split(from_dest ? dst : src, mask.part);
+  Planes found = columns;
+  uint64_t alone = 0;
+  for (uint64_t left = all; left != 0;) {
+    const uint32_t first = pixel_at(src + 4 * __builtin_ctzll(left));
+    const __m512i like = _mm512_set1_epi32(static_cast<int>(first));
+    uint64_t same = 0;
+    for (int i = 0; i < 4; ++i)
+      same |= uint64_t{_mm512_testn_epi32_mask(_mm512_xor_si512(s[i], like), deciding)} << 16 * i;
+    same &= left;
+    left ^= same;
+    if (__builtin_popcountll(same) < few) {
+      alone |= same;
+      continue;
+    }
+    RowTables tables;
+    tables.load(m.map + m.offsets[value_of(first, by_sum)]);
+    Planes p = columns;
+    look_up(tables, p);
+    for (int k = 0; k < 4; ++k) found.channel[k] = _mm512_mask_mov_epi8(found.channel[k], same, p.channel[k]);
+  }
+  for (uint64_t left = alone; left != 0; left &= left - 1) {
+    const int at = 4 * __builtin_ctzll(left);
+    look_up_by_value<by_sum, from_dest, keep_alpha>(dst + at, src + at, m);
+  }
+  join_planes(found, dst, BlockMask(all ^ alone).part, keep_alpha);
+}
+
+// Blocks of one row keep the tables of the last such row.
 template <bool by_sum, bool from_dest, bool keep_alpha>
 TESSARO_VBMI void permute_by_value(uint8_t* dst, const uint8_t* src, size_t width, const MapByValue& m) {
   RowTables tables;
   bool loaded = false;
   int32_t loaded_offset = 0;
   for (size_t x = 0; x < width; x += map_block) {
-    const size_t n = width - x < map_block ? width - x : map_block;
+    const uint64_t all = BlockMask::first(width - x);
     const uint32_t first = pixel_at(src + 4 * x);
-    const BlockMask mask(n);
+    const BlockMask mask(all);
     __m512i unlike = _mm512_setzero_si512();
     for (size_t i = 0; i < 4; ++i) {
       const __m512i s = _mm512_maskz_loadu_epi32(mask.part[i], src + 4 * x + 64 * i);
@@ -186,7 +206,7 @@ TESSARO_VBMI void permute_by_value(uint8_t* dst, const uint8_t* src, size_t widt
     }
     constexpr int deciding = by_sum ? 0x00FFFFFF : static_cast<int>(0xFF000000);
     if (_mm512_test_epi32_mask(unlike, _mm512_set1_epi32(deciding)) != 0) {
-      gather_by_value<by_sum, from_dest, keep_alpha>(dst + 4 * x, src + 4 * x, n, m);
+      permute_mixed<by_sum, from_dest, keep_alpha>(dst + 4 * x, src + 4 * x, all, m);
       continue;
     }
     const int32_t offset = m.offsets[value_of(first, by_sum)];
@@ -201,27 +221,102 @@ TESSARO_VBMI void permute_by_value(uint8_t* dst, const uint8_t* src, size_t widt
   }
 }
 
-#else
-
-template <bool by_sum, bool from_dest, bool keep_alpha>
-void plain_by_value(uint8_t* dst, const uint8_t* src, size_t width, const MapByValue& m) {
-  for (size_t x = 0; x < 4 * width; x += 4) {
-    const uint32_t s = pixel_at(src + x), d = pixel_at(dst + x);
-    uint32_t out = look_up(m.map + m.offsets[value_of(s, by_sum)], from_dest ? d : s);
-    if (keep_alpha) out = (out & 0x00FFFFFF) | (d & 0xFF000000);
-    std::memcpy(dst + x, &out, 4);
+// Transposes the bytes of sixteen rows of sixteen, within each 128 bits.
+TESSARO_INLINE void transpose(__m512i (&v)[16]) {
+  for (int round = 0; round < 4; ++round) {
+    __m512i t[16];
+    for (int i = 0; i < 8; ++i) {
+      t[2 * i] = _mm512_unpacklo_epi8(v[i], v[i + 8]);
+      t[2 * i + 1] = _mm512_unpackhi_epi8(v[i], v[i + 8]);
+    }
+    for (int i = 0; i < 16; ++i) v[i] = t[i];
   }
 }
+// Transposes four rows of four times 128 bits.
+TESSARO_INLINE void transpose(__m512i (&v)[4]) {
+  const __m512i a = _mm512_shuffle_i64x2(v[0], v[1], 0x44), b = _mm512_shuffle_i64x2(v[0], v[1], 0xEE);
+  const __m512i c = _mm512_shuffle_i64x2(v[2], v[3], 0x44), d = _mm512_shuffle_i64x2(v[2], v[3], 0xEE);
+  v[0] = _mm512_shuffle_i64x2(a, c, 0x88), v[1] = _mm512_shuffle_i64x2(a, c, 0xDD);
+  v[2] = _mm512_shuffle_i64x2(b, d, 0x88), v[3] = _mm512_shuffle_i64x2(b, d, 0xDD);
+}
 
-void plain_by_column(uint8_t* dst, const uint8_t* src, size_t width, const uint8_t* map,
-                     const int32_t* offsets) {
-  for (size_t x = 0; x < width; ++x) {
-    const uint32_t out = look_up(map + offsets[x], pixel_at(src + 4 * x));
-    std::memcpy(dst + 4 * x, &out, 4);
+// 16 columns of 64 rows, transposed so that a register holds one channel of one column, and back. At the edges of the area
+// there are fewer: then the last row stands for those that are missing.
+template <bool whole>
+TESSARO_VBMI TESSARO_INLINE void tile_by_tables(const AreaPair& n, const uint8_t* tables,
+                                                const int32_t* table_of_column, bool more) {
+  alignas(64) __m512i tile[4][16];  // of each line, 16 bytes of four rows: the first 16, the second ...
+  const auto some = static_cast<__mmask16>(whole || n.width >= 16 ? 0xFFFF : (1u << n.width) - 1);
+  __m512i v[4], w[16];
+  for (ptrdiff_t i = 0; i < 16; ++i) {
+    for (ptrdiff_t j = 0; j < 4; ++j) {
+      const ptrdiff_t row = whole || i + 16 * j < n.height ? i + 16 * j : n.height - 1;
+      const uint8_t* src = n.src + row * n.src_pitch;
+      v[j] = whole ? _mm512_loadu_si512(src) : _mm512_maskz_loadu_epi32(some, src);
+      if (more) _mm_prefetch(reinterpret_cast<const char*>(src + 256), _MM_HINT_T1);
+    }
+    transpose(v);
+    for (int j = 0; j < 4; ++j) tile[j][i] = v[j];
   }
+  for (int j = 0; j < 4; ++j) {
+    for (int i = 0; i < 16; ++i) w[i] = tile[j][i];
+    transpose(w);
+    for (int x = 0; x < 4; ++x) {
+      const uint8_t* table = tables + table_of_column[4 * j + x];
+      for (int k = 0; k < 4; ++k, table += 256) {
+        __m512i part[4];
+        for (int q = 0; q < 4; ++q) part[q] = _mm512_loadu_si512(table + 64 * q);
+        w[4 * x + k] = look_up(part, w[4 * x + k]);
+      }
+    }
+    transpose(w);
+    for (int i = 0; i < 16; ++i) tile[j][i] = w[i];
+  }
+  for (ptrdiff_t i = 0; i < 16; ++i) {
+    for (int j = 0; j < 4; ++j) v[j] = tile[j][i];
+    transpose(v);
+    for (ptrdiff_t j = 0; j < 4; ++j) {
+      const ptrdiff_t row = i + 16 * j;
+      if (whole)
+        _mm512_storeu_si512(n.dst + row * n.dst_pitch, v[j]);
+      else if (row < n.height)
+        _mm512_mask_storeu_epi32(n.dst + row * n.dst_pitch, some, v[j]);
+    }
+  }
+}
+TESSARO_VBMI void by_tables(const AreaPair& n, const uint8_t* tables, const int32_t* table_of_column) {
+  for (ptrdiff_t y = 0; y < n.height; y += 64)
+    for (ptrdiff_t x = 0; x < n.width; x += 16) {
+      const AreaPair rest{n.dst + y * n.dst_pitch + 4 * x,
+                          n.dst_pitch,
+                          n.src + y * n.src_pitch + 4 * x,
+                          n.src_pitch,
+                          n.width - x,
+                          n.height - y};
+      const bool more = rest.width > 64;
+      if (rest.width >= 16 && rest.height >= 64)
+        tile_by_tables<true>(rest, tables, table_of_column + x, more);
+      else
+        tile_by_tables<false>(rest, tables, table_of_column + x, more);
+    }
+}
+
+void split_row(const uint8_t* row, uint8_t* table) {
+  RowTables tables;
+  tables.load(row);
+  for (int k = 0; k < 4; ++k)
+    for (int i = 0; i < 4; ++i) _mm512_storeu_si512(table + 256 * k + 64 * i, tables.part[k][i]);
 }
 
 #endif
+
+bool has_tables() {
+#ifdef __AVX512BW__
+  return has_byte_permutes();
+#else
+  return false;
+#endif
+}
 
 void by_one_row(const AreaPair& n, const uint8_t* row) {
 #ifdef __AVX512BW__
@@ -234,13 +329,9 @@ void by_one_row(const AreaPair& n, const uint8_t* row) {
 template <bool by_sum, bool from_dest, bool keep_alpha>
 void by_value_of(uint8_t* dst, const uint8_t* src, size_t width, const MapByValue& m) {
 #ifdef __AVX512BW__
-  if (has_byte_permutes())
-    permute_by_value<by_sum, from_dest, keep_alpha>(dst, src, width, m);
-  else
-    gather_by_value<by_sum, from_dest, keep_alpha>(dst, src, width, m);
-#else
-  plain_by_value<by_sum, from_dest, keep_alpha>(dst, src, width, m);
+  if (has_byte_permutes()) return permute_by_value<by_sum, from_dest, keep_alpha>(dst, src, width, m);
 #endif
+  plain_by_value<by_sum, from_dest, keep_alpha>(dst, src, width, m);
 }
 
 void by_value(uint8_t* dst, const uint8_t* src, size_t width, const MapByValue& m) {
@@ -254,8 +345,16 @@ void by_value(uint8_t* dst, const uint8_t* src, size_t width, const MapByValue& 
 
 }  // namespace
 
+TESSARO_KERNELS(MapKernels){
+    .by_one_row = by_one_row,
+    .by_column = by_column,
+    .by_value = by_value,
+    .has_tables = has_tables,
 #ifdef __AVX512BW__
-TESSARO_KERNELS(MapKernels){.by_one_row = by_one_row, .by_column = gather_by_column, .by_value = by_value};
+    .split_row = split_row,
+    .by_tables = by_tables,
 #else
-TESSARO_KERNELS(MapKernels){.by_one_row = by_one_row, .by_column = plain_by_column, .by_value = by_value};
+    .split_row = nullptr,
+    .by_tables = nullptr,
 #endif
+};
