@@ -7,6 +7,7 @@
 
 #include "bench.hpp"
 #include "tessaro/tessaro.h"
+#include "wave_loops.hpp"
 
 #if TESSARO_BENCH_HAS_FFTW
 #include <fftw3.h>
@@ -45,10 +46,9 @@ Shared sound(int bits, int channels = 2, int count = frames) {
 }
 
 using Call = std::function<void(const WaveBuffer*, const WaveBuffer*)>;
-using Loop = std::function<void(Sound&, const Sound&)>;
 
 // passes: how many times the bytes of one buffer are read or written.
-void add(const std::string& name, int bits, double passes, Call call, Loop loop = nullptr) {
+void add(const std::string& name, int bits, double passes, Call call, WaveLoop loop = nullptr) {
   compare({name + "/" + std::to_string(bits), static_cast<double>(frames_of(bits)), "frame", [=] {
              const Shared dst = sound(bits, 2, frames_of(bits)), src = sound(bits, 2, frames_of(bits));
              const size_t moved = static_cast<size_t>(static_cast<double>(src->bytes.size()) * passes / 2);
@@ -56,55 +56,49 @@ void add(const std::string& name, int bits, double passes, Call call, Loop loop 
                         to = std::make_shared<std::vector<uint8_t>>(moved);
              std::vector<Contender> all = {{"tessaro", [=] { call(&dst->record, &src->record); }},
                                            {"limit", [=] { limit_copy(to->data(), from->data(), moved); }}};
-             if (loop) all.push_back({"loop", [=] { loop(*dst, *src); }});
+             if (loop)
+               all.push_back({"loop", [=] {
+                                loop(dst->bytes.data(), src->bytes.data(),
+                                     2 * static_cast<size_t>(frames_of(bits)));
+                              }});
              return all;
            }});
 }
 
-int16_t clip(int v) { return static_cast<int16_t>(std::min(std::max(v, -32768), 32767)); }
-
 void add_all() {
   for (const int bits : {16, 64, 24, 8}) {
-    const auto loop16 = [bits](auto f) -> Loop {
-      if (bits != 16) return nullptr;
-      return [f](Sound& d, const Sound& s) {
-        auto* __restrict to = reinterpret_cast<int16_t*>(d.bytes.data());
-        const auto* __restrict from = reinterpret_cast<const int16_t*>(s.bytes.data());
-        for (size_t i = 0; i < 2 * static_cast<size_t>(frames_of(16)); ++i) to[i] = f(to[i], from[i]);
-      };
-    };
+    const WaveLoops plain = wave_loops(bits);
     add(
-        "waveBlt", bits, 2, [](auto d, auto s) { waveBlt(d, s, 0, 0, d->count, 0.8f); },
-        loop16([](int, int s) { return clip(s * 51 >> 6); }));
-    add("waveFormat", bits, 2, [](auto d, auto s) { waveFormat(d, s); });
+        "waveBlt", bits, 2, [](auto d, auto s) { waveBlt(d, s, 0, 0, d->count, 0.8f); }, plain.gain);
     add(
-        "waveBlt64", bits, 2, [](auto d, auto s) { waveBlt64(d, s, 0, 0, d->count); }, loop16([](int, int s) {
-          return static_cast<int16_t>(std::min(std::max(s * (1.0 / 32767), -1.0), 1.0) * 32767);
-        }));
+        "waveFormat", bits, 2, [](auto d, auto s) { waveFormat(d, s); }, plain.convert);
     add(
-        "waveBltAdd", bits, 3, [](auto d, auto s) { waveBltAdd(d, s, 0, 0, d->count, 0.8f); },
-        loop16([](int d, int s) { return clip(d + (s * 204 >> 8)); }));
+        "waveBlt64", bits, 2, [](auto d, auto s) { waveBlt64(d, s, 0, 0, d->count); }, plain.copy64);
     add(
-        "waveBltSub", bits, 3, [](auto d, auto s) { waveBltSub(d, s, 0, 0, d->count, 0.8f); },
-        loop16([](int d, int s) { return clip(d - (s * 204 >> 8)); }));
+        "waveBltAdd", bits, 3, [](auto d, auto s) { waveBltAdd(d, s, 0, 0, d->count, 0.8f); }, plain.add);
     add(
-        "waveBltMul", bits, 3, [](auto d, auto s) { waveBltMul(d, s, 0, 0, d->count, 0.8f); },
-        loop16([](int d, int s) { return static_cast<int16_t>(std::abs(s) * d >> 15); }));
+        "waveBltSub", bits, 3, [](auto d, auto s) { waveBltSub(d, s, 0, 0, d->count, 0.8f); }, plain.sub);
+    add(
+        "waveBltMul", bits, 3, [](auto d, auto s) { waveBltMul(d, s, 0, 0, d->count, 0.8f); }, plain.mul);
     add(
         "waveNormal", bits, 2, [](auto d, auto s) { waveNormal(d, s, 0, 0, d->count, 0.009f); },
-        loop16([](int, int s) {
-          return static_cast<int16_t>(std::min(std::max(s * (1.0 / 32767) * 0.9, -1.0), 1.0) * 32767);
-        }));
-    add("waveEffectMaximizer24", bits, 3, [](auto d, auto) {
-      int32_t look = 0, write = 0;
-      double left = 1, right = 1;
-      waveEffectMaximizer24(d, &look, &write, d->count, 1.1, &left, &right);
-    });
-    add("waveEffectMaximizer64", bits, 3, [](auto d, auto s) {
-      int32_t look = 0, write = 0;
-      double left = -15, right = -15;
-      waveEffectMaximizer64(d, s, &look, &write, d->count, 0.5, &left, &right);
-    });
+        plain.normal);
+    add(
+        "waveEffectMaximizer24", bits, 3,
+        [](auto d, auto) {
+          int32_t look = 0, write = 0;
+          double left = 1, right = 1;
+          waveEffectMaximizer24(d, &look, &write, d->count, 1.1, &left, &right);
+        },
+        plain.maximize24);
+    add(
+        "waveEffectMaximizer64", bits, 3,
+        [](auto d, auto s) {
+          int32_t look = 0, write = 0;
+          double left = -15, right = -15;
+          waveEffectMaximizer64(d, s, &look, &write, d->count, 0.5, &left, &right);
+        },
+        plain.maximize64);
     add("waveBltAddNoise", bits, 2, [](auto d, auto s) { waveBltAddNoise(d, s, 0, 0, d->count, 0.1f); });
   }
   for (const int radius : {4, 50, 511})
