@@ -3,6 +3,7 @@
 #include "frame/process.hpp"
 #include "wave/blocks.hpp"
 #include "wave/oscillator.hpp"
+#include "wave/scale.hpp"
 
 using namespace tessaro;
 
@@ -25,23 +26,46 @@ struct Runs {
   size_t samples(int64_t n) const { return static_cast<size_t>(n * dst.lanes()); }
 };
 
-using Operation = void (*)(int16_t* d, const int16_t* s, size_t n, int32_t gain);
+using Operations = const SampleKernels::Operation[3];
 
 void mix(const Wave& to, const Wave& from, int32_t dst_start, int64_t src_start, int32_t count,
-         Operation operation, int32_t gain) {
+         Operations& operations, int32_t gain) {
   const Runs<int16_t> run(to, from, dst_start, src_start);
+  if (run.dst.same_layout(run.src))
+    return transform_stored(run.dst, run.src, count, [&](uint8_t* out, const uint8_t* in, size_t n) {
+      operations[run.dst.stored()](out, in, n, gain);
+    });
   transform(run.dst, run.src, count, true, [&](int16_t* out, const int16_t* in, int64_t, int64_t n) {
-    operation(out, in, run.samples(n), gain);
+    operations[stored16](reinterpret_cast<uint8_t*>(out), reinterpret_cast<const uint8_t*>(in),
+                         run.samples(n), gain);
   });
 }
 
 // The blits that scale the source by a gain of 0..4 and mix it into the destination.
 int32_t mix_scaled(const WaveBuffer* dst, const WaveBuffer* src, int32_t dst_start, int32_t src_start,
-                   int32_t count, float gain, Operation operation) {
+                   int32_t count, float gain, Operations& operations) {
   Wave to, from;
   if (!open_wave(dst, to) || !open_wave(src, from) || !(gain >= 0.0f)) return status_nothing;
-  mix(to, from, dst_start, src_start, count, operation, trunc32(limited(gain, 0.0f, 4.0f) * 256.0f));
+  mix(to, from, dst_start, src_start, count, operations, trunc32(limited(gain, 0.0f, 4.0f) * 256.0f));
   return status_done;
+}
+
+// waveBlt at the scale of the runs, whose values have the kernel at `values`.
+template <class T>
+void amplify(const Runs<T>& run, int32_t count, int32_t factor, size_t values) {
+  const auto& gain = kernels<SampleKernels>().gain24;
+  const bool same = run.dst.same_layout(run.src);
+  if (same && factor == 64)
+    copy_bytes(run.dst, run.src, count);
+  else if (same)
+    transform_stored(run.dst, run.src, count, [&](uint8_t* out, const uint8_t* in, size_t n) {
+      gain[run.dst.stored()](out, in, n, factor);
+    });
+  else
+    transform(run.dst, run.src, count, false, [&](T* out, const T* in, int64_t, int64_t n) {
+      gain[values](reinterpret_cast<uint8_t*>(out), reinterpret_cast<const uint8_t*>(in), run.samples(n),
+                   factor);
+    });
 }
 
 bool at_most_16_bits(const Wave& wave) { return wave.stored == stored8 || wave.stored == stored16; }
@@ -55,25 +79,11 @@ int32_t TESSARO_CALL waveBlt(const WaveBuffer* dst, const WaveBuffer* src, int32
   Wave to, from;
   if (!open_wave(dst, to) || !open_wave(src, from)) return status_nothing;
   const int32_t factor = trunc32(limited(gain, 0.0f, 4.0f) * 64.0f);
-  const SampleKernels& k = kernels<SampleKernels>();
-  if (at_most_16_bits(to) && at_most_16_bits(from)) {
-    // The lower 8 of the 24 bits are 0 on the way in and dropped on the way out.
-    const Runs<int16_t> run(to, from, dst_start, src_start);
-    if (factor == 64)
-      copy(run.dst, run.src, count, true);
-    else
-      transform(run.dst, run.src, count, false, [&](int16_t* out, const int16_t* in, int64_t, int64_t n) {
-        k.gain16(out, in, run.samples(n), factor);
-      });
-    return status_done;
-  }
-  const Runs<int32_t> run(to, from, dst_start, src_start);
-  if (factor == 64)
-    copy(run.dst, run.src, count, true);
+  // Of 8 and 16-bit samples the lower 8 of the 24 bits are 0 on the way in and dropped on the way out.
+  if (at_most_16_bits(to) && at_most_16_bits(from))
+    amplify(Runs<int16_t>(to, from, dst_start, src_start), count, factor, stored16);
   else
-    transform(run.dst, run.src, count, false, [&](int32_t* out, const int32_t* in, int64_t, int64_t n) {
-      k.gain24(out, in, run.samples(n), factor);
-    });
+    amplify(Runs<int32_t>(to, from, dst_start, src_start), count, factor, values24);
   return status_done;
 }
 
@@ -175,8 +185,7 @@ int32_t TESSARO_CALL waveBlt64(const WaveBuffer* dst, const WaveBuffer* src, int
                                int32_t src_start, int32_t count) {
   Wave to, from;
   if (!open_wave(dst, to) || !open_wave(src, from)) return status_nothing;
-  const Runs<double> run(to, from, dst_start, src_start);
-  copy(run.dst, run.src, count, false);
+  scale(to, from, dst_start, src_start, count, 1.0);
   return status_done;
 }
 

@@ -52,7 +52,7 @@ class Side {
     else if constexpr (sizeof(T) == 4)
       same ? k.from24[wave_.stored](at, values, samples) : k.mean24[wave_.stored](at, values, count);
     else
-      same ? k.from64[wave_.stored](at, values, samples, gain)
+      same ? k.scale64[wave_.stored][stored64](at, reinterpret_cast<const uint8_t*>(values), samples, gain)
            : k.mean64[wave_.stored](at, values, count, gain);
   }
   // Where an operation may put the values of frames i.. before write(): in the buffer itself if values are
@@ -63,8 +63,22 @@ class Side {
   // Frames i..i + n - 1 lie inside and can be moved as bytes to a buffer of the same layout.
   bool holds(int64_t i, int64_t n) const { return start_ + i >= 0 && start_ + i + n <= wave_.count; }
   uint8_t* bytes_at(int64_t i) const { return wave_.at(start_ + i); }
+  Stored stored() const { return wave_.stored; }
+  int channels() const { return wave_.lanes; }
   bool same_layout(const Side& other) const {
     return wave_.stored == other.wave_.stored && wave_.lanes == other.wave_.lanes;
+  }
+  // Frames i..i + n - 1 as they are stored, or silence; n may become less, so that it is one of the two. Silence,
+  // and where `apart`, is put into room.
+  const uint8_t* samples(int64_t i, int64_t& n, bool apart, uint8_t* room) const {
+    const int64_t at = start_ + i;
+    const bool inside = at >= 0 && at < wave_.count;
+    n = smaller(n, inside ? wave_.count - at : at < 0 ? smaller(-at, block_frames) : block_frames);
+    if (inside && !apart) return wave_.at(at);
+    const size_t size = static_cast<size_t>(n) * wave_.frame_bytes();
+    inside ? std::memcpy(room, wave_.at(at), size)
+           : std::memset(room, wave_.stored == stored8 ? 128 : 0, size);
+    return room;
   }
 
  private:
@@ -146,23 +160,32 @@ void transform(const Side<T>& dst, const Side<T>& src, int64_t count, bool mixin
   });
 }
 
-// Writes the source's frames over the destination's part of the run. Where the scale loses nothing, frames of
-// one layout move as bytes.
-template <class T>
-void copy(const Side<T>& dst, const Side<T>& src, int64_t count, bool lossless) {
-  const bool as_bytes = lossless && dst.same_layout(src);
+// Calls op(out, in, n) with the stored samples of the run: n of the destination's, to be written over, and of the
+// source's. Both have the same channels.
+template <class T, class Op>
+void transform_stored(const Side<T>& dst, const Side<T>& src, int64_t count, Op op) {
   const int64_t first = dst.first_inside(), last = dst.last_inside(count);
-  if (as_bytes && first < last && src.holds(first, last - first) && independent(dst, src, first, last)) {
-    std::memmove(dst.bytes_at(first), src.bytes_at(first),
-                 static_cast<size_t>((last - first) * dst.frame_bytes()));
-    return;
+  if (first >= last) return;
+  const bool free = independent(dst, src, first, last);
+  uint8_t room[2 * block_frames * sizeof(double)];
+  for (int64_t i = first, n; i < last; i += n) {
+    n = free ? last - i : in_order(dst, src, i, smaller(block_frames, last - i));
+    const uint8_t* in = src.samples(i, n, !free, room);
+    op(dst.bytes_at(i), in, static_cast<size_t>(n * dst.channels()));
   }
-  each_block(dst, src, count, [&](int64_t i, int64_t n, const T* in) {
-    if (as_bytes && src.holds(i, n))
-      std::memmove(dst.bytes_at(i), src.bytes_at(i), static_cast<size_t>(n * dst.frame_bytes()));
-    else
-      dst.write(i, n, in);
-  });
+}
+
+// Writes the source's frames over the destination's part of the run.
+template <class T>
+void copy(const Side<T>& dst, const Side<T>& src, int64_t count) {
+  each_block(dst, src, count, [&](int64_t i, int64_t n, const T* in) { dst.write(i, n, in); });
+}
+// The same for one layout and a scale that loses nothing of it.
+template <class T>
+void copy_bytes(const Side<T>& dst, const Side<T>& src, int64_t count) {
+  const size_t bytes = stored_bytes[dst.stored()];
+  transform_stored(dst, src, count,
+                   [=](uint8_t* out, const uint8_t* in, size_t n) { std::memmove(out, in, n * bytes); });
 }
 
 }  // namespace tessaro

@@ -2,14 +2,16 @@
 #include "frame/numbers.hpp"
 #include "wave/blocks.hpp"
 #include "wave/ramp.hpp"
+#include "wave/scale.hpp"
+#include "wave/stored.hpp"
 
 using namespace tessaro;
 
 namespace {
 
-// The most that a channel may be raised, from the highest of the bits 20 to 22 that its samples have.
-double limit24(uint32_t bits) {
-  return bits & 0x400000 ? 1.0 : bits & 0x200000 ? 2.0 : bits & 0x100000 ? 4.0 : 8.0;
+// The most that a channel may be raised, from its highest code in 24 bits.
+double limit24(int32_t peak) {
+  return peak >= 0x400000 ? 1.0 : peak >= 0x200000 ? 2.0 : peak >= 0x100000 ? 4.0 : 8.0;
 }
 
 double limit64(double peak) {
@@ -29,15 +31,18 @@ double limited(double v, double low, double high) {
   return v > high ? high : v;
 }
 
-// Calls see(values, n) for the frames that lie inside the buffer.
+// Calls see(samples, n) for the stored samples of the run that lie inside the buffer. Silence changes no peak.
 template <class T, class See>
 void look(const Side<T>& side, int64_t count, See see) {
-  T room[2 * block_frames];
-  const int64_t last = side.last_inside(count);
-  for (int64_t i = side.first_inside(), n; i < last; i += n) {
-    n = smaller(block_frames, last - i);
-    see(side.read(i, n, room, true), static_cast<size_t>(n));
-  }
+  const int64_t first = side.first_inside(), last = side.last_inside(count);
+  if (first < last) see(side.bytes_at(first), static_cast<size_t>((last - first) * side.channels()));
+}
+
+// The greatest magnitude of each channel; of a mono buffer's samples for both.
+template <class T>
+void peaks(const T low[2], const T high[2], int channels, T peak[2]) {
+  for (int lane = 0; lane < 2; ++lane) peak[lane] = high[lane] > -low[lane] ? high[lane] : -low[lane];
+  if (channels == 1) peak[0] = peak[1] = peak[0] > peak[1] ? peak[0] : peak[1];
 }
 
 void advance(int32_t* position, int32_t count) {
@@ -60,6 +65,38 @@ struct Ramp {
   }
 };
 
+// Destination frames = source frames times the ramp. Blocks have the kernel at `values`.
+template <class T>
+void raise(const Side<T>& dst, const Side<T>& src, int32_t count, Ramp ramp,
+           const SampleKernels::Ramp kernels_of[4], size_t values) {
+  const auto run = [&](size_t form, uint8_t* out, const uint8_t* in, int64_t i, size_t frames) {
+    ramp.skip_to(i);
+    kernels_of[form](out, in, frames, ramp.gain, ramp.step);
+    ramp.reached = i + static_cast<int64_t>(frames);
+  };
+  if (dst.channels() == 2 && dst.same_layout(src)) {
+    int64_t i = larger(dst.first_inside(), 0);
+    transform_stored(dst, src, count, [&](uint8_t* out, const uint8_t* in, size_t n) {
+      for (size_t done = 0, some; done < n / 2; done += some) {
+        some = n / 2 - done < block_frames ? n / 2 - done : static_cast<size_t>(block_frames);
+        const size_t at = 2 * done * stored_bytes[dst.stored()];
+        run(dst.stored(), out + at, in + at, i, some);
+        i += static_cast<int64_t>(some);
+      }
+    });
+    return;
+  }
+  transform(dst, src, count, false, [&](T* out, const T* in, int64_t i, int64_t n) {
+    run(values, reinterpret_cast<uint8_t*>(out), reinterpret_cast<const uint8_t*>(in), i,
+        static_cast<size_t>(n));
+  });
+}
+
+// What the float scale makes of a stored integer.
+double real_of(Stored stored, int32_t code) {
+  return stored == stored8 ? S8::to64(code) : stored == stored16 ? S16::to64(code) : S24::to64(code);
+}
+
 }  // namespace
 
 extern "C" {
@@ -72,9 +109,10 @@ int32_t TESSARO_CALL waveEffectMaximizer24(const WaveBuffer* buffer, int32_t* lo
   growth = limited(growth, 1.0001, 1.7);
   const SampleKernels& k = kernels<SampleKernels>();
 
-  uint32_t bits[2] = {};
-  look(Side<int32_t>(wave, load<int32_t>(look_position), 2), count,
-       [&](const int32_t* in, size_t n) { k.peaks24(in, n, bits); });
+  const Side<int32_t> seen(wave, load<int32_t>(look_position), 2);
+  int32_t low[2] = {}, high[2] = {}, peak[2];
+  look(seen, count, [&](const uint8_t* in, size_t n) { k.extremes[seen.stored()](in, n, low, high); });
+  peaks(low, high, wave.lanes, peak);
   advance(look_position, count);
 
   const double before[2] = {load<double>(left_gain), load<double>(right_gain)};
@@ -82,19 +120,14 @@ int32_t TESSARO_CALL waveEffectMaximizer24(const WaveBuffer* buffer, int32_t* lo
   for (int lane = 0; lane < 2; ++lane) {
     double gain = before[lane] * growth;
     if (gain < 1.0) gain = 1.0;
-    const double limit = limit24(bits[lane]);
+    const double limit = limit24(peak[lane] << (24 - 8 * static_cast<int>(stored_bytes[seen.stored()])));
     after[lane] = gain > limit ? limit : gain;
   }
   store<double>(left_gain, after[0]);
   store<double>(right_gain, after[1]);
 
-  Ramp ramp(before, after, count);
   const Side<int32_t> side(wave, load<int32_t>(write_position), 2);
-  transform(side, side, count, false, [&](int32_t* out, const int32_t* in, int64_t i, int64_t n) {
-    ramp.skip_to(i);
-    k.ramp24(out, in, static_cast<size_t>(n), ramp.gain, ramp.step);
-    ramp.reached = i + n;
-  });
+  raise(side, side, count, Ramp(before, after, count), k.ramp24, values24);
   advance(write_position, count);
   return status_done;
 }
@@ -107,16 +140,25 @@ int32_t TESSARO_CALL waveEffectMaximizer64(const WaveBuffer* dst, const WaveBuff
   step = limited(step, 0.0, 9.9);
   const SampleKernels& k = kernels<SampleKernels>();
 
-  double low[2] = {}, high[2] = {};
-  look(Side<double>(from, load<int32_t>(look_position), 2), count,
-       [&](const double* in, size_t n) { k.peaks64(in, n, low, high); });
+  const Side<double> seen(from, load<int32_t>(look_position), 2);
+  double low[2] = {}, high[2] = {}, peak[2];
+  look(seen, count, [&](const uint8_t* in, size_t n) {
+    if (from.stored == stored64) return k.extremes64(in, n, low, high);
+    int32_t lowest[2] = {}, highest[2] = {};
+    k.extremes[from.stored](in, n, lowest, highest);
+    for (int lane = 0; lane < 2; ++lane) {
+      low[lane] = real_of(from.stored, lowest[lane]);
+      high[lane] = real_of(from.stored, highest[lane]);
+    }
+  });
+  peaks(low, high, from.lanes, peak);
   advance(look_position, count);
 
   const double state[2] = {load<double>(left_state), load<double>(right_state)};
   double before[2], after[2], grown[2];
   for (int lane = 0; lane < 2; ++lane) {
     before[lane] = state[lane] + 16;
-    const double cap = limit64(high[lane] > -low[lane] ? high[lane] : -low[lane]) - 16;
+    const double cap = limit64(peak[lane]) - 16;
     grown[lane] = state[lane] + step;
     if (grown[lane] < -15.0) grown[lane] = -15.0;
     if (grown[lane] > cap) grown[lane] = cap;
@@ -125,14 +167,9 @@ int32_t TESSARO_CALL waveEffectMaximizer64(const WaveBuffer* dst, const WaveBuff
   store<double>(left_state, grown[0]);
   store<double>(right_state, grown[1]);
 
-  Ramp ramp(before, after, count);
   const int32_t position = load<int32_t>(write_position);
-  transform(Side<double>(to, position, 2), Side<double>(from, position, 2), count, false,
-            [&](double* out, const double* in, int64_t i, int64_t n) {
-              ramp.skip_to(i);
-              k.ramp64(out, in, static_cast<size_t>(n), ramp.gain, ramp.step);
-              ramp.reached = i + n;
-            });
+  raise(Side<double>(to, position, 2), Side<double>(from, position, 2), count, Ramp(before, after, count),
+        k.ramp64, stored64);
   advance(write_position, count);
   return status_done;
 }
@@ -143,10 +180,7 @@ int32_t TESSARO_CALL waveNormal(const WaveBuffer* dst, const WaveBuffer* src, in
   if (!open_wave(dst, to) || !open_wave(src, from)) return status_nothing;
   // The level is never measured: the divisor is the greatest of 0.01 and two values that are at most 0.
   const double gain = limited(static_cast<double>(target), 0.0, 1.0) / 0.01;
-  const int lanes = lanes_of(to, from);
-  const Side<double> out(to, dst_start, lanes);
-  each_block(out, Side<double>(from, src_start, lanes), count,
-             [&](int64_t i, int64_t n, const double* in) { out.write(i, n, in, gain); });
+  scale(to, from, dst_start, src_start, count, gain);
   return status_done;
 }
 

@@ -40,10 +40,6 @@ const uint8_t* right_of(const uint8_t* frame, int32_t channels) {
   return channels == 2 ? frame + S::bytes : frame;
 }
 
-constexpr int32_t limited(int32_t v, int32_t low, int32_t high) {
-  return v < low ? low : v > high ? high : v;
-}
-
 // What a mixing write stores, from the new value in the stored form and the sample that is there.
 int32_t mixed(S8, int32_t value, const uint8_t* at) {
   return limited(wrap_add(value, static_cast<int8_t>(*at) - 128), -128, 127);
@@ -193,7 +189,15 @@ int32_t TESSARO_CALL waveFormat(const WaveBuffer* dst, const WaveBuffer* src) {
   Wave to, from;
   if (!open_wave(dst, to) || !open_wave(src, from)) return status_nothing;
   const int lanes = lanes_of(to, from);
-  copy<int16_t>({to, 0, lanes}, {from, 0, lanes}, to.count, to.stored == stored8 || to.stored == stored16);
+  const Side<int16_t> out(to, 0, lanes), in(from, 0, lanes);
+  if (!out.same_layout(in))
+    copy(out, in, to.count);
+  else if (out.stored() == stored24)
+    transform_stored(out, in, to.count, [](uint8_t* d, const uint8_t* s, size_t n) {
+      kernels<SampleKernels>().copy16[stored24](d, s, n, 0);
+    });
+  else
+    copy_bytes(out, in, to.count);
   return status_done;
 }
 

@@ -19,6 +19,7 @@ namespace tessaro {
 // The forms a sample is stored in.
 enum Stored : uint8_t { stored8, stored16, stored24, stored64 };
 inline constexpr size_t stored_bytes[] = {1, 2, 3, 8};
+inline constexpr size_t values24 = 3;  // in tables of the 24-bit scale: values as blocks hold them
 
 struct Wave {
   uint8_t* data;
@@ -45,6 +46,13 @@ bool open_wave(const WaveBuffer* record, Wave& wave);
 void AddWave64(void* data, int32_t index, int32_t bits, int32_t channels, int32_t count, double left,
                double right);
 
+// Integer codes times a gain, truncated, in one multiplication: by `gain`, or for a magnitude a of 16 bits or less
+// a * (whole + (high + low / 65536) / 65536); from `most` on the product is beyond the highest code.
+struct Multiplier {
+  double gain;
+  uint16_t whole, high, low, most;
+};
+
 // Samples n at a time; tables are indexed by Stored. The integer scales take doubles for packed 24-bit samples.
 // out is memory of its own except where said; in and out of the host's memory have no alignment.
 struct SampleKernels {
@@ -53,37 +61,43 @@ struct SampleKernels {
   void (*to64[4])(double* out, const uint8_t* in, size_t n);
   void (*from16[3])(uint8_t* out, const int16_t* in, size_t n);
   void (*from24[3])(uint8_t* out, const int32_t* in, size_t n);
-  void (*from64[4])(uint8_t* out, const double* in, size_t n,
-                    double gain);  // clamps in * gain; out may be in
   // Pairs of a stereo block to mono samples.
   void (*mean16[3])(uint8_t* out, const int16_t* pairs, size_t n);
   void (*mean24[3])(uint8_t* out, const int32_t* pairs, size_t n);
   void (*mean64[4])(uint8_t* out, const double* pairs, size_t n, double gain);
+  // One form, the second index, to another at the float scale: clamps in * gain, which for integers is at most
+  // 100; out may be in.
+  void (*scale64[4][4])(uint8_t* out, const uint8_t* in, size_t n, double gain);
+  // The same within one form of integers, for a gain that has a multiplier and for 1.
+  void (*times64[3])(uint8_t* out, const uint8_t* in, size_t n, const Multiplier& multiplier);
+  void (*unit64[3])(uint8_t* out, const uint8_t* in, size_t n);
   // Mono samples to pairs.
   void (*pair16)(int16_t* pairs, const int16_t* in, size_t n);
   void (*pair24)(int32_t* pairs, const int32_t* in, size_t n);
   void (*pair64)(double* pairs, const double* in, size_t n);
-  // d = f(d, s) at the 16-bit scale, saturated; d may be s.
-  void (*gain16)(int16_t* d, const int16_t* s, size_t n, int32_t gain);  // (s * gain) >> 6
-  void (*add16)(int16_t* d, const int16_t* s, size_t n, int32_t gain);   // d + ((s * gain) >> 8)
-  void (*sub16)(int16_t* d, const int16_t* s, size_t n, int32_t gain);   // d - ((s * gain) >> 8)
-  void (*mul16)(int16_t* d, const int16_t* s, size_t n, int32_t);        // (|s| * d) >> 15
-  void (*xor16)(int16_t* d, const int16_t* s, size_t n, int32_t);        // d ^ s
+  // d = f(d, s) within one form, at the 16-bit scale and saturated there; d may be s.
+  using Operation = void (*)(uint8_t* d, const uint8_t* s, size_t n, int32_t gain);
+  Operation copy16[3];  // s
+  Operation add16[3];   // d + ((s * gain) >> 8)
+  Operation sub16[3];   // d - ((s * gain) >> 8)
+  Operation mul16[3];   // (|s| * d) >> 15
+  Operation xor16[3];   // d ^ s
+  Operation gain24[4];  // (s * gain) >> 6 at the 24-bit scale; the last for a block's values
   // s + (((noise modulo 65536 - 32768) * amount) >> 8)
   void (*noise16)(int16_t* d, const int16_t* s, size_t n, const uint32_t* noise, int32_t amount);
   void (*tone16)(int16_t* d, const int16_t* s, size_t frames, size_t lanes, const int32_t* tone);
-  void (*gain24)(int32_t* d, const int32_t* s, size_t n, int32_t gain);  // (s * gain) >> 6 in 24 bits
   // The moving average of pairs: sums[0] is the running sum before the first frame, those of the last `span`
   // frames lie in front of it. Leaves sums[1..frames] behind.
   void (*running16)(int32_t* sums, const int16_t* in, size_t frames, size_t lanes);
   void (*mean_of_span)(int16_t* out, const int32_t* ahead, const int32_t* behind, size_t n, int32_t span);
-  // Frames of two lanes times a gain that grows by step after every frame; gain is left at its next value.
-  void (*ramp24)(int32_t* out, const int32_t* in, size_t frames, double gain[2], const double step[2]);
-  void (*ramp64)(double* out, const double* in, size_t frames, double gain[2], const double step[2]);
-  // Bits 20 to 22 of the magnitudes, limited to 23 bits, ored into bits[2].
-  void (*peaks24)(const int32_t* in, size_t frames, uint32_t bits[2]);
-  // Lowers low[2] and raises high[2] to the extremes.
-  void (*peaks64)(const double* in, size_t frames, double low[2], double high[2]);
+  // Stereo frames within one form times a gain that grows by step after every frame; gain is left at its next
+  // value. The last of the first is for a block's values; the second clamps. out may be in.
+  using Ramp = void (*)(uint8_t* out, const uint8_t* in, size_t frames, double gain[2], const double step[2]);
+  Ramp ramp24[4], ramp64[4];
+  // Lowers low and raises high to the extremes of the samples at even and at odd places; 8-bit ones without
+  // their bias.
+  void (*extremes[3])(const uint8_t* in, size_t n, int32_t low[2], int32_t high[2]);
+  void (*extremes64)(const uint8_t* in, size_t n, double low[2], double high[2]);
 };
 TESSARO_DECLARE_KERNELS(SampleKernels);
 

@@ -6,118 +6,158 @@
 
 namespace {
 
-// ---- Packed samples of three bytes, which no compiler takes apart well
+// ---- Eight samples in a vector
 
 #if defined(__AVX2__)
-constexpr size_t packed_lanes = 8;
-TESSARO_INLINE __m256i packed_mask() { return _mm256_setr_epi32(-1, -1, -1, -1, -1, -1, 0, 0); }
-
-TESSARO_INLINE void unpack(int32_t* out, const uint8_t* in) {
-  const __m256i bytes = _mm256_maskload_epi32(reinterpret_cast<const int*>(in), packed_mask());
-  const __m256i halves = _mm256_permutevar8x32_epi32(bytes, _mm256_setr_epi32(0, 1, 2, 2, 3, 4, 5, 5));
-  const __m256i high =
-      _mm256_shuffle_epi8(halves, _mm256_setr_epi8(-1, 0, 1, 2, -1, 3, 4, 5, -1, 6, 7, 8, -1, 9, 10, 11, -1,
-                                                   0, 1, 2, -1, 3, 4, 5, -1, 6, 7, 8, -1, 9, 10, 11));
-  _mm256_storeu_si256(reinterpret_cast<__m256i*>(out), _mm256_srai_epi32(high, 8));
+TESSARO_INLINE __m128i load16(const uint8_t* in) {
+  return _mm_loadu_si128(reinterpret_cast<const __m128i*>(in));
 }
-TESSARO_INLINE void pack(uint8_t* out, const int32_t* in) {
-  const __m256i words = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(in));
-  const __m256i halves =
-      _mm256_shuffle_epi8(words, _mm256_setr_epi8(0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, -1, -1, -1, -1, 0,
-                                                  1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, -1, -1, -1, -1));
-  const __m256i bytes = _mm256_permutevar8x32_epi32(halves, _mm256_setr_epi32(0, 1, 2, 4, 5, 6, 7, 7));
-  _mm256_maskstore_epi32(reinterpret_cast<int*>(out), packed_mask(), bytes);
+template <class S>
+TESSARO_INLINE auto read8(const uint8_t* in) {
+  if constexpr (S::bytes == 1) {
+    const __m128i bytes = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(in));
+    return reinterpret_cast<Whole>(_mm256_cvtepu8_epi32(bytes)) - 128;
+  } else if constexpr (S::bytes == 2) {
+    return reinterpret_cast<Whole>(_mm256_cvtepi16_epi32(load16(in)));
+  } else if constexpr (S::bytes == 3) {
+    // Two loads that overlap, four samples in each; those of the second begin behind the overlap.
+    const __m256i both = _mm256_inserti128_si256(_mm256_castsi128_si256(load16(in)), load16(in + 8), 1);
+    const __m256i up = _mm256_setr_epi8(-1, 0, 1, 2, -1, 3, 4, 5, -1, 6, 7, 8, -1, 9, 10, 11,  //
+                                        -1, 4, 5, 6, -1, 7, 8, 9, -1, 10, 11, 12, -1, 13, 14, 15);
+    return reinterpret_cast<Whole>(_mm256_srai_epi32(_mm256_shuffle_epi8(both, up), 8));
+  } else if constexpr (S::bytes == 4) {
+    return reinterpret_cast<Whole>(_mm256_loadu_si256(reinterpret_cast<const __m256i*>(in)));
+  } else {
+    Lanes v;
+    __builtin_memcpy(&v, in, sizeof v);
+    return v;
+  }
 }
-#else
-constexpr size_t packed_lanes = 1;
-TESSARO_INLINE void unpack(int32_t* out, const uint8_t* in) { *out = S24::get(in); }
-TESSARO_INLINE void pack(uint8_t* out, const int32_t* in) { S24::put(out, *in); }
+template <class S, class V>
+TESSARO_INLINE void write8(uint8_t* out, const V& v) {
+  const auto put16 = [out](__m256i all) {
+    _mm_storeu_si128(reinterpret_cast<__m128i*>(out), _mm256_castsi256_si128(all));
+  };
+  if constexpr (S::bytes == 1) {
+    const __m256i low = _mm256_setr_epi8(0, 4, 8, 12, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1,  //
+                                         0, 4, 8, 12, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1);
+    const __m256i fours = _mm256_shuffle_epi8(reinterpret_cast<__m256i>(v), low);
+    const __m128i bytes =
+        _mm_unpacklo_epi32(_mm256_castsi256_si128(fours), _mm256_extracti128_si256(fours, 1));
+    _mm_storel_epi64(reinterpret_cast<__m128i*>(out), bytes);
+  } else if constexpr (S::bytes == 2) {
+    const __m256i low = _mm256_setr_epi8(0, 1, 4, 5, 8, 9, 12, 13, -1, -1, -1, -1, -1, -1, -1, -1,  //
+                                         0, 1, 4, 5, 8, 9, 12, 13, -1, -1, -1, -1, -1, -1, -1, -1);
+    put16(_mm256_permute4x64_epi64(_mm256_shuffle_epi8(reinterpret_cast<__m256i>(v), low), 0x08));
+  } else if constexpr (S::bytes == 3) {
+    // Stores under a mask are slow on some processors.
+    const __m256i front = _mm256_setr_epi8(0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, -1, -1, -1, -1,  //
+                                           0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, -1, -1, -1, -1);
+    const __m256i all = _mm256_permutevar8x32_epi32(_mm256_shuffle_epi8(reinterpret_cast<__m256i>(v), front),
+                                                    _mm256_setr_epi32(0, 1, 2, 4, 5, 6, 7, 7));
+    put16(all);
+    _mm_storel_epi64(reinterpret_cast<__m128i*>(out + 16), _mm256_extracti128_si256(all, 1));
+  } else {
+    __builtin_memcpy(out, &v, sizeof v);
+  }
+}
 #endif
 
-constexpr size_t chunk = 512;  // long enough for what is stored to be settled before it is loaded wider
-
-TESSARO_INLINE void get_chunk(int32_t* __restrict out, const uint8_t* __restrict in, size_t n, S24) {
+// out = rule(in), sample by sample. Packed samples of three bytes, which no compiler takes apart well, go through
+// vectors of eight where there are any.
+template <class D, class S, class Rule>
+TESSARO_INLINE void each_sample(uint8_t* out, const uint8_t* in, size_t n, Rule rule) {
   size_t i = 0;
-  for (; i + packed_lanes <= n; i += packed_lanes) unpack(out + i, in + 3 * i);
-  for (; i < n; ++i) out[i] = S24::get(in + 3 * i);
+#if defined(__AVX2__)
+  if constexpr (D::bytes == 3 || S::bytes == 3)
+    for (; i + 8 <= n; i += 8) write8<D>(out + D::bytes * i, rule(read8<S>(in + S::bytes * i)));
+#endif
+  TESSARO_PARALLEL
+  for (; i < n; ++i) D::put(out + D::bytes * i, rule(S::get(in + S::bytes * i)));
 }
-TESSARO_INLINE void put_chunk(uint8_t* __restrict out, const int32_t* __restrict in, size_t n, S24) {
-  size_t i = 0;
-  for (; i + packed_lanes <= n; i += packed_lanes) pack(out + 3 * i, in + i);
-  for (; i < n; ++i) S24::put(out + 3 * i, in[i]);
-}
-
-// use(i, sample i)
-template <class S, class Use>
-TESSARO_INLINE void read_samples(const uint8_t* __restrict in, size_t n, Use use) {
-  if constexpr (S::bytes == 3) {
-    int32_t packed[chunk];
-    for (size_t from = 0; from < n; from += chunk) {
-      const size_t some = n - from < chunk ? n - from : chunk;
-      get_chunk(packed, in + 3 * from, some, S24{});
-      TESSARO_PARALLEL
-      for (size_t i = 0; i < some; ++i) use(from + i, packed[i]);
-    }
-  } else {
-    TESSARO_PARALLEL
-    for (size_t i = 0; i < n; ++i) use(i, S::get(in + S::bytes * i));
-  }
-}
-// sample i = rule(i)
+// d = rule(d, s)
 template <class S, class Rule>
-TESSARO_INLINE void write_samples(uint8_t* __restrict out, size_t n, Rule rule) {
-  if constexpr (S::bytes == 3) {
-    int32_t packed[chunk];
-    for (size_t from = 0; from < n; from += chunk) {
-      const size_t some = n - from < chunk ? n - from : chunk;
-      TESSARO_PARALLEL
-      for (size_t i = 0; i < some; ++i) packed[i] = rule(from + i);
-      put_chunk(out + 3 * from, packed, some, S24{});
+TESSARO_INLINE void each_pair(uint8_t* d, const uint8_t* s, size_t n, Rule rule) {
+  size_t i = 0;
+#if defined(__AVX2__)
+  if constexpr (S::bytes == 3)
+    for (; i + 8 <= n; i += 8) write8<S>(d + 3 * i, rule(read8<S>(d + 3 * i), read8<S>(s + 3 * i)));
+#endif
+  TESSARO_PARALLEL
+  for (; i < n; ++i) S::put(d + S::bytes * i, rule(S::get(d + S::bytes * i), S::get(s + S::bytes * i)));
+}
+// out = rule(left, right) of pairs
+template <class D, class S, class Rule>
+TESSARO_INLINE void each_mean(uint8_t* __restrict out, const uint8_t* __restrict pairs, size_t n, Rule rule) {
+  size_t i = 0;
+#if defined(__AVX2__)
+  if constexpr (D::bytes == 3)
+    for (; i + 8 <= n; i += 8) {
+      const auto a = read8<S>(pairs + 2 * S::bytes * i), b = read8<S>(pairs + 2 * S::bytes * (i + 4));
+      write8<D>(out + 3 * i, rule(__builtin_shufflevector(a, b, 0, 2, 4, 6, 8, 10, 12, 14),
+                                  __builtin_shufflevector(a, b, 1, 3, 5, 7, 9, 11, 13, 15)));
     }
-  } else {
-    TESSARO_PARALLEL
-    for (size_t i = 0; i < n; ++i) S::put(out + S::bytes * i, rule(i));
-  }
+#endif
+  TESSARO_PARALLEL
+  for (; i < n; ++i)
+    D::put(out + D::bytes * i,
+           rule(S::get(pairs + 2 * S::bytes * i), S::get(pairs + S::bytes * (2 * i + 1))));
+}
+
+template <class T>
+TESSARO_INLINE const uint8_t* bytes_of(const T* values) {
+  return reinterpret_cast<const uint8_t*>(values);
+}
+template <class T>
+TESSARO_INLINE uint8_t* bytes_of(T* values) {
+  return reinterpret_cast<uint8_t*>(values);
 }
 
 // ---- Readers and writers
 
 template <class S>
-void to16(I16* __restrict out, const uint8_t* __restrict in, size_t n) {
-  read_samples<S>(in, n, [out](size_t i, int32_t s) { out[i] = static_cast<int16_t>(S::to16(s)); });
+void to16(int16_t* out, const uint8_t* in, size_t n) {
+  each_sample<S16, S>(bytes_of(out), in, n, [](auto s) { return S::to16(s); });
 }
 template <class S>
-void to24(I32* __restrict out, const uint8_t* __restrict in, size_t n) {
-  read_samples<S>(in, n, [out](size_t i, int32_t s) { out[i] = static_cast<int32_t>(S::to24(s)); });
+void to24(int32_t* out, const uint8_t* in, size_t n) {
+  each_sample<Value24, S>(bytes_of(out), in, n, [](auto s) { return S::to24(s); });
 }
 template <class S>
-void to64(F64* __restrict out, const uint8_t* __restrict in, size_t n) {
-  read_samples<S>(in, n, [out](size_t i, auto s) { out[i] = S::to64(s); });
+void to64(double* out, const uint8_t* in, size_t n) {
+  each_sample<S64, S>(bytes_of(out), in, n, [](auto s) { return S::to64(s); });
 }
 template <class S>
-void from16(uint8_t* out, const I16* in, size_t n) {
-  write_samples<S>(out, n, [in](size_t i) { return S::from16(in[i]); });
+void from16(uint8_t* out, const int16_t* in, size_t n) {
+  each_sample<S, S16>(out, bytes_of(in), n, [](auto v) { return S::from16(v); });
 }
 template <class S>
-void from24(uint8_t* out, const I32* in, size_t n) {
-  write_samples<S>(out, n, [in](size_t i) { return S::from24(in[i]); });
+void from24(uint8_t* out, const int32_t* in, size_t n) {
+  each_sample<S, Value24>(out, bytes_of(in), n, [](auto v) { return S::from24(v); });
 }
 template <class S>
-void from64(uint8_t* out, const F64* in, size_t n, double gain) {
-  write_samples<S>(out, n, [=](size_t i) { return S::from64(to_unit(in[i] * gain)); });
+void mean16(uint8_t* out, const int16_t* in, size_t n) {
+  each_mean<S, S16>(out, bytes_of(in), n, [](auto l, auto r) { return S::mean16(l, r); });
 }
 template <class S>
-void mean16(uint8_t* out, const I16* in, size_t n) {
-  write_samples<S>(out, n, [in](size_t i) { return S::mean16(in[2 * i], in[2 * i + 1]); });
+void mean24(uint8_t* out, const int32_t* in, size_t n) {
+  each_mean<S, Value24>(out, bytes_of(in), n, [](auto l, auto r) { return S::mean24(l, r); });
 }
 template <class S>
-void mean24(uint8_t* out, const I32* in, size_t n) {
-  write_samples<S>(out, n, [in](size_t i) { return S::mean24(in[2 * i], in[2 * i + 1]); });
+void mean64(uint8_t* out, const double* in, size_t n, double gain) {
+  each_mean<S, S64>(out, bytes_of(in), n,
+                    [=](auto l, auto r) { return S::mean64(to_unit(l * gain), to_unit(r * gain)); });
 }
-template <class S>
-void mean64(uint8_t* out, const F64* in, size_t n, double gain) {
-  write_samples<S>(
-      out, n, [=](size_t i) { return S::mean64(to_unit(in[2 * i] * gain), to_unit(in[2 * i + 1] * gain)); });
+// One stored form to another through the float scale.
+template <class D, class S>
+void scale64(uint8_t* out, const uint8_t* in, size_t n, double gain) {
+  each_sample<D, S>(out, in, n, [=](auto s) {
+    // Integers of the size that gains up to 100 make of them are as well limited after they are truncated.
+    if constexpr (D::bytes == 3 && S::bytes == 3)
+      return limited(D::from64(S::to64(s) * gain), -D::unit, D::unit);
+    else
+      return D::from64(to_unit(S::to64(s) * gain));
+  });
 }
 template <class T>
 TESSARO_INLINE void pairs_of(T* __restrict pairs, const T* __restrict in, size_t n) {
@@ -127,25 +167,120 @@ void pair16(int16_t* pairs, const int16_t* in, size_t n) { pairs_of(pairs, in, n
 void pair24(int32_t* pairs, const int32_t* in, size_t n) { pairs_of(pairs, in, n); }
 void pair64(double* pairs, const double* in, size_t n) { pairs_of(pairs, in, n); }
 
-// ---- Operations
+// ---- Operations on samples of one stored form
 
-TESSARO_INLINE int16_t saturated16(int32_t v) {
-  const int32_t low = v > -32768 ? v : -32768;
-  return static_cast<int16_t>(low < 32767 ? low : 32767);
+TESSARO_INLINE int16_t saturated16(int32_t v) { return static_cast<int16_t>(limited(v, -32768, 32767)); }
+
+// The lowest 8 bits of 8-bit samples are 0 at the 16-bit scale and dropped on the way back: what is saturated
+// there can as well be saturated in 8 bits, which leaves room for twice as many in a vector.
+template <class S>
+constexpr int depth = S::bytes == 1 ? 8 : 16;
+template <class S>
+TESSARO_INLINE auto shallow(auto s) {
+  return S::bytes == 3 ? s >> 8 : s;
+}
+template <class S>
+TESSARO_INLINE auto stored(auto v) {
+  if constexpr (S::bytes == 1)
+    return v + 128;
+  else if constexpr (S::bytes == 3)
+    return v * 256;
+  else
+    return v;
+}
+template <class S>
+TESSARO_INLINE auto saturated(auto v) {
+  return limited(v, -(1 << (depth<S> - 1)), (1 << (depth<S> - 1)) - 1);
+}
+// (s * gain) >> 8
+template <class S>
+TESSARO_INLINE auto scaled(auto s, int32_t gain) {
+  if constexpr (S::bytes == 1)  // the upper half of a product of 16 bits
+    return static_cast<int16_t>((static_cast<int16_t>(s * 256) * static_cast<int16_t>(gain)) >> 16);
+  else
+    return (s * gain) >> 8;
+}
+TESSARO_INLINE auto magnitude(auto v) { return v < 0 ? -v : v; }
+
+#define TESSARO_OPERATION(name, result)                             \
+  template <class S>                                                \
+  void name(uint8_t* d, const uint8_t* s, size_t n, int32_t gain) { \
+    static_cast<void>(gain);                                        \
+    each_pair<S>(d, s, n, [=](auto to, auto from) {                 \
+      const auto a = shallow<S>(from), b = shallow<S>(to);          \
+      static_cast<void>(b);                                         \
+      return stored<S>(result);                                     \
+    });                                                             \
+  }
+TESSARO_OPERATION(copy16, a)
+TESSARO_OPERATION(gain16, saturated<S>(scaled<S>(a, 4 * gain)))
+TESSARO_OPERATION(add16, saturated<S>(b + scaled<S>(a, gain)))
+TESSARO_OPERATION(subtract16, saturated<S>(b - scaled<S>(a, gain)))
+TESSARO_OPERATION(mul16, (magnitude(a) * b) >> (depth<S> - 1))
+TESSARO_OPERATION(xor16, a ^ b)
+#undef TESSARO_OPERATION
+
+// In 8 bits a difference is what is rounded, not the product that is taken away.
+template <class S>
+void sub16(uint8_t* d, const uint8_t* s, size_t n, int32_t gain) {
+  S::bytes == 1 ? add16<S>(d, s, n, -gain) : subtract16<S>(d, s, n, gain);
 }
 
-#define TESSARO_OPERATION(name, result)                        \
-  void name(I16* d, const I16* s, size_t n, int32_t gain) {    \
-    TESSARO_PARALLEL                                           \
-    for (size_t i = 0; i < n; ++i) d[i] = saturated16(result); \
-    static_cast<void>(gain);                                   \
-  }
-TESSARO_OPERATION(gain16, (s[i] * gain) >> 6)
-TESSARO_OPERATION(add16, d[i] + ((s[i] * gain) >> 8))
-TESSARO_OPERATION(sub16, d[i] - ((s[i] * gain) >> 8))
-TESSARO_OPERATION(mul16, ((s[i] < 0 ? -s[i] : s[i]) * d[i]) >> 15)
-TESSARO_OPERATION(xor16, d[i] ^ s[i])
-#undef TESSARO_OPERATION
+template <class S>
+void gain24(uint8_t* d, const uint8_t* s, size_t n, int32_t gain) {
+  each_sample<S, S>(d, s, n, [=](auto v) { return limited((v * gain) >> 6, -8388608, 8388607); });
+}
+
+// Integers times a gain through the float scale, without it: the short ones in 16 bits, comparisons and all, so that
+// a vector holds many.
+template <class S>
+void times64(uint8_t* out, const uint8_t* in, size_t n, const tessaro::Multiplier& multiplier) {
+  const tessaro::Multiplier m = multiplier;
+  if constexpr (S::bytes == 3)
+    return each_sample<S, S>(out, in, n,
+                             [=](auto s) { return limited(truncated(real(s) * m.gain), -S::unit, S::unit); });
+  else
+    each_sample<S, S>(out, in, n, [=](int32_t s) {
+      const auto narrow = static_cast<int16_t>(s), sign = static_cast<int16_t>(narrow >> 15);
+      const auto size = static_cast<uint16_t>(magnitude(narrow));
+      const auto a = static_cast<uint16_t>(size < m.most ? size : m.most);
+      auto product = static_cast<uint16_t>(a * m.whole + (a * static_cast<uint32_t>(m.high) >> 16));
+      if constexpr (S::bytes == 2) {  // 8 bits need no more than the upper part of the fraction
+        const auto part = static_cast<uint16_t>(a * static_cast<uint32_t>(m.high));
+        const auto sum = static_cast<uint16_t>(part + (a * static_cast<uint32_t>(m.low) >> 16));
+        product = static_cast<uint16_t>(product + (sum < part));
+      }
+      const auto code = static_cast<int16_t>(product < S::unit ? product : S::unit);
+      return stored<S>(static_cast<int16_t>((code ^ sign) - sign));
+    });
+}
+
+// To the float scale and back, where the two roundings lose one unit of some codes: those whose lowest bits are
+// 01 and whose highest bit lies as far above these as that of 16 or 256 does. In integers of the form's size,
+// sign and all; there are no shifts of bytes.
+template <class I, class U, int distance>
+TESSARO_INLINE I returned(int32_t s, int32_t most) {
+  const auto sign = static_cast<I>(static_cast<I>(s) >> (8 * sizeof(I) - 1));
+  const auto a = static_cast<U>((static_cast<I>(s) ^ sign) - sign);
+  const auto lowest = static_cast<U>(a & (~a + 1)), twice = static_cast<U>(lowest + lowest);
+  U from = lowest;
+  for (int i = 0; i < distance; ++i) from = static_cast<U>(from + from);
+  const auto above = static_cast<U>(a - from), next = static_cast<U>(a & twice);
+  const auto kept = static_cast<U>(a - static_cast<U>((above < from) & (next == 0)));
+  const U code = kept < most ? kept : static_cast<U>(most);
+  return static_cast<I>((code ^ static_cast<U>(sign)) - static_cast<U>(sign));
+}
+template <class S>
+void unit64(uint8_t* out, const uint8_t* in, size_t n) {
+  each_sample<S, S>(out, in, n, [](auto s) {
+    if constexpr (S::bytes == 1)
+      return stored<S>(returned<int8_t, uint8_t, 4>(s, S::unit));
+    else if constexpr (S::bytes == 2)
+      return returned<int16_t, uint16_t, 8>(s, S::unit);
+    else
+      return limited(S::from64(S::to64(s)), -S::unit, S::unit);
+  });
+}
 
 void noise16(I16* d, const I16* s, size_t n, const uint32_t* noise, int32_t amount) {
   TESSARO_PARALLEL
@@ -166,18 +301,9 @@ void tone16(I16* d, const I16* s, size_t frames, size_t lanes, const int32_t* to
   }
 }
 
-void gain24(int32_t* d, const int32_t* s, size_t n, int32_t gain) {
-  TESSARO_PARALLEL
-  for (size_t i = 0; i < n; ++i) {
-    const int32_t v = (s[i] * gain) >> 6;  // at most 2^23 * 256
-    const int32_t low = v > -8388608 ? v : -8388608;
-    d[i] = low < 8388607 ? low : 8388607;
-  }
-}
-
 void running16(int32_t* sums, const I16* in, size_t frames, size_t lanes) {
   if (lanes == 1) {
-    for (size_t i = 0; i < frames; ++i) sums[i + 1] = plus(sums[i], in[i]);
+    for (size_t i = 0; i < frames; ++i) sums[i + 1] = plus<int32_t>(sums[i], in[i]);
     return;
   }
   __m128i sum = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(sums));
@@ -206,135 +332,129 @@ void mean_of_span(I16* __restrict out, const int32_t* __restrict ahead, const in
 // spacing of the numbers is constant, every step adds the same amount, and frame i has the gain first + i * amount
 // exactly. (Steps that fall halfway between two numbers add another amount once; that the first two are equal
 // rules it out. A rounded step down to the power of two itself may end below, where numbers lie closer.)
-typedef double Lanes __attribute__((vector_size(64)));  // four frames
-typedef int32_t Whole __attribute__((vector_size(32)));
-
-TESSARO_INLINE bool even_steps(const double gain[2], const double step[2], size_t frames, double amount[2],
-                               double last[2]) {
+TESSARO_INLINE bool even_steps(const double gain[2], const double step[2], size_t frames, double amount[2]) {
   for (size_t lane = 0; lane < 2; ++lane) {
     const double a = gain[lane] + step[lane], b = a + step[lane];
     amount[lane] = b - a;
     if (!(a - gain[lane] == amount[lane])) return false;
-    last[lane] = gain[lane] + amount[lane] * static_cast<double>(frames);
+    const double last = gain[lane] + amount[lane] * static_cast<double>(frames);
     uint64_t from, to;
     __builtin_memcpy(&from, gain + lane, 8);
-    __builtin_memcpy(&to, last + lane, 8);
+    __builtin_memcpy(&to, &last, 8);
     if (from >> 52 != to >> 52 || (to << 12 == 0 && amount[lane] != step[lane])) return false;
   }
   return true;
 }
 
-// Calls four(i, gains) for frames i..i + 3 as far as that goes, and one(i, gain) for every other frame.
-template <class Four, class One>
-TESSARO_INLINE void ramp(size_t frames, double gain[2], const double step[2], Four four, One one) {
-  double amount[2], last[2];
+// out = rule(in, gain) with the gain of the sample's channel
+template <class S, class Rule>
+TESSARO_INLINE void ramp(uint8_t* out, const uint8_t* in, size_t frames, double gain[2], const double step[2],
+                         Rule rule) {
   size_t i = 0;
-  if (even_steps(gain, step, frames, amount, last)) {
+#if defined(__AVX2__)
+  double amount[2];
+  if (even_steps(gain, step, frames, amount)) {
+    const Lanes alternate = {amount[0], amount[1], amount[0], amount[1],
+                             amount[0], amount[1], amount[0], amount[1]};
     const Lanes first = {gain[0], gain[1], gain[0], gain[1], gain[0], gain[1], gain[0], gain[1]};
-    const Lanes grown = {amount[0], amount[1], amount[0], amount[1],
-                         amount[0], amount[1], amount[0], amount[1]};
-    Lanes index = {0, 0, 1, 1, 2, 2, 3, 3};
-    for (; i + 4 <= frames; i += 4, index += 4.0) four(i, first + index * grown);
+    Lanes gains = first + Lanes{0, 0, 1, 1, 2, 2, 3, 3} * alternate;
+    for (; i + 4 <= frames; i += 4, gains += 4.0 * alternate)
+      write8<S>(out + 2 * S::bytes * i, rule(read8<S>(in + 2 * S::bytes * i), gains));
     for (size_t lane = 0; lane < 2; ++lane) gain[lane] += amount[lane] * static_cast<double>(i);
   }
-  __m128d g = _mm_loadu_pd(gain);
-  const __m128d d = _mm_loadu_pd(step);
-  for (; i < frames; ++i, g = _mm_add_pd(g, d)) one(i, g);
-  _mm_storeu_pd(gain, g);
-}
-
-void ramp24(int32_t* __restrict out, const int32_t* __restrict in, size_t frames, double gain[2],
-            const double step[2]) {
-  ramp(
-      frames, gain, step,
-      [=](size_t i, const Lanes& g) {
-        Whole v;
-        __builtin_memcpy(&v, in + 2 * i, sizeof v);
-        // What does not fit in 32 bits becomes the smallest integer, as the processor's conversion gives it.
-        v = __builtin_convertvector(__builtin_convertvector(v, Lanes) * g, Whole);
-        __builtin_memcpy(out + 2 * i, &v, sizeof v);
-      },
-      [=](size_t i, __m128d g) {
-        const __m128d v = _mm_cvtepi32_pd(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(in + 2 * i)));
-        _mm_storel_epi64(reinterpret_cast<__m128i*>(out + 2 * i), _mm_cvttpd_epi32(_mm_mul_pd(v, g)));
-      });
-}
-void ramp64(double* __restrict out, const F64* __restrict in, size_t frames, double gain[2],
-            const double step[2]) {
-  ramp(
-      frames, gain, step,
-      [=](size_t i, const Lanes& g) {
-        Lanes v;
-        __builtin_memcpy(&v, in + 2 * i, sizeof v);
-        v *= g;
-        __builtin_memcpy(out + 2 * i, &v, sizeof v);
-      },
-      [=](size_t i, __m128d g) {
-        _mm_storeu_pd(out + 2 * i, _mm_mul_pd(_mm_loadu_pd(reinterpret_cast<const double*>(in + 2 * i)), g));
-      });
-}
-
-void peaks24(const int32_t* in, size_t frames, uint32_t bits[2]) {
-  uint32_t left = 0, right = 0;
-  for (size_t i = 0; i < frames; ++i) {
-    const int32_t l = in[2 * i] < 0 ? -in[2 * i] : in[2 * i];
-    const int32_t r = in[2 * i + 1] < 0 ? -in[2 * i + 1] : in[2 * i + 1];
-    left |= static_cast<uint32_t>(l < 8388607 ? l : 8388607);
-    right |= static_cast<uint32_t>(r < 8388607 ? r : 8388607);
-  }
-  bits[0] |= left & 0x700000;
-  bits[1] |= right & 0x700000;
-}
-
-void peaks64(const F64* in, size_t frames, double low[2], double high[2]) {
-  // Four frames at a time; comparisons in this form pass over what is not a number.
-  Lanes lows = {}, highs = {};
-  size_t i = 0;
-  for (; i + 4 <= frames; i += 4) {
-    Lanes v;
-    __builtin_memcpy(&v, in + 2 * i, sizeof v);
-    lows = v < lows ? v : lows;
-    highs = v > highs ? v : highs;
-  }
+#endif
   for (; i < frames; ++i)
     for (size_t lane = 0; lane < 2; ++lane) {
-      const double v = in[2 * i + lane];
-      if (v < low[lane]) low[lane] = v;
-      if (v > high[lane]) high[lane] = v;
+      const size_t at = S::bytes * (2 * i + lane);
+      S::put(out + at, rule(S::get(in + at), gain[lane]));
+      gain[lane] += step[lane];
     }
-  for (size_t lane = 0; lane < 8; ++lane) {
-    if (lows[lane] < low[lane & 1]) low[lane & 1] = lows[lane];
-    if (highs[lane] > high[lane & 1]) high[lane & 1] = highs[lane];
-  }
 }
+
+// What does not fit in 32 bits becomes the smallest integer, as the processor's conversion gives it.
+TESSARO_INLINE int32_t converted(double v) { return _mm_cvttsd_si32(_mm_set_sd(v)); }
+#if defined(__AVX2__)
+TESSARO_INLINE Whole converted(const Lanes& v) { return truncated(v); }
+#endif
+
+template <class S>
+void ramp24(uint8_t* out, const uint8_t* in, size_t frames, double gain[2], const double step[2]) {
+  ramp<S>(out, in, frames, gain, step,
+          [](auto s, const auto& g) { return S::from24(converted(real(S::to24(s)) * g)); });
+}
+template <class S>
+void ramp64(uint8_t* out, const uint8_t* in, size_t frames, double gain[2], const double step[2]) {
+  ramp<S>(out, in, frames, gain, step,
+          [](auto s, const auto& g) { return S::from64(to_unit(S::to64(s) * g)); });
+}
+
+// Lowers low and raises high to the extremes of the samples at even and at odd places. Comparisons in this form
+// pass over what is not a number.
+template <class S, class Row, class Value>
+void extremes(const uint8_t* in, size_t n, Value low[2], Value high[2]) {
+  constexpr size_t lanes = sizeof(Row) / sizeof(Row{}[0]);
+  Row lows = {}, highs = {};
+  size_t i = 0;
+#if !defined(__AVX2__)
+  if constexpr (S::bytes != 3)
+#endif
+    for (; i + lanes <= n; i += lanes) {
+      Row v;
+      if constexpr (S::bytes == 3)
+        v = read8<S>(in + S::bytes * i);
+      else
+        __builtin_memcpy(&v, in + S::bytes * i, sizeof v);
+      if constexpr (S::bytes == 1) v ^= -128;
+      lows = v < lows ? v : lows;
+      highs = v > highs ? v : highs;
+    }
+  const auto see = [=](size_t at, Value v) {
+    if (v < low[at & 1]) low[at & 1] = v;
+    if (v > high[at & 1]) high[at & 1] = v;
+  };
+  for (size_t lane = 0; lane < lanes; ++lane) {
+    see(lane, lows[lane]);
+    see(lane, highs[lane]);
+  }
+  for (; i < n; ++i) see(i, S::get(in + S::bytes * i));
+}
+typedef int8_t Row8 __attribute__((vector_size(64)));
+typedef int16_t Row16 __attribute__((vector_size(64)));
 
 }  // namespace
 
+#define TESSARO_INTEGER_FORMS(f) \
+  { f<S8>, f<S16>, f<S24> }
 TESSARO_KERNELS(SampleKernels){
-    .to16 = {to16<S8>, to16<S16>, to16<S24>},
-    .to24 = {to24<S8>, to24<S16>, to24<S24>},
+    .to16 = TESSARO_INTEGER_FORMS(to16),
+    .to24 = TESSARO_INTEGER_FORMS(to24),
     .to64 = {to64<S8>, to64<S16>, to64<S24>, to64<S64>},
-    .from16 = {from16<S8>, from16<S16>, from16<S24>},
-    .from24 = {from24<S8>, from24<S16>, from24<S24>},
-    .from64 = {from64<S8>, from64<S16>, from64<S24>, from64<S64>},
-    .mean16 = {mean16<S8>, mean16<S16>, mean16<S24>},
-    .mean24 = {mean24<S8>, mean24<S16>, mean24<S24>},
+    .from16 = TESSARO_INTEGER_FORMS(from16),
+    .from24 = TESSARO_INTEGER_FORMS(from24),
+    .mean16 = TESSARO_INTEGER_FORMS(mean16),
+    .mean24 = TESSARO_INTEGER_FORMS(mean24),
     .mean64 = {mean64<S8>, mean64<S16>, mean64<S24>, mean64<S64>},
+    .scale64 = {{scale64<S8, S8>, scale64<S8, S16>, scale64<S8, S24>, scale64<S8, S64>},
+                {scale64<S16, S8>, scale64<S16, S16>, scale64<S16, S24>, scale64<S16, S64>},
+                {scale64<S24, S8>, scale64<S24, S16>, scale64<S24, S24>, scale64<S24, S64>},
+                {scale64<S64, S8>, scale64<S64, S16>, scale64<S64, S24>, scale64<S64, S64>}},
+    .times64 = TESSARO_INTEGER_FORMS(times64),
+    .unit64 = TESSARO_INTEGER_FORMS(unit64),
     .pair16 = pair16,
     .pair24 = pair24,
     .pair64 = pair64,
-    .gain16 = gain16,
-    .add16 = add16,
-    .sub16 = sub16,
-    .mul16 = mul16,
-    .xor16 = xor16,
+    .copy16 = TESSARO_INTEGER_FORMS(copy16),
+    .add16 = TESSARO_INTEGER_FORMS(add16),
+    .sub16 = TESSARO_INTEGER_FORMS(sub16),
+    .mul16 = TESSARO_INTEGER_FORMS(mul16),
+    .xor16 = TESSARO_INTEGER_FORMS(xor16),
+    .gain24 = {gain16<S8>, gain16<S16>, gain24<S24>, gain24<Value24>},
     .noise16 = noise16,
     .tone16 = tone16,
-    .gain24 = gain24,
     .running16 = running16,
     .mean_of_span = mean_of_span,
-    .ramp24 = ramp24,
-    .ramp64 = ramp64,
-    .peaks24 = peaks24,
-    .peaks64 = peaks64,
+    .ramp24 = {ramp24<S8>, ramp24<S16>, ramp24<S24>, ramp24<Value24>},
+    .ramp64 = {ramp64<S8>, ramp64<S16>, ramp64<S24>, ramp64<S64>},
+    .extremes = {extremes<S8, Row8, int32_t>, extremes<S16, Row16, int32_t>, extremes<S24, Whole, int32_t>},
+    .extremes64 = extremes<S64, Lanes, double>,
 };

@@ -21,62 +21,153 @@ typedef int16_t I16 __attribute__((aligned(1), may_alias));
 typedef int32_t I32 __attribute__((aligned(1), may_alias));
 typedef double F64 __attribute__((aligned(1), may_alias));
 
+// Rules are stated for one value or for a vector of them; vectors are of eight: they fill the registers as doubles.
+typedef int32_t Whole __attribute__((vector_size(32)));
+typedef uint32_t Natural __attribute__((vector_size(32)));
+typedef double Lanes __attribute__((vector_size(64)));
+
+TESSARO_INLINE uint32_t natural(int32_t v) { return static_cast<uint32_t>(v); }
+TESSARO_INLINE int32_t whole(uint32_t v) { return static_cast<int32_t>(v); }
+TESSARO_INLINE double real(int32_t v) { return v; }
+// What does not fit must not be handed to the first; the second gives the smallest integer for it, as the
+// processor's conversion does.
+TESSARO_INLINE int32_t truncated(double v) { return static_cast<int32_t>(v); }
+#if defined(__AVX2__)
+TESSARO_INLINE Natural natural(Whole v) { return reinterpret_cast<Natural>(v); }
+TESSARO_INLINE Whole whole(Natural v) { return reinterpret_cast<Whole>(v); }
+TESSARO_INLINE Lanes real(Whole v) {
+#if defined(__AVX512F__)  // which the compiler would do in two halves
+  return reinterpret_cast<Lanes>(_mm512_cvtepi32_pd(reinterpret_cast<__m256i>(v)));
+#else
+  return __builtin_convertvector(v, Lanes);
+#endif
+}
+TESSARO_INLINE Whole truncated(Lanes v) { return __builtin_convertvector(v, Whole); }
+#endif
+
+template <class V>
+TESSARO_INLINE V plus(V a, V b) {
+  return whole(natural(a) + natural(b));
+}
+template <class V>
+TESSARO_INLINE V shifted_up(V v, int by) {
+  return whole(natural(v) << by);
+}
 // The mean of two integers, truncated toward zero; the sum wraps.
-TESSARO_INLINE int32_t halved(int32_t a, int32_t b) {
-  return static_cast<int32_t>(static_cast<uint32_t>(a) + static_cast<uint32_t>(b)) / 2;
-}
-TESSARO_INLINE int32_t plus(int32_t a, int32_t b) {
-  return static_cast<int32_t>(static_cast<uint32_t>(a) + static_cast<uint32_t>(b));
-}
-TESSARO_INLINE int32_t shifted_up(int32_t v, int by) {
-  return static_cast<int32_t>(static_cast<uint32_t>(v) << by);
+template <class V>
+TESSARO_INLINE V halved(V a, V b) {
+  const V sum = plus(a, b);
+  return (sum - (sum >> 31)) >> 1;
 }
 
+template <class V, class E>
+TESSARO_INLINE V limited(V v, E low, E high) {
+  const V most = static_cast<V>(V{} + high), least = static_cast<V>(V{} + low);
+  const V raised = v > least ? v : least;
+  return raised < most ? raised : most;
+}
 // What the float scale can hold; not-a-number counts as too low.
-TESSARO_INLINE double to_unit(double v) {
-  const double low = v > -1.0 ? v : -1.0;
-  return low < 1.0 ? low : 1.0;
+template <class V>
+TESSARO_INLINE V to_unit(V v) {
+  return limited(v, -1.0, 1.0);
 }
 
 // A stored form has get and put of one sample; toN, the sample at a scale; fromN, what is put for a value at a
 // scale; meanN, what is put for a stereo pair in a mono buffer. At which step the mean is taken differs between
 // the forms and shows in the last bit. Integer values are not clamped: what is put keeps the low bits. from64
-// takes values that to_unit has passed.
+// takes values that to_unit has passed, or whose products fit in 32 bits. unit is the code of 1.
 struct S8 {
   static constexpr size_t bytes = 1;
+  static constexpr int32_t unit = 127;
   TESSARO_INLINE static int32_t get(const uint8_t* at) { return *at - 128; }
   TESSARO_INLINE static void put(uint8_t* at, int32_t v) { *at = static_cast<uint8_t>(v); }
-  TESSARO_INLINE static int32_t to16(int32_t s) { return s * 256; }
-  TESSARO_INLINE static int32_t to24(int32_t s) { return s * 65536; }
-  TESSARO_INLINE static double to64(int32_t s) { return s * (1.0 / 127); }
-  TESSARO_INLINE static int32_t from16(int32_t v) { return plus(v, 32768) >> 8; }
-  TESSARO_INLINE static int32_t from24(int32_t v) { return plus(v, 8388608) >> 16; }
-  TESSARO_INLINE static int32_t from64(double v) { return 128 - static_cast<int32_t>(v * -127); }
-  TESSARO_INLINE static int32_t mean16(int32_t l, int32_t r) { return halved(from16(l), from16(r)); }
-  TESSARO_INLINE static int32_t mean24(int32_t l, int32_t r) { return halved(from24(l), from24(r)); }
-  TESSARO_INLINE static int32_t mean64(double l, double r) { return halved(from64(l), from64(r)); }
+  template <class V>
+  TESSARO_INLINE static V to16(V s) {
+    return s * 256;
+  }
+  template <class V>
+  TESSARO_INLINE static V to24(V s) {
+    return s * 65536;
+  }
+  template <class V>
+  TESSARO_INLINE static auto to64(V s) {
+    return real(s) * (1.0 / unit);
+  }
+  template <class V>
+  TESSARO_INLINE static V from16(V v) {
+    return plus(v, V{} + 32768) >> 8;
+  }
+  template <class V>
+  TESSARO_INLINE static V from24(V v) {
+    return plus(v, V{} + 8388608) >> 16;
+  }
+  template <class V>
+  TESSARO_INLINE static auto from64(V v) {
+    return 128 - truncated(v * -double{unit});
+  }
+  template <class V>
+  TESSARO_INLINE static V mean16(V l, V r) {
+    return halved(from16(l), from16(r));
+  }
+  template <class V>
+  TESSARO_INLINE static V mean24(V l, V r) {
+    return halved(from24(l), from24(r));
+  }
+  template <class V>
+  TESSARO_INLINE static auto mean64(V l, V r) {
+    return halved(from64(l), from64(r));
+  }
 };
 
 struct S16 {
   static constexpr size_t bytes = 2;
+  static constexpr int32_t unit = 32767;
   TESSARO_INLINE static int32_t get(const uint8_t* at) { return *reinterpret_cast<const I16*>(at); }
   TESSARO_INLINE static void put(uint8_t* at, int32_t v) {
     *reinterpret_cast<I16*>(at) = static_cast<int16_t>(v);
   }
-  TESSARO_INLINE static int32_t to16(int32_t s) { return s; }
-  TESSARO_INLINE static int32_t to24(int32_t s) { return s * 256; }
-  TESSARO_INLINE static double to64(int32_t s) { return s * (1.0 / 32767); }
-  TESSARO_INLINE static int32_t from16(int32_t v) { return v; }
-  TESSARO_INLINE static int32_t from24(int32_t v) { return v >> 8; }
-  TESSARO_INLINE static int32_t from64(double v) { return static_cast<int32_t>(v * 32767); }
-  TESSARO_INLINE static int32_t mean16(int32_t l, int32_t r) { return halved(l, r); }
-  TESSARO_INLINE static int32_t mean24(int32_t l, int32_t r) { return halved(l >> 8, r >> 8); }
-  TESSARO_INLINE static int32_t mean64(double l, double r) { return halved(from64(l), from64(r)); }
+  template <class V>
+  TESSARO_INLINE static V to16(V s) {
+    return s;
+  }
+  template <class V>
+  TESSARO_INLINE static V to24(V s) {
+    return s * 256;
+  }
+  template <class V>
+  TESSARO_INLINE static auto to64(V s) {
+    return real(s) * (1.0 / unit);
+  }
+  template <class V>
+  TESSARO_INLINE static V from16(V v) {
+    return v;
+  }
+  template <class V>
+  TESSARO_INLINE static V from24(V v) {
+    return v >> 8;
+  }
+  template <class V>
+  TESSARO_INLINE static auto from64(V v) {
+    return truncated(v * double{unit});
+  }
+  template <class V>
+  TESSARO_INLINE static V mean16(V l, V r) {
+    return halved(l, r);
+  }
+  template <class V>
+  TESSARO_INLINE static V mean24(V l, V r) {
+    return halved(l >> 8, r >> 8);
+  }
+  template <class V>
+  TESSARO_INLINE static auto mean64(V l, V r) {
+    return halved(from64(l), from64(r));
+  }
 };
 
 // Three bytes, the lowest first.
 struct S24 {
   static constexpr size_t bytes = 3;
+  static constexpr int32_t unit = 8388607;
   TESSARO_INLINE static int32_t get(const uint8_t* at) {
     const uint32_t v = static_cast<uint32_t>(at[0]) << 8 | static_cast<uint32_t>(at[1]) << 16 |
                        static_cast<uint32_t>(at[2]) << 24;
@@ -87,15 +178,42 @@ struct S24 {
     at[1] = static_cast<uint8_t>(v >> 8);
     at[2] = static_cast<uint8_t>(v >> 16);
   }
-  TESSARO_INLINE static int32_t to16(int32_t s) { return s >> 8; }
-  TESSARO_INLINE static int32_t to24(int32_t s) { return s; }
-  TESSARO_INLINE static double to64(int32_t s) { return s * (1.0 / 8388607); }
-  TESSARO_INLINE static int32_t from16(int32_t v) { return shifted_up(v, 8); }
-  TESSARO_INLINE static int32_t from24(int32_t v) { return v; }
-  TESSARO_INLINE static int32_t from64(double v) { return static_cast<int32_t>(v * 8388607); }
-  TESSARO_INLINE static int32_t mean16(int32_t l, int32_t r) { return shifted_up(halved(l, r), 8); }
-  TESSARO_INLINE static int32_t mean24(int32_t l, int32_t r) { return halved(l, r); }
-  TESSARO_INLINE static int32_t mean64(double l, double r) { return halved(from64(l), from64(r)); }
+  template <class V>
+  TESSARO_INLINE static V to16(V s) {
+    return s >> 8;
+  }
+  template <class V>
+  TESSARO_INLINE static V to24(V s) {
+    return s;
+  }
+  template <class V>
+  TESSARO_INLINE static auto to64(V s) {
+    return real(s) * (1.0 / unit);
+  }
+  template <class V>
+  TESSARO_INLINE static V from16(V v) {
+    return shifted_up(v, 8);
+  }
+  template <class V>
+  TESSARO_INLINE static V from24(V v) {
+    return v;
+  }
+  template <class V>
+  TESSARO_INLINE static auto from64(V v) {
+    return truncated(v * double{unit});
+  }
+  template <class V>
+  TESSARO_INLINE static V mean16(V l, V r) {
+    return shifted_up(halved(l, r), 8);
+  }
+  template <class V>
+  TESSARO_INLINE static V mean24(V l, V r) {
+    return halved(l, r);
+  }
+  template <class V>
+  TESSARO_INLINE static auto mean64(V l, V r) {
+    return halved(from64(l), from64(r));
+  }
 };
 
 // Doubles, at the float scale only: the integer scales take every unknown form for S24.
@@ -103,9 +221,33 @@ struct S64 {
   static constexpr size_t bytes = 8;
   TESSARO_INLINE static double get(const uint8_t* at) { return *reinterpret_cast<const F64*>(at); }
   TESSARO_INLINE static void put(uint8_t* at, double v) { *reinterpret_cast<F64*>(at) = v; }
-  TESSARO_INLINE static double to64(double s) { return s; }
-  TESSARO_INLINE static double from64(double v) { return v; }
-  TESSARO_INLINE static double mean64(double l, double r) { return (l + r) * 0.5; }
+  template <class V>
+  TESSARO_INLINE static V to64(V s) {
+    return s;
+  }
+  template <class V>
+  TESSARO_INLINE static V from64(V v) {
+    return v;
+  }
+  template <class V>
+  TESSARO_INLINE static V mean64(V l, V r) {
+    return (l + r) * 0.5;
+  }
+};
+
+// Values at the 24-bit scale, as blocks hold them.
+struct Value24 {
+  static constexpr size_t bytes = 4;
+  TESSARO_INLINE static int32_t get(const uint8_t* at) { return *reinterpret_cast<const I32*>(at); }
+  TESSARO_INLINE static void put(uint8_t* at, int32_t v) { *reinterpret_cast<I32*>(at) = v; }
+  template <class V>
+  TESSARO_INLINE static V to24(V s) {
+    return s;
+  }
+  template <class V>
+  TESSARO_INLINE static V from24(V v) {
+    return v;
+  }
 };
 
 }  // namespace

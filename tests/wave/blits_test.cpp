@@ -200,13 +200,17 @@ TEST(Blits, EveryPairOfSixteenBitValuesMixesExactly) {
   for (const Forced backend : supported_backends())
     for (const Blit& blit : blits) {
       if (std::string(blit.name) == "waveBltBlur") continue;
-      for (const int16_t start : {int16_t{0}, int16_t{-1}, int16_t{32767}, int16_t{-32768}, int16_t{257}}) {
+      for (const auto& [start, gain] : {std::pair{int16_t{0}, 1.7f},
+                                        {int16_t{-1}, 0.3f},
+                                        {int16_t{32767}, 4.0f},
+                                        {int16_t{-32768}, 50.0f},
+                                        {int16_t{257}, 0.0f}}) {
         for (size_t i = 0; i < 65536; ++i)
           got[i] = want[i] = static_cast<int16_t>(start + static_cast<int16_t>(start == 257 ? i * 31 : 0));
         seed_random(7);
-        blit.call(&to, &from, {0, 0, 65536}, 1.7f);
+        blit.call(&to, &from, {0, 0, 65536}, gain);
         seed_random(7);
-        blit.model(d, s, {0, 0, 65536}, 1.7f);
+        blit.model(d, s, {0, 0, 65536}, gain);
         ASSERT_EQ(got, want) << blit.name << ' ' << start;
       }
     }
