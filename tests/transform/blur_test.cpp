@@ -82,12 +82,18 @@ TEST(Blur, AndScaleEqualTheModelApartAndOverlapping) {
         a.randomize(random.word());
         Image b(w + 9, h + 9);
         b.randomize(random.word());
+        if (random.word() % 3 == 0)  // the largest sums, and those one below
+          for (Image* image : {&a, &b}) {
+            image->fill(0xFFFFFFFF);
+            for (int n = 0; n < 5; ++n)
+              image->set(random.between(0, w + 8), random.between(0, h + 8), 0xFEFEFEFE);
+          }
         Image want = a;
         const bool same = trial % 3 != 0;  // half of these in place or below itself
         const int32_t dx = random.between(0, 9), dy = random.between(0, 9);
         const Unscaled c = {
             dx, dy, w, h, trial % 2 ? dx : random.between(0, 9), trial % 4 == 1 ? dy : random.between(0, 9)};
-        const int32_t most = trial % 5 == 0 ? 200 : row.scales ? 6 : 20;
+        const int32_t most = trial % 3 == 0 ? 200 : row.scales ? 6 : 20;
         const int32_t first = random.between(1, most),
                       second = row.scales ? random.between(1, most) : row.loop;
         if (!row.scales && n < 4) continue;
@@ -125,23 +131,6 @@ TEST(Blur, WithoutAWindowCopiesAndRefusesBadRatios) {
       for (int32_t i = 0; i < 9; ++i) EXPECT_EQ(d.get(i, i), i < size ? s.get(i, i) : 0u);
     }
   }
-}
-
-TEST(Divider, IsExactForEveryWindow) {
-  // Wide flat images reach the largest sums of every count, ramps the remainders.
-  Image d(600, 1), s(600, 1);
-  for (const uint32_t colour : {0xFFFFFFFFu, 0xFEFDFCFBu, 0x01020380u})
-    for (int32_t radius = 1; radius <= 127; ++radius) {
-      s.fill(colour);
-      BBIBltUBlur(d, s, 0, 0, 600, 1, 0, 0, radius);
-      for (int32_t x = 0; x < 600; ++x) ASSERT_EQ(d.get(x, 0), colour) << radius << ' ' << x;
-      // One less in one pixel of the window brings every mean one down.
-      s.set(300, 0, colour - 0x01010101);
-      BBIBltUBlur(d, s, 0, 0, 600, 1, 0, 0, radius);
-      ASSERT_EQ(d.get(300 - radius, 0), colour - 0x01010101);
-      ASSERT_EQ(d.get(300 + radius, 0), colour - 0x01010101);
-      ASSERT_EQ(d.get(301 + radius, 0), colour);
-    }
 }
 
 TEST(HalfSize, EqualsTheModelAndRefusesWhatLeavesTheImages) {
