@@ -97,6 +97,17 @@ TESSARO_INLINE __m256i above(Px a, Px b) {
 TESSARO_INLINE Px::Half even(Px a) { return {_mm256_and_si256(a.v, _mm256_set1_epi16(255))}; }
 TESSARO_INLINE Px::Half odd(Px a) { return {_mm256_srli_epi16(a.v, 8)}; }
 TESSARO_INLINE Px join(Px::Half e, Px::Half o) { return {_mm256_or_si256(e.v, _mm256_slli_epi16(o.v, 8))}; }
+TESSARO_INLINE Px join_sat(Px::Half e, Px::Half o) {
+  const __m256i by_turns = _mm256_setr_epi8(0, 8, 1, 9, 2, 10, 3, 11, 4, 12, 5, 13, 6, 14, 7, 15,  //
+                                            0, 8, 1, 9, 2, 10, 3, 11, 4, 12, 5, 13, 6, 14, 7, 15);
+  return {_mm256_shuffle_epi8(_mm256_packus_epi16(e.v, o.v), by_turns)};
+}
+TESSARO_INLINE Paired<Px::Half> paired(Px low, Px high) {
+  return {{_mm256_unpacklo_epi8(low.v, high.v)}, {_mm256_unpackhi_epi8(low.v, high.v)}};
+}
+TESSARO_INLINE Px unpaired(Px::Half first, Px::Half second) {
+  return {_mm256_packus_epi16(first.v, second.v)};
+}
 TESSARO_INLINE Px join_high(Px::Half e, Px::Half o) {
   return {_mm256_or_si256(_mm256_srli_epi16(e.v, 8), _mm256_andnot_si256(_mm256_set1_epi16(255), o.v))};
 }

@@ -86,6 +86,16 @@ TESSARO_INLINE __mmask16 above(Px a, Px b) { return _mm512_cmpgt_epu32_mask(a.v,
 TESSARO_INLINE Px::Half even(Px a) { return {_mm512_and_si512(a.v, _mm512_set1_epi16(255))}; }
 TESSARO_INLINE Px::Half odd(Px a) { return {_mm512_srli_epi16(a.v, 8)}; }
 TESSARO_INLINE Px join(Px::Half e, Px::Half o) { return {_mm512_or_si512(e.v, _mm512_slli_epi16(o.v, 8))}; }
+TESSARO_INLINE Px join_sat(Px::Half e, Px::Half o) {
+  const __m512i by_turns = _mm512_set4_epi32(0x0F070E06, 0x0D050C04, 0x0B030A02, 0x09010800);
+  return {_mm512_shuffle_epi8(_mm512_packus_epi16(e.v, o.v), by_turns)};
+}
+TESSARO_INLINE Paired<Px::Half> paired(Px low, Px high) {
+  return {{_mm512_unpacklo_epi8(low.v, high.v)}, {_mm512_unpackhi_epi8(low.v, high.v)}};
+}
+TESSARO_INLINE Px unpaired(Px::Half first, Px::Half second) {
+  return {_mm512_packus_epi16(first.v, second.v)};
+}
 TESSARO_INLINE Px join_high(Px::Half e, Px::Half o) {
   const __m512i upper = _mm512_set4_epi32(0x0F0F0D0D, 0x0B0B0909, 0x07070505, 0x03030101);
   return {_mm512_mask_shuffle_epi8(o.v, 0x5555555555555555, e.v, upper)};

@@ -72,16 +72,11 @@ struct Saturate {
     even_k = H::splat(of_channel);
     odd_k = halves(P::splat(of_channel | 1024 << 16));
   }
-  // Not yet kept within a byte.
-  TESSARO_INLINE Halves<P> sums(P s) const {
+  TESSARO_INLINE P operator()(P s) const {
     const H grey = colour_sums<6>(s, sum_part, 0);
     const auto scaled = [](H c, H k) { return mul_high_signed(shl<6>(c), k); };
-    return {scaled(even(s), even_k) + grey, scaled(odd(s), odd_k) + (grey & halves(P::splat(0xFFFF)))};
-  }
-  TESSARO_INLINE P operator()(P s) const {
-    const auto byte = [](H c) { return min(max(c, H::splat(0)), H::splat(255)); };
-    const Halves<P> c = sums(s);
-    return join(byte(c.even), byte(c.odd));
+    return join_sat(scaled(even(s), even_k) + grey,
+                    scaled(odd(s), odd_k) + (grey & halves(P::splat(0xFFFF))));
   }
 };
 // With 16 bits a factor must stay below 32; beyond that, one pixel at a time.
@@ -99,7 +94,6 @@ struct Saturate<One> {
     }
     return {v};
   }
-  TESSARO_INLINE Halves<One> sums(One s) const { return Halves<One>::of((*this)(s)); }
 };
 
 }  // namespace

@@ -87,6 +87,10 @@ TESSARO_INLINE One join(One::Half e, One::Half o) { return {e.v | o.v << 8}; }
 TESSARO_INLINE One join_high(One::Half e, One::Half o) {
   return {(e.v >> 8 & 0x00FF00FF) | (o.v & 0xFF00FF00)};
 }
+TESSARO_INLINE Paired<One::Half> paired(One low, One high) {
+  return {{even(low).v | even(high).v << 8}, {odd(low).v | odd(high).v << 8}};
+}
+TESSARO_INLINE One unpaired(One::Half first, One::Half second) { return join(first, second); }
 TESSARO_INLINE One::Half alpha_halves(One a) { return One::Half::splat(a.v >> 24); }
 TESSARO_INLINE One::Half halves(One a) { return {a.v}; }
 template <int k>
@@ -138,6 +142,10 @@ TESSARO_INLINE One::Half min(One::Half a, One::Half b) {
 TESSARO_INLINE One::Half max(One::Half a, One::Half b) {
   return per_lane(
       a, b, [](uint32_t x, uint32_t y) { return static_cast<int16_t>(x) > static_cast<int16_t>(y) ? x : y; });
+}
+TESSARO_INLINE One join_sat(One::Half e, One::Half o) {
+  const auto byte = [](One::Half c) { return min(max(c, One::Half::splat(0)), One::Half::splat(255)); };
+  return join(byte(e), byte(o));
 }
 template <int k>
 TESSARO_INLINE One::Half shl(One::Half a) {

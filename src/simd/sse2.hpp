@@ -105,6 +105,14 @@ TESSARO_INLINE __m128i above(Px a, Px b) {
 TESSARO_INLINE Px::Half even(Px a) { return {_mm_and_si128(a.v, _mm_set1_epi16(255))}; }
 TESSARO_INLINE Px::Half odd(Px a) { return {_mm_srli_epi16(a.v, 8)}; }
 TESSARO_INLINE Px join(Px::Half e, Px::Half o) { return {_mm_or_si128(e.v, _mm_slli_epi16(o.v, 8))}; }
+TESSARO_INLINE Px join_sat(Px::Half e, Px::Half o) {
+  const __m128i t = _mm_packus_epi16(e.v, o.v);
+  return {_mm_unpacklo_epi8(t, _mm_unpackhi_epi64(t, t))};
+}
+TESSARO_INLINE Paired<Px::Half> paired(Px low, Px high) {
+  return {{_mm_unpacklo_epi8(low.v, high.v)}, {_mm_unpackhi_epi8(low.v, high.v)}};
+}
+TESSARO_INLINE Px unpaired(Px::Half first, Px::Half second) { return {_mm_packus_epi16(first.v, second.v)}; }
 TESSARO_INLINE Px join_high(Px::Half e, Px::Half o) {
   return {_mm_or_si128(_mm_srli_epi16(e.v, 8), _mm_andnot_si128(_mm_set1_epi16(255), o.v))};
 }

@@ -21,7 +21,10 @@
 // Products need 16 bits: a P::Half has two 16-bit lanes per pixel.
 //   even(a) odd(a)               bytes 0 and 2 (blue, red); bytes 1 and 3 (green, alpha)
 //   join(e, o)                   back to bytes; both at most 255
+//   join_sat(e, o)               back to bytes; signed lanes, kept within 0..255
 //   join_high(e, o)              back to bytes from the upper halves, that is shifted right by 8
+//   paired(low, high)            each byte of `high` above that of `low`: .first and .second hold the lanes in an order that
+//                                only unpaired(first, second) knows, which takes lanes of at most 255 back to bytes
 //   halves(a)                    the lower and the upper 16 bits of a pixel as they are
 //   alpha_halves(a)              the alpha in both lanes of each pixel
 //   colour_sums<k>(a, m, c)      (((blue + green + red) << k) * m + c) >> 16, signed, in both lanes; k at most 6, m of 16
@@ -50,6 +53,11 @@ struct Unzipped {
 // A straight line over the alphas: rise is at most 65534, base and every value before the shift fit 32 bits.
 struct AlphaLine {
   int rise, base, shift;
+};
+
+template <class H>
+struct Paired {
+  H first, second;
 };
 
 template <class P>
@@ -81,7 +89,9 @@ concept PixelVector = requires(P a, typename P::Half h, const void* in, void* ou
   { select(above(a, a), a, a) } -> std::same_as<P>;
   { P::bits(equal(a, a)) } -> std::same_as<uint32_t>;
   { join(even(a), odd(a)) } -> std::same_as<P>;
+  { join_sat(even(a), odd(a)) } -> std::same_as<P>;
   { join_high(even(a), odd(a)) } -> std::same_as<P>;
+  { unpaired(paired(a, a).first, h) } -> std::same_as<P>;
   { halves(a) } -> std::same_as<typename P::Half>;
   { alpha_halves(a) } -> std::same_as<typename P::Half>;
   { colour_sums<6>(a, 1, 1) } -> std::same_as<typename P::Half>;

@@ -47,6 +47,33 @@ int32_t expand(ImageRecord* dst, const ImageRecord* src, ScaledBlit rect, float 
   return status_done;
 }
 
+// A quotient rounded up serves nearly every range; some take one that is rounded down, and a bias.
+struct LevelFactors {
+  LevelFactor of[256] = {};
+  bool exact = true;
+  constexpr LevelFactors() {
+    for (uint32_t range = 1; range < 256; ++range) {
+      uint32_t bits = 8;
+      while (bits < 15 && (255u << (bits + 1)) / range < 65535) ++bits;
+      const uint32_t quotient = (255u << bits) / range, shift = bits == 8 ? 65535 : 1u << (24 - bits);
+      const LevelFactor tried[] = {
+          {0, quotient + ((255u << bits) % range != 0), shift}, {1, quotient, shift}, {2, quotient, shift}};
+      for (const LevelFactor& by : tried) {
+        of[range] = by;
+        if (by.is_exact(range)) break;
+      }
+      exact = exact && of[range].is_exact(range);
+    }
+  }
+};
+constexpr LevelFactors level_factors;
+static_assert(level_factors.exact);
+
+LevelRange level_range(uint32_t low, uint32_t high) {
+  const uint32_t range = high > low ? high - low : low < 255 ? 1 : 0;
+  return {low, range, level_factors.of[range], low == high};
+}
+
 // The clipped rectangles, handed on to an unscaled blit or a stretched one.
 #define TESSARO_UNSCALED(r)                                                                 \
   static_cast<int32_t>((r).dx), static_cast<int32_t>((r).dy), static_cast<int32_t>((r).dw), \
@@ -176,8 +203,8 @@ int32_t TESSARO_CALL BBIExpandChooseBlt(ImageRecord* dst, const ImageRecord* src
     choice.grey = (1024 - choice.saturation) / 3;
   }
   choice.levelled = level_low != 0 || level_high != 0x00FFFFFF;
-  choice.low = level_low;
-  choice.high = level_high;
+  for (int k = 0; k < 3; ++k)
+    choice.levels[k] = level_range(level_low >> 8 * k & 255, level_high >> 8 * k & 255);
   choice.add_color = add_color != 0;
   choice.add_alpha = add_alpha != 0;
   choice.source_is_base = source_is_base != 0;

@@ -56,6 +56,23 @@ struct Gradient {
   const uint32_t* column_weights;  // of the right colours, in both halves of a word
 };
 
+// t * 255 / range for t of 0..range, without a division: ((t << 8 | bias) * factor >> 16) * shift >> 16.
+struct LevelFactor {
+  uint32_t bias, factor, shift;
+  constexpr bool is_exact(uint32_t range) const {
+    for (uint32_t t = 0; t <= range; ++t)
+      if (((t << 8 | bias) * factor >> 16) * shift >> 16 != t * 255 / range) return false;
+    return true;
+  }
+};
+
+// The levels of a colour: range is what lies between the ends, 0 where nothing lies above the low one.
+struct LevelRange {
+  uint32_t low, range;
+  LevelFactor by;
+  bool equal_ends;
+};
+
 // What happens to a sample on its way into the destination.
 struct Choice {
   uint32_t keep = 0, mask = 0xFFFFFFFF, color = 0, invert = 0;
@@ -64,7 +81,7 @@ struct Choice {
   bool saturated = false;
   int32_t saturation = 0, grey = 0;  // of a channel, and of the sum of all three; in units of 1 / 1024
   bool levelled = false;
-  uint32_t low = 0, high = 0;
+  LevelRange levels[3] = {};  // blue, green, red
   bool add_color = false, add_alpha = false, source_is_base = false;
 };
 

@@ -48,50 +48,43 @@ void gradient(const Stretch& n, const Gradient& g) {
 }
 
 // Stretches low..high of each colour to 0..255: floor(255 * (v - low) / (high - low)). From above the high end it is 255
-// and up to the low end 0, except that equal ends give 255 - low at that value. Takes what is not yet kept within a byte.
+// and up to the low end 0, except that equal ends give 255 - low at that value.
 template <class P>
 struct Levels {
-  using H = typename P::Half;
-  P low, equal_ends;
-  Halves<P> lows, ranges, inverses;
+  P low, range, equal_ends, bias;
+  Paired<typename P::Half> factor, shift;
   bool any_equal = false;
-  TESSARO_INLINE Levels(uint32_t from, uint32_t to) {
-    uint32_t start = 0, range = 0xFF000000, patch = 0, inverse[4] = {0, 0, 0, 256};  // alpha stays
+  TESSARO_INLINE explicit Levels(const tessaro::LevelRange (&colours)[3]) {
+    // Alpha stays.
+    uint32_t lows = 0, ranges = 0xFF000000, patch = 0, biases = 0, factors[] = {0, 0x80000000},
+             shifts[] = {0, 0x02000000};
     for (int k = 0; k < 3; ++k) {
-      const uint32_t a = from >> 8 * k & 255, b = to >> 8 * k & 255;
-      const uint32_t r = b > a ? b - a : a < 255 ? 1 : 0;  // nothing lies above 255
-      start |= a << 8 * k;
-      range |= r << 8 * k;
-      inverse[k] = r ? (255 * 256 + r - 1) / r : 0;
-      if (a == b) {
-        any_equal = true;
-        patch |= (255 - a) << 8 * k;
-      }
+      const tessaro::LevelRange& c = colours[k];
+      const auto put = [k](uint32_t& word, uint32_t byte) { word |= (byte & 255) << 8 * k; };
+      put(lows, c.low);
+      put(ranges, c.range);
+      put(biases, c.by.bias);
+      put(factors[0], c.by.factor);
+      put(factors[1], c.by.factor >> 8);
+      put(shifts[0], c.by.shift);
+      put(shifts[1], c.by.shift >> 8);
+      if (c.equal_ends) put(patch, 255 - c.low);
+      any_equal |= c.equal_ends;
     }
-    low = P::splat(start);
+    low = P::splat(lows);
+    range = P::splat(ranges);
+    bias = P::splat(biases);
     equal_ends = P::splat(patch);
-    lows = Halves<P>::of(low);
-    ranges = Halves<P>::of(P::splat(range));
-    inverses = {halves(P::splat(inverse[0] | inverse[2] << 16)),
-                halves(P::splat(inverse[1] | inverse[3] << 16))};
+    factor = paired(P::splat(factors[0]), P::splat(factors[1]));
+    shift = paired(P::splat(shifts[0]), P::splat(shifts[1]));
   }
-  // The product with the inverse is the quotient or one more, never less; the remainder tells.
-  TESSARO_INLINE static H scaled(H v, H from, H range, H inverse) {
-    const H t = min(max(v - from, H::splat(0)), range);
-    const H up = shl<8>(t);
-    const H q = mul_high(up, inverse);
-    return q - shr<15>(up - t - q * range);
-  }
-  TESSARO_INLINE Halves<P> operator()(Halves<P> v) const {
-    Halves<P> out = {scaled(v.even, lows.even, ranges.even, inverses.even),
-                     scaled(v.odd, lows.odd, ranges.odd, inverses.odd)};
-    if (any_equal) {
-      const auto byte = [](H c) { return min(max(c, H::splat(0)), H::splat(255)); };
-      const P one = P::splat(0x01010101);
-      const P patch = sub(min(difference(join(byte(v.even), byte(v.odd)), low), one), one) & equal_ends;
-      out = {out.even + even(patch), out.odd + odd(patch)};
-    }
-    return out;
+  TESSARO_INLINE P operator()(P v) const {
+    const auto t = paired(bias, min(sub_sat(v, low), range));
+    const P out = unpaired(mul_high(mul_high(t.first, factor.first), shift.first),
+                           mul_high(mul_high(t.second, factor.second), shift.second));
+    if (!any_equal) return out;
+    const P one = P::splat(0x01010101);
+    return out | (sub(min(difference(v, low), one), one) & equal_ends);
   }
 };
 
@@ -99,8 +92,7 @@ template <class P>
 struct Choose {
   using H = typename P::Half;
   const Choice c;
-  P vary, flip, set,
-      keep;  // the mask, the inverted bits and the colour as one rule: ((s & vary) ^ flip) | set
+  P vary, flip, keep;  // the mask, the inverted bits and the colour as one rule: (s & vary) ^ flip
   H weight;
   AlphaWeights<P> weights;
   Saturate<P> saturate;
@@ -108,30 +100,25 @@ struct Choose {
   TESSARO_INLINE explicit Choose(const Choice& choice)
       : c(choice),
         vary(P::splat(c.mask | (c.invert & ~c.color))),
-        flip(P::splat(c.invert & ~c.color & ~c.mask)),
-        set(P::splat(c.color & ~c.mask)),
+        flip(P::splat((c.invert | c.color) & ~c.mask)),
         keep(P::splat(c.keep)),
         weight(H::splat(c.weight)),
         weights(c.factor),
         saturate{c.saturation, c.grey},
-        levels{c.low, c.high} {}
+        levels{c.levels} {}
   TESSARO_INLINE P operator()(P d, P s) const {
-    const P base = c.source_is_base ? s : d;
-    if (c.mask != 0xFFFFFFFF) s = ((s & vary) ^ flip) | set;
-    const H w = c.by_alpha ? weights(s) : weight;
-    Halves<P> v = Halves<P>::of(s);
-    if (c.levelled)
-      v = levels(c.saturated ? saturate.sums(s) : v);
-    else if (c.saturated)
-      v = Halves<P>::of(saturate(s));
-    if (c.add_color && c.add_alpha) {
-      s = add_sat(base, join_high(v.even * w, v.odd * w));
-    } else {
-      s = mix(base, v, w);
-      if (c.add_color || c.add_alpha) {
-        const P sum = add_sat(base, join_high(v.even * w, v.odd * w));
-        s = c.add_color ? with_alpha(sum, s) : with_alpha(s, sum);
-      }
+    s = kept(s);
+    const P base = c.source_is_base ? s : kept(d);
+    if (c.mask != 0xFFFFFFFF) s = (s & vary) ^ flip;
+    if (c.saturated) s = saturate(s);
+    if (c.levelled) s = levels(s);
+    if (c.by_alpha || c.weight != 256 || c.add_color || c.add_alpha) {
+      const H w = c.by_alpha ? weights(s) : weight;
+      const auto sum = [&] { return add_sat(base, join_high(even(s) * w, odd(s) * w)); };
+      if (c.add_color)
+        s = c.add_alpha ? sum() : with_alpha(sum(), mix(base, s, w));
+      else
+        s = c.add_alpha ? with_alpha(mix(base, s, w), sum()) : mix(base, s, w);
     }
     if (c.keep != 0) s = choose_bits(keep, base, s);
     return s;

@@ -195,10 +195,14 @@ TESSARO_INLINE void stretch(const Stretch& n, const Args&... args) {
   const Rule<V> rule{args...};
   const Rule<One> one{args...};
   for_samples<V>(n, [&]<class P>(uint8_t* dst, const uint8_t* src, int32_t, int32_t width, int32_t) {
-    if constexpr (std::same_as<P, V>)
-      row2<P>(dst, src, static_cast<size_t>(width), rule);
-    else
-      row2<P>(dst, src, static_cast<size_t>(width), one);
+    // The rule's own copy stays in registers, which one that is pointed to could not: the pixels might be written over it.
+    const auto kept_rule = [&] {
+      if constexpr (std::same_as<P, V>)
+        return rule;
+      else
+        return one;
+    }();
+    row2<P>(dst, src, static_cast<size_t>(width), kept_rule);
   });
 }
 
