@@ -46,12 +46,40 @@ bool clip_common(const ImageRecord* dst, const ImageRecord* src, AreaPair& areas
 
 constexpr int32_t from_destination = 2, other_kind = 1;  // bits of the selectors
 
+// Products of a byte and a single-precision weight, and their sums, are exact in doubles; with weights that are multiples
+// of 2 to the -29 they are so in integers too. Other weights are rounded up.
+IntegerWeights integer_weights(double green, double blue, double red) {
+  IntegerWeights w{};
+  w.usable = true;
+  const auto put = [&w](double weight, uint32_t& upper, uint32_t& lower, int at) {
+    if (!(weight >= 0 && weight < 2 - 1e-6)) {
+      w.usable = false;
+      return;
+    }
+    const double scaled = weight * (1 << 29);
+    const auto whole = static_cast<uint32_t>(scaled), units = whole + (whole < scaled);
+    w.rounded_up |= units > whole;
+    upper |= units >> 15 << at;
+    lower |= (units & 0x7FFF) << at;
+  };
+  put(green, w.upper_odd, w.lower_odd, 0);
+  put(blue, w.upper_even, w.lower_even, 0);
+  put(red, w.upper_even, w.lower_even, 16);
+  return w;
+}
+
 int32_t choose(ImageRecord* dst, const ImageRecord* src, int32_t colour_from, int32_t alpha_from,
-               AlphaFrom brightness, double green = 0, double blue = 0, double red = 0) {
+               AlphaFrom brightness, double green = 0, double blue = 0, double red = 0,
+               bool may_round_up = false) {
   AreaPair n;
   if (!clip_common(dst, src, n)) return status_nothing;
-  const Choice choice{(colour_from & other_kind) != 0,
-                      alpha_from & other_kind ? AlphaFrom::alpha : brightness, green, blue, red};
+  Choice choice{(colour_from & other_kind) != 0,
+                alpha_from & other_kind ? AlphaFrom::alpha : brightness,
+                green,
+                blue,
+                red,
+                integer_weights(green, blue, red)};
+  choice.integer.usable &= may_round_up || !choice.integer.rounded_up;
   const ReduceKernels& k = kernels<ReduceKernels>();
   for (; n.height > 0; --n.height, n.dst += n.dst_pitch, n.src += n.src_pitch) {
     const auto row = [&](int32_t from) { return from & from_destination ? n.dst : n.src; };
@@ -80,7 +108,7 @@ int32_t TESSARO_CALL BBIChooseCA(ImageRecord* dst, const ImageRecord* src, int32
 }
 int32_t TESSARO_CALL BBIChooseCATR(ImageRecord* dst, const ImageRecord* src, int32_t colorFrom,
                                    int32_t alphaFrom) {
-  return choose(dst, src, colorFrom, alphaFrom, AlphaFrom::weights, 0.7154, 0.0721, 0.2125);
+  return choose(dst, src, colorFrom, alphaFrom, AlphaFrom::weights, 0.7154, 0.0721, 0.2125, true);
 }
 int32_t TESSARO_CALL BBIChooseCATS(ImageRecord* dst, const ImageRecord* src, int32_t colorFrom,
                                    int32_t alphaFrom, float redWeight, float greenWeight, float blueWeight) {

@@ -21,10 +21,18 @@ struct ChooseRows {
   const uint8_t* alpha;
 };
 enum class AlphaFrom { alpha, mean, weights };
+// Weights in units of 2 to the -29, below 2: the upper 15 bits and the lower 15, blue's and red's, green's and alpha's in
+// two halves of a word.
+struct IntegerWeights {
+  bool usable;      // they give what doubles give
+  bool rounded_up;  // but where the sum is a whole number or hardly more
+  uint32_t upper_even, upper_odd, lower_even, lower_odd;
+};
 struct Choice {
   bool grey;  // the colour is the alpha of its pixel
   AlphaFrom alpha;
   double green, blue, red;  // for AlphaFrom::weights
+  IntegerWeights integer;
 };
 // For each output byte, blue first: the image and the byte of its pixel.
 struct Routing {

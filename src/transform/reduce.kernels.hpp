@@ -1,6 +1,7 @@
 // kernels: ReduceKernels for scalar sse2 avx2 avx512
 #include <emmintrin.h>
 
+#include "simd/rules.hpp"
 #include "simd/walk.hpp"
 #include "transform/reduce.hpp"
 
@@ -10,6 +11,7 @@ using tessaro::AlphaFrom;
 using tessaro::Choice;
 using tessaro::ChooseRows;
 using tessaro::DitherRow;
+using tessaro::IntegerWeights;
 using tessaro::Routing;
 
 // 1 in every byte where low >= threshold and c is not 0.
@@ -96,11 +98,58 @@ TESSARO_INLINE __m128i upper(Px a) { return _mm_unpackhi_epi64(a.v, a.v); }
 TESSARO_INLINE Px combine(__m128i low, __m128i high) { return {_mm_unpacklo_epi64(low, high)}; }
 #endif
 #if TESSARO_LANES > 1
-TESSARO_INLINE Px weighted_as_alpha(Px a, const Choice& w) {
+// The sums of the products with the two weights of a pixel's halves.
+TESSARO_INLINE Px products(Halves<Px> c, uint32_t even, uint32_t odd) {
+  const auto e = halves(Px::splat(even)).v, o = halves(Px::splat(odd)).v;
+#if defined(__AVX512F__)
+  return {_mm512_add_epi32(_mm512_madd_epi16(c.even.v, e), _mm512_madd_epi16(c.odd.v, o))};
+#elif defined(__AVX2__)
+  return {_mm256_add_epi32(_mm256_madd_epi16(c.even.v, e), _mm256_madd_epi16(c.odd.v, o))};
+#else
+  return {_mm_add_epi32(_mm_madd_epi16(c.even.v, e), _mm_madd_epi16(c.odd.v, o))};
+#endif
+}
+TESSARO_INLINE Px plus(Px a, Px b) {
+#if defined(__AVX512F__)
+  return {_mm512_add_epi32(a.v, b.v)};
+#elif defined(__AVX2__)
+  return {_mm256_add_epi32(a.v, b.v)};
+#else
+  return {_mm_add_epi32(a.v, b.v)};
+#endif
+}
+
+// Weights that are rounded up give the exact sum's integer, but doubles may fall below a sum that is a whole number. Of the
+// pixels whose three colours are equal, which are often met, only one does (the weights of those that come rounded are
+// fixed): all others need not be looked at.
+TESSARO_INLINE bool may_fall_below(Px a, Px sum) {
+  const Px none = Px::splat(0);
+  const uint32_t whole = Px::bits(equal(sum & Px::splat(0x3FFF), none));
+  if (whole == 0) [[likely]]
+    return false;
+  const uint32_t grey = Px::bits(equal((shl<8>(a) ^ a) & Px::splat(0xFFFF00), none));
+  const uint32_t falling = Px::bits(equal(a & Px::splat(255), Px::splat(233)));
+  return (whole & ~(grey & ~falling)) != 0;
+}
+
+TESSARO_INLINE Px doubles_as_alpha(Px a, const Choice& w) {
   const Px byte = Px::splat(255);
   const Px g = shr<8>(a) & byte, b = a & byte, r = shr<16>(a) & byte;
   return shl<24>(
       combine(weighted_sum(lower(g), lower(b), lower(r), w), weighted_sum(upper(g), upper(b), upper(r), w)));
+}
+
+TESSARO_INLINE Px weighted_as_alpha(Px a, const Choice& w) {
+  if (!w.integer.usable) return doubles_as_alpha(a, w);
+  a = kept(a);
+  const IntegerWeights& i = w.integer;
+  const auto c = Halves<Px>::of(a);
+  // 14 bits of the fraction are left.
+  const Px sum =
+      plus(products(c, i.upper_even, i.upper_odd), shr<15>(products(c, i.lower_even, i.lower_odd)));
+  if (i.rounded_up && may_fall_below(a, sum)) [[unlikely]]
+    return doubles_as_alpha(a, w);
+  return shl<10>(sum);
 }
 #endif
 

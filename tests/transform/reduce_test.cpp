@@ -70,7 +70,8 @@ std::vector<UnscaledRow> choose_rows() {
                    [=](auto* d, auto* s, auto&) { return BBIChooseCATR(d, s, colour, alpha); },
                    rule(weighted(0.2125, 0.7154, 0.0721))});
     const float weights[][3] = {{0.3f, 0.59f, 0.11f}, {1, 1, 1},     {-2, 0.5f, 1e9f},
-                                {NAN, 1, 1},          {1e30f, 0, 0}, {0.5f, 0.25f, 0.25f}};
+                                {NAN, 1, 1},          {1e30f, 0, 0}, {0.5f, 0.25f, 0.25f},
+                                {0.3f, 1.9f, 0.01f}};
     for (const auto& w : weights)
       all.push_back({"BBIChooseCATS",
                      [=, r = w[0], g = w[1], b = w[2]](auto* d, auto* s, auto&) {
@@ -111,6 +112,25 @@ TEST(Choose, EqualsTheModelForEverySelector) {
   Image d(0, 4), s(4, 4);
   EXPECT_EQ(BBIChooseCA(d, s, 0, 0), 1);
   EXPECT_EQ(BBIChooseRGBA(s, d, 0, 0, 0, 0), 1);
+}
+
+// Whole sums fall below themselves in doubles now and then.
+TEST(Choose, WeighsEveryColourAsDoublesDo) {
+  const auto brightness = weighted(0.2125, 0.7154, 0.0721);
+  Image all(256, 256), weighed(256, 256);
+  for (const Forced backend : supported_backends())
+    for (uint32_t green = 0; green < 256; ++green) {
+      for_pixels(all, [&](int32_t x, int32_t y) {
+        all.set(x, y, static_cast<uint32_t>(x) << 16 | green << 8 | static_cast<uint32_t>(y));
+      });
+      BBIChooseCATR(weighed, all, 0, 0);
+      uint32_t wrong = 0;
+      for_pixels(weighed, [&](int32_t x, int32_t y) {
+        wrong +=
+            weighed.get(x, y) >> 24 != brightness(static_cast<uint32_t>(x), green, static_cast<uint32_t>(y));
+      });
+      ASSERT_EQ(wrong, 0u) << "green " << green;
+    }
 }
 
 }  // namespace
