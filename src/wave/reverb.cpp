@@ -10,14 +10,29 @@ using namespace tessaro;
 
 namespace {
 
-constexpr int32_t most_taps = 10000;  // and the length of each of the table's three blocks
 // The ring is read this far ahead of where it is cleared.
 constexpr int64_t read_ahead = 199;
 constexpr double wet_level = 0.005;
 
 int32_t limited(int32_t v, int32_t low, int32_t high) { return v < low ? low : v > high ? high : v; }
 
-void clear_frame(uint8_t* ring, int64_t position) { std::memset(ring + 16 * position, 0, 16); }
+void clear_frames(uint8_t* ring, int64_t position, int64_t n) {
+  std::memset(ring + 16 * position, 0, static_cast<size_t>(16 * n));
+}
+
+// The echoes of several frames can be added tap by tap: the taps begin behind what the frames read and clear, keep the
+// distance that the kernel asks for, and end before the ring has gone round.
+bool well_spaced(double place, const double* step, int32_t taps) {
+  if (place < read_ahead + echo_frames) return false;
+  for (int32_t t = 0; t + 1 < taps; ++t, place += step[t])
+    if (!(step[t] >= 3)) return false;
+  return place < ring_frames - 4;
+}
+
+struct Memory {
+  int64_t at, bytes;
+};
+bool apart(Memory a, Memory b) { return a.at + a.bytes <= b.at || b.at + b.bytes <= a.at; }
 
 }  // namespace
 
@@ -39,29 +54,49 @@ extern "C" int32_t TESSARO_CALL waveEffectReverbA1(const WaveBuffer* buffer, int
   const double send = level * 0.5;
   double step[most_taps];
   for (int32_t t = 0; t < taps; ++t)
-    step[t] = spread * load<double>(table + 8 * static_cast<size_t>(2 * most_taps + t));
+    step[t] = spread * load<double>(table + 8 * (2 * most_taps + static_cast<size_t>(t)));
   const Taps all = {table, table + 8 * most_taps, step, static_cast<size_t>(taps)};
-  const auto scatter = kernels<ReverbKernels>().scatter;
+  const ReverbKernels& kernel = kernels<ReverbKernels>();
 
   const int64_t start = load<int32_t>(frame_position), origin = load<int32_t>(ring_position);
   const Side<double> side(wave, start, 2);
   // Frames outside the buffer are silent and go nowhere: all they do is clear the ring, at most once around.
   const auto pass = [&](int64_t i, int64_t last) {
     for (last = smaller(last, i + ring_frames); i < last; ++i)
-      clear_frame(echoes.data, (origin + i) & ring_mask);
+      clear_frames(echoes.data, (origin + i) & ring_mask, 1);
   };
   const int64_t first = smaller(side.first_inside(), count), last = larger(side.last_inside(count), first);
+  const Memory ring_memory = {echoes.address(0), 16 * ring_frames},
+               table_memory = {static_cast<int64_t>(reinterpret_cast<uintptr_t>(table)), 24 * most_taps},
+               sound_memory = {side.address(first), (last - first) * side.frame_bytes()};
+  const bool by_taps = kernel.scatter_block != nullptr && well_spaced(predelay, step, taps) &&
+                       apart(ring_memory, table_memory) && apart(ring_memory, sound_memory) &&
+                       apart(table_memory, sound_memory);
   pass(0, first);
-  for (int64_t i = first; i < last; ++i) {
+  for (int64_t i = first, n; i < last; i += n) {
     const int64_t position = (origin + i) & ring_mask;
-    double dry[2], wet[2], out[2];
-    side.read(i, 1, dry);
-    std::memcpy(wet, echoes.data + 16 * ((position + read_ahead) & ring_mask), sizeof wet);
-    for (int lane = 0; lane < 2; ++lane) out[lane] = dry[lane] + wet[lane] * wet_level;
-    side.write(i, 1, out);
-    clear_frame(echoes.data, position);
-    const double echo = (dry[0] + dry[1]) * send;
-    if (echo < 0 || echo > 0) scatter(echoes.data, static_cast<double>(position + predelay), echo, all);
+    n = smaller(by_taps ? echo_frames : 1, smaller(last - i, ring_frames - position));
+    double dry[2 * echo_frames], out[2 * echo_frames], echo[echo_frames] = {};
+    bool heard = false;
+    side.read(i, n, dry);
+    for (int64_t j = 0; j < n; ++j) {
+      double wet[2];
+      std::memcpy(wet, echoes.data + 16 * ((position + j + read_ahead) & ring_mask), sizeof wet);
+      for (int64_t lane = 0; lane < 2; ++lane) out[2 * j + lane] = dry[2 * j + lane] + wet[lane] * wet_level;
+      const double sent = (dry[2 * j] + dry[2 * j + 1]) * send;
+      if (sent < 0 || sent > 0) {
+        echo[j] = sent;
+        heard = true;
+      }
+    }
+    side.write(i, n, out);
+    clear_frames(echoes.data, position, n);
+    if (!heard) continue;
+    const auto place = static_cast<double>(position + predelay);
+    if (by_taps)
+      kernel.scatter_block(echoes.data, place, echo, all);
+    else
+      kernel.scatter(echoes.data, place, echo[0], all);
   }
   pass(last, count);
   store<int32_t>(frame_position, wrap32(start + count));
