@@ -256,8 +256,8 @@ void times64(uint8_t* out, const uint8_t* in, size_t n, const tessaro::Multiplie
 }
 
 // To the float scale and back, where the two roundings lose one unit of some codes: those whose lowest bits are
-// 01 and whose highest bit lies as far above these as that of 16 or 256 does. In integers of the form's size,
-// sign and all; there are no shifts of bytes.
+// 01 and whose highest bit lies as far above these as that of 16, 256 or, of 24 bits, 128 does. In integers of the
+// form's size, sign and all; there are no shifts of bytes.
 template <class I, class U, int distance>
 TESSARO_INLINE I returned(int32_t s, int32_t most) {
   const auto sign = static_cast<I>(static_cast<I>(s) >> (8 * sizeof(I) - 1));
@@ -272,14 +272,30 @@ TESSARO_INLINE I returned(int32_t s, int32_t most) {
 }
 template <class S>
 void unit64(uint8_t* out, const uint8_t* in, size_t n) {
-  each_sample<S, S>(out, in, n, [](auto s) {
-    if constexpr (S::bytes == 1)
-      return stored<S>(returned<int8_t, uint8_t, 4>(s, S::unit));
-    else if constexpr (S::bytes == 2)
-      return returned<int16_t, uint16_t, 8>(s, S::unit);
-    else
-      return limited(S::from64(S::to64(s)), -S::unit, S::unit);
-  });
+  if constexpr (S::bytes == 3) {
+    const auto rule = [](auto s) { return limited(S::from64(S::to64(s)), -S::unit, S::unit); };
+    size_t i = 0;
+#if defined(__AVX2__)
+    // The codes that change are so few that a vector which may hold one, negative here, is a rarity.
+    for (; i + 8 <= n; i += 8) {
+      const Whole s = read8<S>(in + 3 * i), a = magnitude(s), lowest = a & -a;
+      const auto doubt =
+          reinterpret_cast<__m256>((natural(a) - (natural(lowest) << 8)) | natural(S::unit - a));
+      if (_mm256_testz_ps(doubt, doubt)) [[likely]]
+        __builtin_memcpy(out + 3 * i, in + 3 * i, 24);
+      else
+        write8<S>(out + 3 * i, rule(s));
+    }
+#endif
+    each_sample<S, S>(out + 3 * i, in + 3 * i, n - i, rule);
+  } else {
+    each_sample<S, S>(out, in, n, [](int32_t s) {
+      if constexpr (S::bytes == 1)
+        return stored<S>(returned<int8_t, uint8_t, 4>(s, S::unit));
+      else
+        return returned<int16_t, uint16_t, 8>(s, S::unit);
+    });
+  }
 }
 
 void noise16(I16* d, const I16* s, size_t n, const uint32_t* noise, int32_t amount) {
