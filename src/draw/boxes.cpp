@@ -149,11 +149,17 @@ int32_t TESSARO_CALL BBIDrawBox(ImageRecord* image, int32_t x, int32_t y, int32_
     uint32_t weights[strip_width];
     for (ptrdiff_t i = 0; i < area.width; ++i)
       weights[i] = static_cast<uint32_t>(weight_of(between(done + i, box.dw, u_start, u_end))) * 0x10001u;
-    for (ptrdiff_t j = 0; j < area.height; ++j) {
-      const auto a = static_cast<uint32_t>(weight_of(static_cast<float>(between(j, box.dh, v_start, v_end))));
-      kernels<BoxKernels>().gradient(area.at + j * area.pitch, weights, static_cast<size_t>(area.width),
-                                     mixed(top_left, bottom_left, a), mixed(top_right, bottom_right, a),
-                                     mask);
+    constexpr ptrdiff_t some = 64;
+    for (ptrdiff_t top = 0; top < area.height; top += some) {
+      RowEnds ends[some];
+      const ptrdiff_t rows = area.height - top < some ? area.height - top : some;
+      for (ptrdiff_t j = 0; j < rows; ++j) {
+        const auto v = static_cast<float>(between(top + j, box.dh, v_start, v_end));
+        const auto a = static_cast<uint32_t>(weight_of(v));
+        ends[j] = {mixed(top_left, bottom_left, a), mixed(top_right, bottom_right, a)};
+      }
+      kernels<BoxKernels>().gradient({area.at + top * area.pitch, area.pitch, area.width, rows}, weights,
+                                     ends, mask, static_cast<ptrdiff_t>(box.dw * box.dh));
     }
   });
   return status_done;

@@ -5,6 +5,7 @@
 namespace {
 
 using tessaro::Area;
+using tessaro::RowEnds;
 using tessaro::TileRows;
 
 template <class P>
@@ -56,13 +57,28 @@ struct Gradient {
       return colour;
   }
 };
-void gradient(uint8_t* row, const uint32_t* weights, size_t width, uint32_t left, uint32_t right,
-              uint32_t mask) {
+void gradient(const Area& n, const uint32_t* weights, const RowEnds* ends, uint32_t mask, ptrdiff_t pixels) {
   const auto* w = reinterpret_cast<const uint8_t*>(weights);
-  if (mask == 0)
-    row2<Px>(row, w, width, Gradient<Px, false>(left, right, mask));
-  else
-    row2<Px>(row, w, width, Gradient<Px, true>(left, right, mask));
+  const auto width = static_cast<size_t>(n.width);
+  const Streaming streaming(mask == 0 ? pixels : 0, n.width);
+  uint8_t* row = n.at;
+  for (ptrdiff_t y = 0; y < n.height; ++y, row += n.pitch) {
+    if (mask != 0) {
+      row2<Px>(row, w, width, Gradient<Px, true>(ends[y].left, ends[y].right, mask));
+      continue;
+    }
+    const Gradient<Px, false> rule(ends[y].left, ends[y].right, mask);
+    size_t x = 0;
+    if (streaming.on() && can_align(row)) {
+      x = pixels_to_align(row);
+      row2<Px>(row, w, x, rule);
+      for (; x + Px::lanes <= width; x += Px::lanes) {
+        const Px weight = Px::load(w + 4 * x);
+        rule(weight, weight).stream(row + 4 * x);
+      }
+    }
+    row2<Px>(row + 4 * x, w + 4 * x, width - x, rule);
+  }
 }
 
 void corners(uint8_t* row, const double* u, size_t width, const float (&left)[4], const float (&right)[4]) {

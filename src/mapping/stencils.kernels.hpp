@@ -1,7 +1,7 @@
 // kernels: StencilKernels for scalar sse2 avx2 avx512
 #include "mapping/stencils.hpp"
+#include "simd/rows.hpp"
 #include "simd/rules.hpp"
-#include "simd/walk.hpp"
 
 namespace {
 
@@ -45,17 +45,33 @@ TESSARO_INLINE void stencil_row(uint8_t* dst, const uint8_t* o, const uint8_t* i
         .store(dst + 4 * x, rest);
 }
 
+// The same, written past the caches from the first whole vector on.
+template <class Rule>
+TESSARO_INLINE void stream_stencil_row(uint8_t* dst, const uint8_t* o, const uint8_t* i, const uint8_t* s,
+                                       size_t width, const Rule& rule) {
+  size_t x = pixels_to_align(dst);
+  stencil_row<Px>(dst, o, i, s, x, rule);
+  for (; x + Px::lanes <= width; x += Px::lanes)
+    rule(Px::load(o + 4 * x), Px::load(i + 4 * x), Px::load(s + 4 * x)).stream(dst + 4 * x);
+  stencil_row<Px>(dst + 4 * x, o + 4 * x, i + 4 * x, s + 4 * x, width - x, rule);
+}
+
 template <template <class> class Rule, class Arg>
 void walk_stencil(const StencilAreas& n, Arg arg) {
   const Rule<Px> rule{arg};
   const auto width = static_cast<size_t>(n.width);
   uint8_t* dst = n.dst;
   auto o = n.outgoing, i = n.incoming, s = n.stencil;
+  // What is written over one of its sources lies in the caches already.
+  const bool over_source = dst == o.at || dst == i.at || dst == s.at;
+  const Streaming streaming(over_source ? 0 : n.width * n.height, n.width);
   for (ptrdiff_t y = 0; y < n.height; ++y) {
     constexpr size_t ahead = 4 * Px::lanes;
     if (reads_own_writes(dst, o.at, ahead) || reads_own_writes(dst, i.at, ahead) ||
         reads_own_writes(dst, s.at, ahead)) [[unlikely]]
       stencil_row<One>(dst, o.at, i.at, s.at, width, Rule<One>{arg});
+    else if (streaming.on() && can_align(dst))
+      stream_stencil_row(dst, o.at, i.at, s.at, width, rule);
     else
       stencil_row<Px>(dst, o.at, i.at, s.at, width, rule);
     dst += n.dst_pitch, o.at += o.pitch, i.at += i.pitch, s.at += s.pitch;

@@ -10,23 +10,41 @@ namespace {
 // not fetch the lines that they overwrite.
 constexpr ptrdiff_t long_row = 4096;
 
+// From this width on rows are worth a start of their own that aligns their stores.
+constexpr ptrdiff_t aligned_width = 4 * Px::lanes;
+
+// Whether an area is so large that its rows are written past the caches: lives as long as they are.
+class Streaming {
+ public:
+  TESSARO_INLINE Streaming(ptrdiff_t pixels, ptrdiff_t width)
+      : on_(pixels >= tessaro::streamed_area && width >= aligned_width) {}
+  TESSARO_INLINE ~Streaming() {
+#if TESSARO_LANES > 1
+    if (on_) _mm_sfence();
+#endif
+  }
+  Streaming(const Streaming&) = delete;
+  Streaming& operator=(const Streaming&) = delete;
+  TESSARO_INLINE bool on() const { return on_; }
+
+ private:
+  bool on_;
+};
+// Pixels may start at any byte; where they can be aligned, so many stand before the first aligned vector.
+TESSARO_INLINE bool can_align(const uint8_t* row) { return reinterpret_cast<uintptr_t>(row) % 4 == 0; }
+TESSARO_INLINE size_t pixels_to_align(const uint8_t* row) {
+  return -reinterpret_cast<uintptr_t>(row) / 4 % Px::lanes;
+}
+
 // Copies rows of an area; chosen once for all its rows. Source and destination share no memory, or the destination
 // lies before its source.
 class RowWriter {
  public:
   TESSARO_INLINE RowWriter(ptrdiff_t width, ptrdiff_t height)
-      : streams_(width * height >= tessaro::streamed_area && width >= aligned_width),
+      : streaming_(width * height, width),
         moves_(tessaro::streamed_area == tessaro::never && width >= long_row) {}
-  TESSARO_INLINE ~RowWriter() {
-#if TESSARO_LANES > 1
-    if (streams_) _mm_sfence();
-#endif
-  }
-  RowWriter(const RowWriter&) = delete;
-  RowWriter& operator=(const RowWriter&) = delete;
-
   // Rows pay that are prepared in the nearest cache and written from there.
-  TESSARO_INLINE bool passes_caches() const { return streams_ || moves_; }
+  TESSARO_INLINE bool passes_caches() const { return streaming_.on() || moves_; }
 
   TESSARO_INLINE void operator()(uint8_t* dst, const uint8_t* src, size_t width) const {
     if (moves_) {
@@ -34,14 +52,14 @@ class RowWriter {
       return;
     }
     // Aligned stores: where the pitch is no multiple of a vector, others would cross two lines of the cache each.
-    const size_t ahead = -reinterpret_cast<uintptr_t>(dst) / 4 % Px::lanes;
+    const size_t ahead = pixels_to_align(dst);
     if (ahead != 0 && width >= aligned_width) {
       Px::load(src, ahead).store(dst, ahead);
       dst += 4 * ahead;
       src += 4 * ahead;
       width -= ahead;
     }
-    if (streams_ && reinterpret_cast<uintptr_t>(dst) % (4 * Px::lanes) == 0) {
+    if (streaming_.on() && reinterpret_cast<uintptr_t>(dst) % (4 * Px::lanes) == 0) {
       const size_t whole = width / Px::lanes * Px::lanes;
       for (size_t x = 0; x < whole; x += Px::lanes) Px::load(src + 4 * x).stream(dst + 4 * x);
       dst += 4 * whole;
@@ -52,9 +70,8 @@ class RowWriter {
   }
 
  private:
-  static constexpr ptrdiff_t aligned_width = 4 * Px::lanes;
-
-  bool streams_, moves_;
+  Streaming streaming_;
+  bool moves_;
 };
 
 }  // namespace
