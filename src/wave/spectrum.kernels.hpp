@@ -53,40 +53,49 @@ void stage(Bins bins, int64_t n, int64_t m, int64_t k, int64_t first, int64_t co
   }
 }
 
+// As many elements of an array as a register holds.
+#if defined(__AVX512F__)
+constexpr int64_t row = 8;
+#elif defined(__AVX2__)
+constexpr int64_t row = 4;
+#else
+constexpr int64_t row = 2;
+#endif
+typedef double Row __attribute__((vector_size(8 * row)));
+typedef Row StoredRow __attribute__((aligned(1), may_alias));
+
+TESSARO_INLINE Row get_row(const void* at) { return *static_cast<const StoredRow*>(at); }
+TESSARO_INLINE void put_row(void* at, const Row& v) { *static_cast<StoredRow*>(at) = v; }
+
+struct Elements {
+  Row re, im;
+};
+template <class T>
+TESSARO_INLINE void butterfly(Elements& near, Elements& far, const T& c, const T& s) {
+  const Row dr = near.re - far.re, di = near.im - far.im;
+  near.re += far.re;
+  near.im += far.im;
+  far.re = dr * c - di * s;
+  far.im = dr * s + di * c;
+}
+
 void two_stages(Bins bins, int64_t n, int64_t k, int64_t first, int64_t count, const Twiddles at[3]) {
-  const double* __restrict c1 = at[0].cosines;
-  const double* __restrict s1 = at[0].sines;
-  const double* __restrict c2 = at[1].cosines;
-  const double* __restrict s2 = at[1].sines;
-  const double* __restrict c3 = at[2].cosines;
-  const double* __restrict s3 = at[2].sines;
-  const int64_t half = k / 2;
+  const Twiddles one = at[0], other = at[1], next = at[2];
+  const int64_t quarter = 4 * k;  // of a block, in bytes
   for (int64_t i = first; i < n; i += 2 * k) {
-    F64* __restrict re0 = reinterpret_cast<F64*>(bins.re) + i;
-    F64* __restrict re1 = re0 + half;
-    F64* __restrict re2 = re0 + k;
-    F64* __restrict re3 = re2 + half;
-    F64* __restrict im0 = reinterpret_cast<F64*>(bins.im) + i;
-    F64* __restrict im1 = im0 + half;
-    F64* __restrict im2 = im0 + k;
-    F64* __restrict im3 = im2 + half;
-    TESSARO_PARALLEL
-    for (int64_t j = 0; j < count; ++j) {
-      // The first stage pairs 0 with 2 and 1 with 3.
-      const double ar = re0[j] + re2[j], ai = im0[j] + im2[j], br = re1[j] + re3[j], bi = im1[j] + im3[j];
-      const double pr = re0[j] - re2[j], pi = im0[j] - im2[j], qr = re1[j] - re3[j], qi = im1[j] - im3[j];
-      const double cr = pr * c1[j] - pi * s1[j], ci = pr * s1[j] + pi * c1[j];
-      const double dr = qr * c2[j] - qi * s2[j], di = qr * s2[j] + qi * c2[j];
-      // The second 0 with 1 and 2 with 3.
-      const double er = ar - br, ei = ai - bi, fr = cr - dr, fi = ci - di;
-      re0[j] = ar + br;
-      im0[j] = ai + bi;
-      re1[j] = er * c3[j] - ei * s3[j];
-      im1[j] = er * s3[j] + ei * c3[j];
-      re2[j] = cr + dr;
-      im2[j] = ci + di;
-      re3[j] = fr * c3[j] - fi * s3[j];
-      im3[j] = fr * s3[j] + fi * c3[j];
+    uint8_t* re = bins.re + 8 * i;
+    uint8_t* im = bins.im + 8 * i;
+    for (int64_t j = 0; j < count; j += row, re += sizeof(Row), im += sizeof(Row)) {
+      Elements e[4];
+      for (int64_t q = 0; q < 4; ++q) e[q] = {get_row(re + q * quarter), get_row(im + q * quarter)};
+      butterfly(e[0], e[2], get_row(one.cosines + j), get_row(one.sines + j));
+      butterfly(e[1], e[3], get_row(other.cosines + j), get_row(other.sines + j));
+      butterfly(e[0], e[1], get_row(next.cosines + j), get_row(next.sines + j));
+      butterfly(e[2], e[3], get_row(next.cosines + j), get_row(next.sines + j));
+      for (int64_t q = 0; q < 4; ++q) {
+        put_row(re + q * quarter, e[q].re);
+        put_row(im + q * quarter, e[q].im);
+      }
     }
   }
 }
@@ -101,10 +110,10 @@ struct Tile {
 constexpr int64_t reversed3[8] = {0, 4, 2, 6, 1, 5, 3, 7};
 
 #if defined(__AVX2__)
-// Four columns of four rows, from one row each in memory.
-TESSARO_INLINE void transpose(__m256d (&out)[4], const double* const (&from)[8], size_t first, size_t row) {
-  const __m256d a = _mm256_loadu_pd(from[first] + row), b = _mm256_loadu_pd(from[first + 1] + row);
-  const __m256d c = _mm256_loadu_pd(from[first + 2] + row), d = _mm256_loadu_pd(from[first + 3] + row);
+// Four rows of four columns, which lie apart.
+TESSARO_INLINE void transpose(__m256d (&out)[4], const double* const* from, int64_t at) {
+  const __m256d a = _mm256_loadu_pd(from[0] + at), b = _mm256_loadu_pd(from[1] + at);
+  const __m256d c = _mm256_loadu_pd(from[2] + at), d = _mm256_loadu_pd(from[3] + at);
   const __m256d ab0 = _mm256_unpacklo_pd(a, b), ab1 = _mm256_unpackhi_pd(a, b);
   const __m256d cd0 = _mm256_unpacklo_pd(c, d), cd1 = _mm256_unpackhi_pd(c, d);
   out[0] = _mm256_permute2f128_pd(ab0, cd0, 0x20);
@@ -114,51 +123,54 @@ TESSARO_INLINE void transpose(__m256d (&out)[4], const double* const (&from)[8],
 }
 #endif
 
-TESSARO_INLINE void take(double (&rows)[8][8], const uint8_t* array, int64_t n, int64_t middle) {
+// All eight rows, from column `first` on.
+TESSARO_INLINE void take(Row (&rows)[8], const uint8_t* array, int64_t n, int64_t middle, int64_t first) {
+  const double* from[row];
+  for (int64_t column = 0; column < row; ++column)
+    from[column] = reinterpret_cast<const double*>(array) + reversed3[first + column] * (n / 8) + 8 * middle;
 #if defined(__AVX2__)
-  const double* from[8];
-  for (size_t column = 0; column < 8; ++column)
-    from[column] = reinterpret_cast<const double*>(array) + reversed3[column] * (n / 8) + 8 * middle;
-  for (size_t row = 0; row < 8; row += 4) {
-    __m256d left[4], right[4];
-    transpose(left, from, 0, row);
-    transpose(right, from, 4, row);
-    for (size_t i = 0; i < 4; ++i) {
-#if defined(__AVX512F__)  // stored at once: what is loaded whole cannot be forwarded from two stores
-      _mm512_store_pd(rows[row + i], _mm512_insertf64x4(_mm512_castpd256_pd512(left[i]), right[i], 1));
+  for (int64_t four = 0; four < 8; four += 4) {
+    __m256d left[4];
+    transpose(left, from, four);
+#if defined(__AVX512F__)
+    __m256d right[4];
+    transpose(right, from + 4, four);
+    for (int64_t i = 0; i < 4; ++i)
+      rows[four + i] = _mm512_insertf64x4(_mm512_castpd256_pd512(left[i]), right[i], 1);
 #else
-      _mm256_store_pd(rows[row + i], left[i]);
-      _mm256_store_pd(rows[row + i] + 4, right[i]);
+    for (int64_t i = 0; i < 4; ++i) rows[four + i] = left[i];
 #endif
-    }
   }
 #else
-  for (size_t column = 0; column < 8; ++column) {
-    const F64* from = reinterpret_cast<const F64*>(array) + reversed3[column] * (n / 8) + 8 * middle;
-    for (size_t row = 0; row < 8; ++row) rows[row][column] = from[row];
+  for (int64_t two = 0; two < 8; two += 2) {
+    const Row a = get_row(from[0] + two), b = get_row(from[1] + two);
+    rows[two] = _mm_unpacklo_pd(a, b);
+    rows[two + 1] = _mm_unpackhi_pd(a, b);
   }
 #endif
 }
 TESSARO_INLINE void give(const double (&rows)[8][8], uint8_t* array, int64_t n, int64_t middle) {
-  for (size_t row = 0; row < 8; ++row)
-    __builtin_memcpy(array + 8 * (reversed3[row] * (n / 8) + 8 * middle), rows[row], 64);
-}
-TESSARO_INLINE void cross(Tile& t, size_t near, size_t far, double c, double s) {
-  for (size_t i = 0; i < 8; ++i) {
-    const double dr = t.re[near][i] - t.re[far][i], di = t.im[near][i] - t.im[far][i];
-    t.re[near][i] += t.re[far][i];
-    t.im[near][i] += t.im[far][i];
-    t.re[far][i] = dr * c - di * s;
-    t.im[far][i] = dr * s + di * c;
-  }
+  for (size_t r = 0; r < 8; ++r)
+    __builtin_memcpy(array + 8 * (reversed3[r] * (n / 8) + 8 * middle), rows[r], 64);
 }
 TESSARO_INLINE void take_and_finish(Tile& t, Bins bins, int64_t n, int64_t middle, Twiddles at) {
-  take(t.re, bins.re, n, middle);
-  take(t.im, bins.im, n, middle);
-  for (size_t j = 0; j < 4; ++j) cross(t, j, j + 4, at.cosines[j], at.sines[j]);
-  for (size_t block = 0; block < 8; block += 4)
-    for (size_t j = 0; j < 2; ++j) cross(t, block + j, block + j + 2, at.cosines[2 * j], at.sines[2 * j]);
-  for (size_t block = 0; block < 8; block += 2) cross(t, block, block + 1, at.cosines[0], at.sines[0]);
+  for (int64_t first = 0; first < 8; first += row) {
+    Row re[8], im[8];
+    take(re, bins.re, n, middle, first);
+    take(im, bins.im, n, middle, first);
+    Elements e[8];
+    for (size_t r = 0; r < 8; ++r) e[r] = {re[r], im[r]};
+    for (size_t r = 0; r < 4; ++r) butterfly(e[r], e[r + 4], at.cosines[r], at.sines[r]);
+    for (size_t block = 0; block < 8; block += 4)
+      for (size_t r = 0; r < 2; ++r)
+        butterfly(e[block + r], e[block + r + 2], at.cosines[2 * r], at.sines[2 * r]);
+    for (size_t block = 0; block < 8; block += 2)
+      butterfly(e[block], e[block + 1], at.cosines[0], at.sines[0]);
+    for (size_t r = 0; r < 8; ++r) {
+      __builtin_memcpy(t.re[r] + first, &e[r].re, sizeof(Row));
+      __builtin_memcpy(t.im[r] + first, &e[r].im, sizeof(Row));
+    }
+  }
 }
 
 void finish(Bins bins, int64_t n, Twiddles at) {
