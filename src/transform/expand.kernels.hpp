@@ -92,7 +92,10 @@ template <class P>
 struct Choose {
   using H = typename P::Half;
   const Choice c;
-  P vary, flip, keep;  // the mask, the inverted bits and the colour as one rule: (s & vary) ^ flip
+  // The mask, the inverted bits and the colour as one rule: (s & vary) ^ flip. Steps of one operation are always taken: a
+  // branch costs more.
+  P vary, flip, keep, from_source, added;
+  bool adds, mixes;
   H weight;
   AlphaWeights<P> weights;
   Saturate<P> saturate;
@@ -102,26 +105,25 @@ struct Choose {
         vary(P::splat(c.mask | (c.invert & ~c.color))),
         flip(P::splat((c.invert | c.color) & ~c.mask)),
         keep(P::splat(c.keep)),
+        from_source(P::splat(c.source_is_base ? 0xFFFFFFFF : 0)),
+        added(P::splat((c.add_color ? 0x00FFFFFFu : 0) | (c.add_alpha ? 0xFF000000 : 0))),
+        adds(c.add_color || c.add_alpha),
+        mixes((c.by_alpha || c.weight != 256 || adds) && !(c.add_color && c.add_alpha)),
         weight(H::splat(c.weight)),
         weights(c.factor),
         saturate{c.saturation, c.grey},
         levels{c.levels} {}
   TESSARO_INLINE P operator()(P d, P s) const {
     s = kept(s);
-    const P base = c.source_is_base ? s : kept(d);
-    if (c.mask != 0xFFFFFFFF) s = (s & vary) ^ flip;
+    const P base = choose_bits(from_source, s, d);
+    s = (s & vary) ^ flip;
+    const H w = c.by_alpha ? weights(s) : weight;  // early: the colours take long
     if (c.saturated) s = saturate(s);
     if (c.levelled) s = levels(s);
-    if (c.by_alpha || c.weight != 256 || c.add_color || c.add_alpha) {
-      const H w = c.by_alpha ? weights(s) : weight;
-      const auto sum = [&] { return add_sat(base, join_high(even(s) * w, odd(s) * w)); };
-      if (c.add_color)
-        s = c.add_alpha ? sum() : with_alpha(sum(), mix(base, s, w));
-      else
-        s = c.add_alpha ? with_alpha(mix(base, s, w), sum()) : mix(base, s, w);
-    }
-    if (c.keep != 0) s = choose_bits(keep, base, s);
-    return s;
+    P out = s;
+    if (mixes) out = mix(base, s, w);
+    if (adds) out = choose_bits(added, add_sat(base, join_high(even(s) * w, odd(s) * w)), out);
+    return choose_bits(keep, base, out);
   }
 };
 

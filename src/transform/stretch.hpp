@@ -189,21 +189,24 @@ TESSARO_INLINE void for_samples(const Stretch& n, const Body& body) {
   }
 }
 
+// Rows by a rule. Inlined, or the rule would be read from memory for every vector: the pixels might be written over it.
+template <class V, template <class> class Rule>
+struct RowsByRule {
+  Rule<V> rule;
+  Rule<One> one;
+  template <class P>
+  TESSARO_INLINE void operator()(uint8_t* dst, const uint8_t* src, int32_t, int32_t width, int32_t) const {
+    if constexpr (std::same_as<P, V>)
+      row2<P>(dst, src, static_cast<size_t>(width), rule);
+    else
+      row2<P>(dst, src, static_cast<size_t>(width), one);
+  }
+};
+
 // dst[x] = rule(dst[x], sample[x])
 template <class V, template <class> class Rule, class... Args>
 TESSARO_INLINE void stretch(const Stretch& n, const Args&... args) {
-  const Rule<V> rule{args...};
-  const Rule<One> one{args...};
-  for_samples<V>(n, [&]<class P>(uint8_t* dst, const uint8_t* src, int32_t, int32_t width, int32_t) {
-    // The rule's own copy stays in registers, which one that is pointed to could not: the pixels might be written over it.
-    const auto kept_rule = [&] {
-      if constexpr (std::same_as<P, V>)
-        return rule;
-      else
-        return one;
-    }();
-    row2<P>(dst, src, static_cast<size_t>(width), kept_rule);
-  });
+  for_samples<V>(n, RowsByRule<V, Rule>{Rule<V>{args...}, Rule<One>{args...}});
 }
 
 // The same for short rules, which are worth the samples' way through registers.
