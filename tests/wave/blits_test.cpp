@@ -190,30 +190,28 @@ TEST(Blits, AgreeWithOneFrameAfterAnotherInEveryPairOfFormats) {
 }
 
 TEST(Blits, EveryPairOfSixteenBitValuesMixesExactly) {
-  // All sources against destinations at which sums and products turn over.
-  std::vector<int16_t> source(65536), want(65536), got(65536);
-  for (int i = 0; i < 65536; ++i) source[static_cast<size_t>(i)] = static_cast<int16_t>(i - 32768);
-  const WaveBuffer from{waveFormatEnc(16, 1, 44100), 65536, source.data()};
-  const WaveBuffer to{waveFormatEnc(16, 1, 44100), 65536, got.data()};
-  const Buffer s{reinterpret_cast<uint8_t*>(source.data()), 65536, 16, 1};
-  const Buffer d{reinterpret_cast<uint8_t*>(want.data()), 65536, 16, 1};
-  for (const Forced backend : supported_backends())
-    for (const Blit& blit : blits) {
-      if (std::string(blit.name) == "waveBltBlur") continue;
-      for (const auto& [start, gain] : {std::pair{int16_t{0}, 1.7f},
-                                        {int16_t{-1}, 0.3f},
-                                        {int16_t{32767}, 4.0f},
-                                        {int16_t{-32768}, 50.0f},
-                                        {int16_t{257}, 0.0f}}) {
-        for (size_t i = 0; i < 65536; ++i)
-          got[i] = want[i] = static_cast<int16_t>(start + static_cast<int16_t>(start == 257 ? i * 31 : 0));
-        seed_random(7);
-        blit.call(&to, &from, {0, 0, 65536}, gain);
-        seed_random(7);
-        blit.model(d, s, {0, 0, 65536}, gain);
-        ASSERT_EQ(got, want) << blit.name << ' ' << start;
+  // All sources, in 24 bits the softest, against destinations at which sums and products turn over.
+  for (const int32_t bits : {16, 24}) {
+    std::vector<uint8_t> source(3 * 65536), want = source, got = source;
+    const Buffer s{source.data(), 65536, bits, 1}, d{want.data(), 65536, bits, 1};
+    const Buffer mine{got.data(), 65536, bits, 1};
+    for (int i = 0; i < 65536; ++i) s.put(i, 0, i - 32768);
+    const WaveBuffer from = s.record(), to = mine.record();
+    for (const Forced backend : supported_backends())
+      for (const Blit& blit : blits) {
+        if (std::string(blit.name) == "waveBltBlur") continue;
+        for (const auto& [start, gain] :
+             {std::pair{0, 1.7f}, {-1, 0.3f}, {32767, 4.0f}, {-32768, 50.0f}, {257, 0.0f}}) {
+          for (int i = 0; i < 65536; ++i) d.put(i, 0, start + (start == 257 ? i * 31 : 0));
+          got = want;
+          seed_random(7);
+          blit.call(&to, &from, {0, 0, 65536}, gain);
+          seed_random(7);
+          blit.model(d, s, {0, 0, 65536}, gain);
+          ASSERT_EQ(got, want) << blit.name << ' ' << start << ' ' << bits;
+        }
       }
-    }
+  }
 }
 
 TEST(Blits, ParametersAreLimitedOrRefused) {
