@@ -87,7 +87,7 @@ void add_all() {
         "waveEffectMaximizer24", bits, 3,
         [](auto d, auto) {
           int32_t look = 0, write = 0;
-          double left = 1, right = 1;
+          double left = 1.5, right = 1.5;  // they fall to 1, where they would stay and change nothing
           waveEffectMaximizer24(d, &look, &write, d->count, 1.1, &left, &right);
         },
         plain.maximize24);

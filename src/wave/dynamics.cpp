@@ -59,6 +59,9 @@ struct Ramp {
       step[lane] = (to[lane] - from[lane]) / count;
     }
   }
+  bool stays_at(double level) const {
+    return gain[0] == level && gain[1] == level && step[0] == 0 && step[1] == 0;
+  }
   void skip_to(int64_t i) {
     for (int lane = 0; lane < 2; ++lane) gain[lane] = added_up(gain[lane], step[lane], i - reached);
     reached = i;
@@ -126,8 +129,10 @@ int32_t TESSARO_CALL waveEffectMaximizer24(const WaveBuffer* buffer, int32_t* lo
   store<double>(left_gain, after[0]);
   store<double>(right_gain, after[1]);
 
+  // Loud material stays at a gain of 1, which changes nothing.
+  const Ramp ramp(before, after, count);
   const Side<int32_t> side(wave, load<int32_t>(write_position), 2);
-  raise(side, side, count, Ramp(before, after, count), k.ramp24, values24);
+  if (!ramp.stays_at(1.0)) raise(side, side, count, ramp, k.ramp24, values24);
   advance(write_position, count);
   return status_done;
 }
@@ -167,9 +172,12 @@ int32_t TESSARO_CALL waveEffectMaximizer64(const WaveBuffer* dst, const WaveBuff
   store<double>(left_state, grown[0]);
   store<double>(right_state, grown[1]);
 
+  const Ramp ramp(before, after, count);
   const int32_t position = load<int32_t>(write_position);
-  raise(Side<double>(to, position, 2), Side<double>(from, position, 2), count, Ramp(before, after, count),
-        k.ramp64, stored64);
+  if (ramp.stays_at(1.0))
+    scale(to, from, position, position, count, 1.0);
+  else
+    raise(Side<double>(to, position, 2), Side<double>(from, position, 2), count, ramp, k.ramp64, stored64);
   advance(write_position, count);
   return status_done;
 }

@@ -63,13 +63,16 @@ TESSARO_INLINE void write8(uint8_t* out, const V& v) {
 }
 #endif
 
-// out = rule(in), sample by sample. Packed samples of three bytes, which no compiler takes apart well, go through
-// vectors of eight where there are any.
-template <class D, class S, class Rule>
+template <class D, class S>
+constexpr bool packed = D::bytes == 3 || S::bytes == 3;
+
+// out = rule(in), sample by sample: in vectors of eight, where there are any, for doubles and for packed samples of
+// three bytes, which no compiler takes apart well.
+template <class D, class S, bool eights = packed<D, S>, class Rule>
 TESSARO_INLINE void each_sample(uint8_t* out, const uint8_t* in, size_t n, Rule rule) {
   size_t i = 0;
 #if defined(__AVX2__)
-  if constexpr (D::bytes == 3 || S::bytes == 3)
+  if constexpr (eights)
     for (; i + 8 <= n; i += 8) write8<D>(out + D::bytes * i, rule(read8<S>(in + S::bytes * i)));
 #endif
   TESSARO_PARALLEL
@@ -151,10 +154,10 @@ void mean64(uint8_t* out, const double* in, size_t n, double gain) {
 // One stored form to another through the float scale.
 template <class D, class S>
 void scale64(uint8_t* out, const uint8_t* in, size_t n, double gain) {
-  each_sample<D, S>(out, in, n, [=](auto s) {
+  each_sample<D, S, true>(out, in, n, [=](auto s) {
     // Integers of the size that gains up to 100 make of them are as well limited after they are truncated.
-    if constexpr (D::bytes == 3 && S::bytes == 3)
-      return limited(D::from64(S::to64(s) * gain), -D::unit, D::unit);
+    if constexpr (D::bytes < 8 && S::bytes < 8)
+      return limited(D::from64(S::to64(s) * gain), D::from64(-1.0), D::from64(1.0));
     else
       return D::from64(to_unit(S::to64(s) * gain));
   });

@@ -98,14 +98,16 @@ TEST(Dynamics, BothMaximizersStreamAsOneFrameAfterAnother) {
               });
           ASSERT_TRUE(mine == model);
         }
-    // A gain that passes just below 2, where sums are rounded finer, at the end of a block.
-    std::vector<uint8_t> got(3 * 1536, 0x50), want = got;
-    Gains mine{0, 0, {4 - 0x1p-41, 4 - 0x1p-41}}, model = mine;
-    const Buffer fast{got.data(), 1536, 24, 1}, naive{want.data(), 1536, 24, 1};
-    const WaveBuffer record = fast.record();
-    EXPECT_EQ(maximize24(&record, &record, mine, 1536, 1.5), 0);
-    maximizer24_model(naive, model, 1536, 1.5);
-    ASSERT_EQ(got, want);
+    // A gain that passes just below 2, where sums are rounded finer, at the end of a block, and one that stays.
+    for (const auto& [sample, gain] : {std::pair{0x50, 4 - 0x1p-41}, {0x05, 8.0}}) {
+      std::vector<uint8_t> got(3 * 1536, static_cast<uint8_t>(sample)), want = got;
+      Gains mine{0, 0, {gain, gain}}, model = mine;
+      const Buffer fast{got.data(), 1536, 24, 1}, naive{want.data(), 1536, 24, 1};
+      const WaveBuffer record = fast.record();
+      EXPECT_EQ(maximize24(&record, &record, mine, 1536, 1.5), 0);
+      maximizer24_model(naive, model, 1536, 1.5);
+      ASSERT_EQ(got, want) << gain;
+    }
   }
 }
 
