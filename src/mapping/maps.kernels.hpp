@@ -24,8 +24,8 @@ TESSARO_INLINE void look_up(uint8_t* dst, const uint8_t* row, const uint8_t* col
   if (!keep_alpha) dst[3] = a;
 }
 
-TESSARO_INLINE uint32_t value_of(uint32_t pixel, bool by_sum) {
-  return by_sum ? (pixel & 255) + (pixel >> 8 & 255) + (pixel >> 16 & 255) : pixel >> 24;
+TESSARO_INLINE int value_of(const uint8_t* pixel, bool by_sum) {
+  return by_sum ? pixel[0] + pixel[1] + pixel[2] : pixel[3];
 }
 
 void plain_by_one_row(uint8_t* dst, const uint8_t* src, size_t width, const uint8_t* row) {
@@ -38,7 +38,7 @@ void by_column(uint8_t* dst, const uint8_t* src, size_t width, const uint8_t* ma
 
 template <bool by_sum, bool from_dest, bool keep_alpha>
 TESSARO_INLINE void look_up_by_value(uint8_t* dst, const uint8_t* src, const MapByValue& m) {
-  look_up<keep_alpha>(dst, m.map + m.offsets[value_of(pixel_at(src), by_sum)], from_dest ? dst : src);
+  look_up<keep_alpha>(dst, m.map + m.offsets[value_of(src, by_sum)], from_dest ? dst : src);
 }
 template <bool by_sum, bool from_dest, bool keep_alpha>
 void plain_by_value(uint8_t* dst, const uint8_t* src, size_t width, const MapByValue& m) {
@@ -164,8 +164,8 @@ template <bool by_sum, bool from_dest, bool keep_alpha>
   Planes found = columns;
   uint64_t alone = 0;
   for (uint64_t left = all; left != 0;) {
-    const uint32_t first = pixel_at(src + 4 * __builtin_ctzll(left));
-    const __m512i like = _mm512_set1_epi32(static_cast<int>(first));
+    const uint8_t* first = src + 4 * __builtin_ctzll(left);
+    const __m512i like = _mm512_set1_epi32(static_cast<int>(pixel_at(first)));
     uint64_t same = 0;
     for (int i = 0; i < 4; ++i)
       same |= uint64_t{_mm512_testn_epi32_mask(_mm512_xor_si512(s[i], like), deciding)} << 16 * i;
@@ -196,20 +196,19 @@ TESSARO_VBMI void permute_by_value(uint8_t* dst, const uint8_t* src, size_t widt
   int32_t loaded_offset = 0;
   for (size_t x = 0; x < width; x += map_block) {
     const uint64_t all = BlockMask::first(width - x);
-    const uint32_t first = pixel_at(src + 4 * x);
+    const __m512i first = _mm512_set1_epi32(static_cast<int>(pixel_at(src + 4 * x)));
     const BlockMask mask(all);
     __m512i unlike = _mm512_setzero_si512();
     for (size_t i = 0; i < 4; ++i) {
       const __m512i s = _mm512_maskz_loadu_epi32(mask.part[i], src + 4 * x + 64 * i);
-      unlike = _mm512_or_si512(
-          unlike, _mm512_maskz_xor_epi32(mask.part[i], s, _mm512_set1_epi32(static_cast<int>(first))));
+      unlike = _mm512_or_si512(unlike, _mm512_maskz_xor_epi32(mask.part[i], s, first));
     }
     constexpr int deciding = by_sum ? 0x00FFFFFF : static_cast<int>(0xFF000000);
     if (_mm512_test_epi32_mask(unlike, _mm512_set1_epi32(deciding)) != 0) {
       permute_mixed<by_sum, from_dest, keep_alpha>(dst + 4 * x, src + 4 * x, all, m);
       continue;
     }
-    const int32_t offset = m.offsets[value_of(first, by_sum)];
+    const int32_t offset = m.offsets[value_of(src + 4 * x, by_sum)];
     if (!loaded || offset != loaded_offset) {
       tables.load(m.map + offset);
       loaded = true;
@@ -277,10 +276,14 @@ TESSARO_VBMI TESSARO_INLINE void tile_by_tables(const AreaPair& n, const uint8_t
     transpose(v);
     for (ptrdiff_t j = 0; j < 4; ++j) {
       const ptrdiff_t row = i + 16 * j;
-      if (whole)
-        _mm512_storeu_si512(n.dst + row * n.dst_pitch, v[j]);
-      else if (row < n.height)
-        _mm512_mask_storeu_epi32(n.dst + row * n.dst_pitch, some, v[j]);
+      if (!whole && row >= n.height) break;
+      uint8_t* dst = n.dst + row * n.dst_pitch;
+      if (!whole) {
+        _mm512_mask_storeu_epi32(dst, some, v[j]);
+        continue;
+      }
+      _mm512_storeu_si512(dst, v[j]);
+      if (more) _mm_prefetch(reinterpret_cast<const char*>(dst + 64), _MM_HINT_T1);
     }
   }
 }
