@@ -156,6 +156,10 @@ int32_t TESSARO_CALL BBIBltToF(void* dst, const uint32_t* src, int32_t count, in
     k.mixed_with_colour[f](to, from, left, colour, weight);
     return status_done;
   }
+  if (!use_table && k.saturated_to[f]) {
+    k.saturated_to[f](to, from, left, parts, colour, weight);
+    return status_done;
+  }
   // Through a piece of memory that stays in cache; pixel by pixel where a write may reach what is still to be
   // read.
   uint8_t piece[4 * 512];

@@ -31,6 +31,9 @@ struct FormatKernels {
   void (*mixed[format_count])(uint8_t* dst, const uint8_t* a, const uint8_t* b, size_t count,
                               uint32_t weight);
   void (*saturated)(uint8_t* dst, const uint8_t* src, size_t count, SaturationParts parts);
+  // Saturation, then mixed_with_colour; null where the two in turn are as fast.
+  void (*saturated_to[format_count])(uint8_t* dst, const uint8_t* src, size_t count, SaturationParts parts,
+                                     uint32_t colour, uint32_t weight);
   // dst[i] = palette[bit or byte i of src]; bits come most significant first.
   void (*from_bits)(uint8_t* dst, const uint8_t* src, size_t count, const uint8_t* palette);
   void (*from_bytes)(uint8_t* dst, const uint8_t* src, size_t count, const uint8_t* palette);

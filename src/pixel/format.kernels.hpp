@@ -7,18 +7,51 @@
 
 namespace {
 
-// Bits first..first + count - 1 of every pixel, moved down to bit `to`.
-template <int first, int count, int to, class P>
-TESSARO_INLINE P field_down(P a) {
-  return shr<first - to>(a) & P::splat(((1u << count) - 1) << to);
-}
-// The same upwards.
+// Bits first..first + count - 1 of every pixel, moved up to bit `to`.
 template <int first, int count, int to, class P>
 TESSARO_INLINE P field_up(P a) {
   return shl<to - first>(a & P::splat(((1u << count) - 1) << first));
 }
 
-// One struct a format: encode gives the packed value in the lower bytes of each pixel, decode takes it from there.
+// The 2 * lanes pixels of a block, in their order.
+template <class P>
+struct Pair {
+  P first, second;
+  TESSARO_INLINE static Pair load(const uint8_t* at, size_t n) {
+    constexpr size_t lanes = P::lanes;
+    return {load_some<P>(at, n < lanes ? n : lanes),
+            n > lanes ? load_some<P>(at + 4 * lanes, n - lanes) : P::splat(0)};
+  }
+};
+
+// The channels of a block apart, 16 bits each, in the order of Words.
+template <class P>
+struct Channels {
+  typename P::Half blue, green, red, alpha;
+  TESSARO_INLINE static Channels of(Pair<P> a) {
+    const Words<P> w = words(a.first, a.second);
+    return {even(w.lower), odd(w.lower), even(w.upper), odd(w.upper)};
+  }
+  // In the upper bytes; the lower ones are not cleared.
+  TESSARO_INLINE static Channels tops_of(Pair<P> a) {
+    const Words<P> w = words(a.first, a.second);
+    const auto lower = halves(w.lower), upper = halves(w.upper);
+    return {shl<8>(lower), lower, shl<8>(upper), upper};
+  }
+  TESSARO_INLINE static Channels of_colour(uint32_t colour) {
+    const auto byte = [colour](int at) { return P::Half::splat(colour >> at & 255); };
+    return {byte(0), byte(8), byte(16), byte(24)};
+  }
+  // In the upper bytes.
+  TESSARO_INLINE static Channels mixed(Channels d, Channels s, uint32_t weight) {
+    const auto w = P::Half::splat(weight), rest = P::Half::splat(256 - weight);
+    return {d.blue * rest + s.blue * w, d.green * rest + s.green * w, d.red * rest + s.red * w,
+            d.alpha * rest + s.alpha * w};
+  }
+};
+
+// One struct a format. Those of 16 bits encode channels in upper bytes, the others whole pixels, and give the packed
+// value in the lower bytes; decode takes it from there.
 struct As8888 {
   static constexpr size_t bytes = 4;
   template <class P>
@@ -33,11 +66,16 @@ struct As8888 {
 struct As888 : As8888 {
   static constexpr size_t bytes = 3;
 };
+// What the mask leaves of each lane moved down.
+template <uint32_t mask, int down, class H>
+TESSARO_INLINE H field(H top) {
+  return shr<down>(top) & H::splat(mask);
+}
 struct As565 {
   static constexpr size_t bytes = 2;
   template <class P>
-  TESSARO_INLINE static P encode(P a) {
-    return field_down<3, 5, 0>(a) | field_down<10, 6, 5>(a) | field_down<19, 5, 11>(a);
+  TESSARO_INLINE static auto encode(Channels<P> a) {
+    return shr<11>(a.blue) | field<0x07E0, 5>(a.green) | field<0xF800, 0>(a.red);
   }
   template <class P>
   TESSARO_INLINE static P decode(P v) {
@@ -47,8 +85,8 @@ struct As565 {
 struct As555 {
   static constexpr size_t bytes = 2;
   template <class P>
-  TESSARO_INLINE static P encode(P a) {
-    return field_down<3, 5, 0>(a) | field_down<11, 5, 5>(a) | field_down<19, 5, 10>(a);
+  TESSARO_INLINE static auto encode(Channels<P> a) {
+    return shr<11>(a.blue) | field<0x03E0, 6>(a.green) | field<0x7C00, 1>(a.red);
   }
   template <class P>
   TESSARO_INLINE static P decode(P v) {
@@ -58,8 +96,8 @@ struct As555 {
 struct As1555 {
   static constexpr size_t bytes = 2;
   template <class P>
-  TESSARO_INLINE static P encode(P a) {
-    return As555::encode(a) | field_down<31, 1, 15>(a);
+  TESSARO_INLINE static auto encode(Channels<P> a) {
+    return As555::encode(a) | field<0x8000, 0>(a.alpha);
   }
   template <class P>
   TESSARO_INLINE static P decode(P v) {
@@ -69,9 +107,8 @@ struct As1555 {
 struct As4444 {
   static constexpr size_t bytes = 2;
   template <class P>
-  TESSARO_INLINE static P encode(P a) {
-    return field_down<4, 4, 0>(a) | field_down<12, 4, 4>(a) | field_down<20, 4, 8>(a) |
-           field_down<28, 4, 12>(a);
+  TESSARO_INLINE static auto encode(Channels<P> a) {
+    return shr<12>(a.blue) | field<0x00F0, 8>(a.green) | field<0x0F00, 4>(a.red) | field<0xF000, 0>(a.alpha);
   }
   template <class P>
   TESSARO_INLINE static P decode(P v) {
@@ -103,55 +140,77 @@ TESSARO_INLINE bool may_read_ahead(const uint8_t* dst, size_t dst_bytes, const u
 }
 
 template <class Format>
-TESSARO_INLINE void write_block(uint8_t* dst, Px a, Px b, Px c, Px d) {
-  a = Format::encode(a), b = Format::encode(b), c = Format::encode(c), d = Format::encode(d);
+TESSARO_INLINE void write_block(uint8_t* dst, Pair<Px> a, Pair<Px> b) {
+  a = {Format::encode(a.first), Format::encode(a.second)};
+  b = {Format::encode(b.first), Format::encode(b.second)};
   if constexpr (Format::bytes == 4) {
-    a.store(dst);
-    b.store(dst + 4 * Px::lanes);
-    c.store(dst + 8 * Px::lanes);
-    d.store(dst + 12 * Px::lanes);
+    a.first.store(dst);
+    a.second.store(dst + 4 * Px::lanes);
+    b.first.store(dst + 8 * Px::lanes);
+    b.second.store(dst + 12 * Px::lanes);
   } else if constexpr (Format::bytes == 3) {
-    store_triples(dst, a, b, c, d);
-  } else if constexpr (Format::bytes == 2) {
-    store_words(dst, a, b, c, d);
+    store_triples(dst, a.first, a.second, b.first, b.second);
   } else {
-    store_bytes(dst, a, b, c, d);
+    store_bytes(dst, a.first, a.second, b.first, b.second);
   }
 }
+template <class Format>
+TESSARO_INLINE void write_block(uint8_t* dst, Channels<Px> a, Channels<Px> b) {
+  store_words(dst, Format::encode(a));
+  store_words(dst + 4 * Px::lanes, Format::encode(b));
+}
+template <class Format>
+TESSARO_INLINE void write_one(uint8_t* dst, Pair<One> a) {
+  store_one<Format::bytes>(dst, Format::encode(a.first));
+}
+template <class Format>
+TESSARO_INLINE void write_one(uint8_t* dst, Channels<One> a) {
+  store_one<2>(dst, One{Format::encode(a).v});
+}
 
-// read(P{}, x, n) gives the pixels from number x on, of which n are there.
+// read(P{}, x, n) gives the 2 * lanes pixels from number x on, of which n are there, as the format wants them.
 template <class Format, class Read>
 TESSARO_INLINE void encode_run(uint8_t* dst, size_t count, bool blocks, const Read& read) {
-  constexpr size_t lanes = Px::lanes, block = 4 * lanes;
+  constexpr size_t pair = 2 * Px::lanes, block = 2 * pair;
   size_t x = 0;
-  if (!blocks || block == 4) {
-    for (; x < count; ++x)
-      store_one<Format::bytes>(dst + Format::bytes * x, Format::encode(read(One{}, x, 1)));
+  if (!blocks || Px::lanes == 1) {
+    for (; x < count; ++x) write_one<Format>(dst + Format::bytes * x, read(One{}, x, 1));
     return;
   }
   for (; x + block <= count; x += block)
-    write_block<Format>(dst + Format::bytes * x, read(Px{}, x, lanes), read(Px{}, x + lanes, lanes),
-                        read(Px{}, x + 2 * lanes, lanes), read(Px{}, x + 3 * lanes, lanes));
+    write_block<Format>(dst + Format::bytes * x, read(Px{}, x, pair), read(Px{}, x + pair, pair));
   if (const size_t rest = count - x) {
-    const auto some = [&](size_t at) {
-      return at >= rest ? Px::splat(0) : read(Px{}, x + at, rest - at < lanes ? rest - at : lanes);
-    };
     uint8_t end[Format::bytes * block];
-    write_block<Format>(end, some(0), some(lanes), some(2 * lanes), some(3 * lanes));
+    write_block<Format>(end, read(Px{}, x, rest < pair ? rest : pair),
+                        read(Px{}, x + pair, rest < pair ? 0 : rest - pair));
     std::memcpy(dst + Format::bytes * x, end, Format::bytes * rest);
   }
 }
 
-// Lanes known at compile time to be all there are loaded whole.
-template <class P>
-TESSARO_INLINE P load_some(const uint8_t* at, size_t n) {
-  return n == P::lanes ? P::load(at) : P::load(at, n);
-}
+template <class Format>
+inline constexpr bool of_words = Format::bytes == 2;
 
 template <class Format>
 void encode(uint8_t* dst, const uint8_t* src, size_t count) {
   encode_run<Format>(dst, count, may_read_ahead(dst, Format::bytes, src, 4, count),
-                     [src]<class P>(P, size_t x, size_t n) { return load_some<P>(src + 4 * x, n); });
+                     [src]<class P>(P, size_t x, size_t n) {
+                       const auto a = Pair<P>::load(src + 4 * x, n);
+                       if constexpr (of_words<Format>)
+                         return Channels<P>::tops_of(a);
+                       else
+                         return a;
+                     });
+}
+
+// d and s, of which s has this weight of 256, as the format wants them.
+template <class Format, class P>
+TESSARO_INLINE auto mixed(Pair<P> d, Pair<P> s, uint32_t weight) {
+  if constexpr (of_words<Format>) {
+    return Channels<P>::mixed(Channels<P>::of(d), Channels<P>::of(s), weight);
+  } else {
+    const ConstantMix<P> mix(weight);
+    return Pair<P>{mix(d.first, s.first), mix(d.second, s.second)};
+  }
 }
 
 template <class Format>
@@ -159,8 +218,8 @@ void encode_mixed_with_colour(uint8_t* dst, const uint8_t* src, size_t count, ui
                               uint32_t weight) {
   encode_run<Format>(dst, count, may_read_ahead(dst, Format::bytes, src, 4, count),
                      [=]<class P>(P, size_t x, size_t n) {
-                       using H = typename P::Half;
-                       return mix(P::splat(colour), load_some<P>(src + 4 * x, n), H::splat(weight));
+                       const P c = P::splat(colour);
+                       return mixed<Format>(Pair<P>{c, c}, Pair<P>::load(src + 4 * x, n), weight);
                      });
 }
 
@@ -170,22 +229,34 @@ void encode_mixed(uint8_t* dst, const uint8_t* a, const uint8_t* b, size_t count
       dst, count,
       may_read_ahead(dst, Format::bytes, a, 4, count) && may_read_ahead(dst, Format::bytes, b, 4, count),
       [=]<class P>(P, size_t x, size_t n) {
-        using H = typename P::Half;
-        return mix(load_some<P>(a + 4 * x, n), load_some<P>(b + 4 * x, n), H::splat(weight));
+        return mixed<Format>(Pair<P>::load(a + 4 * x, n), Pair<P>::load(b + 4 * x, n), weight);
       });
 }
 
 void saturated(uint8_t* dst, const uint8_t* src, size_t count, tessaro::SaturationParts parts) {
-  const Saturate<Px> many{parts.channel_part, parts.sum_part};
-  const Saturate<One> one{parts.channel_part, parts.sum_part};
   encode_run<As8888>(dst, count,
                      parts.channel_part <= saturation_limit && may_read_ahead(dst, 4, src, 4, count),
                      [=]<class P>(P, size_t x, size_t n) {
-                       if constexpr (P::lanes == 1)
-                         return one(P::load(src + 4 * x));
-                       else
-                         return many(load_some<P>(src + 4 * x, n));
+                       const Saturate<P> saturate{parts.channel_part, parts.sum_part};
+                       const auto a = Pair<P>::load(src + 4 * x, n);
+                       return Pair<P>{saturate(a.first), saturate(a.second)};
                      });
+}
+
+// Saturation and mix of channels that are apart anyway.
+template <class Format>
+void encode_saturated(uint8_t* dst, const uint8_t* src, size_t count, tessaro::SaturationParts parts,
+                      uint32_t colour, uint32_t weight) {
+  encode_run<Format>(
+      dst, count, parts.channel_part <= saturation_limit && may_read_ahead(dst, Format::bytes, src, 4, count),
+      [=]<class P>(P, size_t x, size_t n) {
+        const Saturate<P> saturate{parts.channel_part, parts.sum_part};
+        auto a = Pair<P>::load(src + 4 * x, n);
+        if constexpr (P::lanes == 1) a.first = saturate(a.first);
+        auto c = Channels<P>::of(a);
+        if constexpr (P::lanes > 1) saturate.apart(c.blue, c.green, c.red);
+        return Channels<P>::mixed(Channels<P>::of_colour(colour), c, weight);
+      });
 }
 
 template <class Format, class P>
@@ -295,6 +366,8 @@ TESSARO_KERNELS(FormatKernels){
     .mixed_with_colour = TESSARO_EACH_FORMAT(encode_mixed_with_colour),
     .mixed = TESSARO_EACH_FORMAT(encode_mixed),
     .saturated = saturated,
+    .saturated_to = {nullptr, nullptr, encode_saturated<As565>, encode_saturated<As555>,
+                     encode_saturated<As1555>, encode_saturated<As4444>},
     .from_bits = from_bits,
     .from_bytes = from_bytes,
     .looked_up = looked_up,

@@ -1,6 +1,6 @@
 // Pixels that memory holds in fewer than four bytes, in the vocabulary's vectors. Each store writes exactly the
 // bytes of its pixels, and each load reads no other.
-//   store_words(p, a, b, c, d)    the lower 16 bits of every pixel; the upper ones must be 0
+//   store_words(p, words)         the lower words of all lanes, then the upper ones; not for single pixels
 //   store_triples(p, a, b, c, d)  the lower three bytes
 //   store_bytes(p, a, b, c, d)    the lowest byte; the upper ones must be 0
 //   store_bits(p, a, b, c, d)     the top bit of the lowest byte, the first pixel in bit 7; not for single pixels
@@ -11,6 +11,16 @@
 
 namespace {
 
+// The lower and the upper words of the pixels of two vectors. In this order the lower lanes hold the first vector's.
+template <class P>
+struct Words {
+  P lower, upper;
+};
+template <class P>
+TESSARO_INLINE Words<P> words(P first, P second) {
+  const P lower = P::splat(0xFFFF);
+  return {choose_bits(lower, first, shl<16>(second)), choose_bits(lower, shr<16>(first), second)};
+}
 template <class P>
 P load_words(const uint8_t* p) = delete;
 template <class P>
@@ -35,7 +45,7 @@ TESSARO_INLINE void store_ones(uint8_t* p, One a, One b, One c, One d) {
   store_one<bytes>(p + 2 * bytes, c);
   store_one<bytes>(p + 3 * bytes, d);
 }
-TESSARO_INLINE void store_words(uint8_t* p, One a, One b, One c, One d) { store_ones<2>(p, a, b, c, d); }
+TESSARO_INLINE void store_words(uint8_t* p, One::Half words) { std::memcpy(p, &words.v, 4); }
 TESSARO_INLINE void store_triples(uint8_t* p, One a, One b, One c, One d) { store_ones<3>(p, a, b, c, d); }
 TESSARO_INLINE void store_bytes(uint8_t* p, One a, One b, One c, One d) { store_ones<1>(p, a, b, c, d); }
 
@@ -51,11 +61,17 @@ TESSARO_INLINE Px load_triples<Px>(const uint8_t* p) {
                                          static_cast<int>(0x80050403), static_cast<int>(0x80020100));
   return {_mm512_shuffle_epi8(_mm512_permutexvar_epi32(spread, _mm512_maskz_loadu_epi32(0xFFF, p)), from)};
 }
-TESSARO_INLINE void store_words(uint8_t* p, Px a, Px b, Px c, Px d) {
-  const __m512i order = _mm512_setr_epi64(0, 2, 4, 6, 1, 3, 5, 7);
-  Px{_mm512_permutexvar_epi64(order, _mm512_packus_epi32(a.v, b.v))}.store(p);
-  Px{_mm512_permutexvar_epi64(order, _mm512_packus_epi32(c.v, d.v))}.store(p + 64);
+// Here the lanes are in the order of the pixels.
+template <>
+TESSARO_INLINE Words<Px> words<Px>(Px first, Px second) {
+  alignas(64) static constexpr uint16_t lower[] = {0,  2,  4,  6,  8,  10, 12, 14, 16, 18, 20,
+                                                   22, 24, 26, 28, 30, 32, 34, 36, 38, 40, 42,
+                                                   44, 46, 48, 50, 52, 54, 56, 58, 60, 62};
+  const __m512i from = Px::load(lower).v, next = _mm512_add_epi16(from, _mm512_set1_epi16(1));
+  return {{_mm512_permutex2var_epi16(first.v, from, second.v)},
+          {_mm512_permutex2var_epi16(first.v, next, second.v)}};
 }
+TESSARO_INLINE void store_words(uint8_t* p, Px::Half words) { Px{words.v}.store(p); }
 TESSARO_INLINE void store_triples(uint8_t* p, Px a, Px b, Px c, Px d) {
   // Twelve bytes at the front of each 128 bits, then those of two vectors side by side.
   const __m512i front = _mm512_set4_epi32(static_cast<int>(0x80808080), 0x0E0D0C0A, 0x09080605, 0x04020100);
@@ -96,9 +112,10 @@ TESSARO_INLINE Px load_triples<Px>(const uint8_t* p) {
                                         0, 1, 2, -1, 3, 4, 5, -1, 6, 7, 8, -1, 9, 10, 11, -1);
   return {_mm256_shuffle_epi8(_mm256_permutevar8x32_epi32(Px::load(p, 6).v, spread), from)};
 }
-TESSARO_INLINE void store_words(uint8_t* p, Px a, Px b, Px c, Px d) {
-  Px{_mm256_permute4x64_epi64(_mm256_packus_epi32(a.v, b.v), 0xD8)}.store(p);
-  Px{_mm256_permute4x64_epi64(_mm256_packus_epi32(c.v, d.v), 0xD8)}.store(p + 32);
+TESSARO_INLINE void store_words(uint8_t* p, Px::Half words) {
+  const __m256i lower_first = _mm256_setr_epi8(0, 1, 4, 5, 8, 9, 12, 13, 2, 3, 6, 7, 10, 11, 14, 15,  //
+                                               0, 1, 4, 5, 8, 9, 12, 13, 2, 3, 6, 7, 10, 11, 14, 15);
+  Px{_mm256_permute4x64_epi64(_mm256_shuffle_epi8(words.v, lower_first), 0xD8)}.store(p);
 }
 TESSARO_INLINE void store_triples(uint8_t* p, Px a, Px b, Px c, Px d) {
   // Twelve bytes at the front of each 128 bits; then each vector's six words to where the stores want them.
@@ -143,13 +160,9 @@ TESSARO_INLINE Px load_triples<Px>(const uint8_t* p) {
                        _mm_or_si128(_mm_and_si128(_mm_slli_si128(v, 2), only(2)),
                                     _mm_and_si128(_mm_slli_si128(v, 3), only(3))))};
 }
-TESSARO_INLINE __m128i packed_words(Px a, Px b) {  // the only pack is signed
-  const auto extended = [](Px x) { return _mm_srai_epi32(_mm_slli_epi32(x.v, 16), 16); };
-  return _mm_packs_epi32(extended(a), extended(b));
-}
-TESSARO_INLINE void store_words(uint8_t* p, Px a, Px b, Px c, Px d) {
-  Px{packed_words(a, b)}.store(p);
-  Px{packed_words(c, d)}.store(p + 16);
+TESSARO_INLINE void store_words(uint8_t* p, Px::Half words) {
+  const __m128i quarters = _mm_shufflehi_epi16(_mm_shufflelo_epi16(words.v, 0xD8), 0xD8);
+  Px{_mm_shuffle_epi32(quarters, 0xD8)}.store(p);
 }
 TESSARO_INLINE void store_triples(uint8_t* p, Px a, Px b, Px c, Px d) {
   const auto front = [](Px x) {  // six bytes in each 64 bits, then twelve in 128

@@ -10,10 +10,6 @@ using tessaro::PaintSpan;
 
 TESSARO_INLINE uint32_t lanes_mask(size_t n) { return (1u << n) - 1; }
 
-TESSARO_INLINE Px load_some(const uint8_t* at, size_t n) {
-  return n == Px::lanes ? Px::load(at) : Px::load(at, n);
-}
-
 // The first pixel from x on, below end, that is the old colour, or is not; end if there is none.
 template <bool wanted>
 TESSARO_INLINE int32_t find(const uint8_t* row, int32_t x, int32_t end, uint32_t old) {
@@ -21,7 +17,7 @@ TESSARO_INLINE int32_t find(const uint8_t* row, int32_t x, int32_t end, uint32_t
   const Px o = Px::splat(old);
   for (; x < end; x += lanes) {
     const auto n = static_cast<size_t>(end - x < lanes ? end - x : lanes);
-    const uint32_t hits = (wanted ? 0 : ~0u) ^ Px::bits(equal(load_some(row + 4 * x, n), o));
+    const uint32_t hits = (wanted ? 0 : ~0u) ^ Px::bits(equal(load_some<Px>(row + 4 * x, n), o));
     if (hits & lanes_mask(n)) return x + __builtin_ctz(hits & lanes_mask(n));
   }
   return end;
@@ -62,7 +58,7 @@ TESSARO_INLINE int32_t follow(const Paint& p, PaintSpan span, int32_t step) {
   const Px old = Px::splat(p.old);
   const auto is_old = [&](const uint8_t* at) { return One::load(at).v == p.old; };
   const auto goes_on = [&](const uint8_t* row) {
-    if (narrow) return (Px::bits(equal(load_some(row + 4 * from, n), old)) & all) == expected;
+    if (narrow) return (Px::bits(equal(load_some<Px>(row + 4 * from, n), old)) & all) == expected;
     return (at_left || !is_old(row + 4 * from)) && (at_right || !is_old(row + 4 * end)) &&
            find<false>(row, begin, end, p.old) == end;
   };

@@ -116,6 +116,10 @@ TESSARO_INLINE Px::Half operator-(Px::Half a, Px::Half b) { return {_mm256_sub_e
 TESSARO_INLINE Px::Half operator&(Px::Half a, Px::Half b) { return {_mm256_and_si256(a.v, b.v)}; }
 TESSARO_INLINE Px::Half operator|(Px::Half a, Px::Half b) { return {_mm256_or_si256(a.v, b.v)}; }
 TESSARO_INLINE Px::Half operator*(Px::Half a, Px::Half b) { return {_mm256_mullo_epi16(a.v, b.v)}; }
+TESSARO_INLINE Px::Half sum_in_byte(Px::Half a, Px::Half b) {
+  const Px::Half room = Px::Half::splat(32767 - 255);
+  return {_mm256_subs_epu16(_mm256_adds_epi16(a.v, (b + room).v), room.v)};
+}
 TESSARO_INLINE Px::Half plus_equal(Px::Half a, Px::Half b) {
   return {_mm256_sub_epi16(a.v, _mm256_cmpeq_epi16(a.v, b.v))};
 }

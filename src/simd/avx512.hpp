@@ -105,6 +105,10 @@ TESSARO_INLINE Px::Half operator-(Px::Half a, Px::Half b) { return {_mm512_sub_e
 TESSARO_INLINE Px::Half operator&(Px::Half a, Px::Half b) { return {_mm512_and_si512(a.v, b.v)}; }
 TESSARO_INLINE Px::Half operator|(Px::Half a, Px::Half b) { return {_mm512_or_si512(a.v, b.v)}; }
 TESSARO_INLINE Px::Half operator*(Px::Half a, Px::Half b) { return {_mm512_mullo_epi16(a.v, b.v)}; }
+TESSARO_INLINE Px::Half sum_in_byte(Px::Half a, Px::Half b) {
+  const Px::Half room = Px::Half::splat(32767 - 255);
+  return {_mm512_subs_epu16(_mm512_adds_epi16(a.v, (b + room).v), room.v)};
+}
 TESSARO_INLINE Px::Half plus_equal(Px::Half a, Px::Half b) {
   return {_mm512_mask_add_epi16(a.v, _mm512_cmpeq_epi16_mask(a.v, b.v), a.v, _mm512_set1_epi16(1))};
 }

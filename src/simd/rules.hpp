@@ -78,6 +78,13 @@ struct Saturate {
     return join_sat(scaled(even(s), even_k) + grey,
                     scaled(odd(s), odd_k) + (grey & halves(P::splat(0xFFFF))));
   }
+  // The same where both lanes hold one channel each.
+  TESSARO_INLINE void apart(H& blue, H& green, H& red) const {
+    blue = shl<5>(blue), green = shl<5>(green), red = shl<5>(red);
+    const H grey = mul_high_signed(blue + green + red, H::splat(static_cast<uint32_t>(2 * sum_part)));
+    const auto saturated = [&](H c) { return sum_in_byte(mul_high(c, even_k + even_k), grey); };
+    blue = saturated(blue), green = saturated(green), red = saturated(red);
+  }
 };
 // With 16 bits a factor must stay below 32; beyond that, one pixel at a time.
 inline constexpr int32_t saturation_limit = 32767;

@@ -147,6 +147,9 @@ TESSARO_INLINE One join_sat(One::Half e, One::Half o) {
   const auto byte = [](One::Half c) { return min(max(c, One::Half::splat(0)), One::Half::splat(255)); };
   return join(byte(e), byte(o));
 }
+TESSARO_INLINE One::Half sum_in_byte(One::Half a, One::Half b) {
+  return min(max(a + b, One::Half::splat(0)), One::Half::splat(255));
+}
 template <int k>
 TESSARO_INLINE One::Half shl(One::Half a) {
   return per_lane(a, a, [](uint32_t x, uint32_t) { return x << k; });

@@ -121,6 +121,10 @@ TESSARO_INLINE Px::Half operator-(Px::Half a, Px::Half b) { return {_mm_sub_epi1
 TESSARO_INLINE Px::Half operator&(Px::Half a, Px::Half b) { return {_mm_and_si128(a.v, b.v)}; }
 TESSARO_INLINE Px::Half operator|(Px::Half a, Px::Half b) { return {_mm_or_si128(a.v, b.v)}; }
 TESSARO_INLINE Px::Half operator*(Px::Half a, Px::Half b) { return {_mm_mullo_epi16(a.v, b.v)}; }
+TESSARO_INLINE Px::Half sum_in_byte(Px::Half a, Px::Half b) {
+  const Px::Half room = Px::Half::splat(32767 - 255);
+  return {_mm_subs_epu16(_mm_adds_epi16(a.v, (b + room).v), room.v)};
+}
 TESSARO_INLINE Px::Half plus_equal(Px::Half a, Px::Half b) {
   return {_mm_sub_epi16(a.v, _mm_cmpeq_epi16(a.v, b.v))};
 }

@@ -33,6 +33,7 @@
 //   ramp_alpha(a, line)          (alpha * rise + base) >> shift, kept within 0..256, in both lanes; see AlphaLine
 //   P::Half::splat(v)  + - *     modulo 65536;  & |;  shl<k> shr<k> (logical);  min max (signed)
 //   mul_high(a, b)               (a * b) >> 16, unsigned; mul_high_signed(a, b) signed
+//   sum_in_byte(a, b)            a + b (signed) kept within 0..255; b at most 255, the sum above -32512
 //   plus_equal(a, b)             a + 1 where a == b, else a
 #pragma once
 
@@ -99,10 +100,17 @@ concept PixelVector = requires(P a, typename P::Half h, const void* in, void* ou
   { ramp_alpha(a, AlphaLine{}) } -> std::same_as<typename P::Half>;
   { ((h + h) - (h * h)) | (h & h) } -> std::same_as<typename P::Half>;
   { min(max(h, h), P::Half::splat(1)) } -> std::same_as<typename P::Half>;
+  { sum_in_byte(h, h) } -> std::same_as<typename P::Half>;
   { plus_equal(h, h) } -> std::same_as<typename P::Half>;
   { mul_high(h, h) } -> std::same_as<typename P::Half>;
   { mul_high_signed(h, h) } -> std::same_as<typename P::Half>;
   { shl<1>(shr<1>(h)) } -> std::same_as<typename P::Half>;
 };
+
+// The first n pixels, where n may be all lanes; lanes known at compile time to be all there are loaded whole.
+template <class P>
+TESSARO_INLINE P load_some(const uint8_t* at, size_t n) {
+  return n == P::lanes ? P::load(at) : P::load(at, n);
+}
 
 }  // namespace
