@@ -60,17 +60,12 @@ TESSARO_INLINE Neighbours<Px> neighbours<0>(const uint8_t* src, int32_t, int32_t
   return {gathered(src, where), gathered(src + 4, where)};
 }
 
-constexpr size_t prefetched_bytes = 4096;
-
 template <int vectors>
 TESSARO_INLINE void interpolate_within(uint32_t* out, const uint8_t* src, const Bilinear& b) {
   const auto width = static_cast<size_t>(b.area.dw);
   const uint32_t *columns = b.room, *weights = b.room + width;
   const auto between = [&](size_t x, Px where, Px weight) {
-    // A vector's step is more than a line of the cache; the processor's own guesses end with the page.
-    const uint8_t* ahead = src + 4 * static_cast<size_t>(columns[x]) + prefetched_bytes;
-    __builtin_prefetch(ahead);
-    __builtin_prefetch(ahead + 64);
+    prefetch<2>(src + 4 * static_cast<size_t>(columns[x]));
     const Neighbours<Px> n = neighbours<vectors>(src, b.area.sw, static_cast<int32_t>(columns[x]), where);
     return mix(n.left, n.right, halves(weight));
   };

@@ -49,6 +49,13 @@ TESSARO_INLINE Px load_some(const uint8_t* at, int32_t count) {
   return count >= lanes ? Px::load(at) : Px::load(at, count > 0 ? static_cast<size_t>(count) : 0);
 }
 
+// A row's samples leave the processor's own guesses behind, which end with the page: so many lines that a vector moves on.
+template <int lines>
+TESSARO_INLINE void prefetch(const uint8_t* at) {
+  const auto ahead = reinterpret_cast<uintptr_t>(at) + 4096;  // may lie behind the image
+  for (uintptr_t k = 0; k < lines; ++k) __builtin_prefetch(reinterpret_cast<const void*>(ahead + 64 * k));
+}
+
 // A few vectors of a source row, from which pixels are picked by their places.
 template <int count>
 struct Loaded {
@@ -84,8 +91,11 @@ struct ColumnMap {
     for (int32_t j = 0; j < n.dw; ++j, column.next()) n.columns[j] = column.at;
 #ifdef TESSARO_PERMUTES
     constexpr auto lanes = static_cast<int32_t>(Px::lanes);
-    const int64_t reach = static_cast<int64_t>(lanes - 1) * n.sw / n.dw + (even_steps ? 1 : 2);
-    const int64_t span = reach < n.sw ? reach : n.sw;
+    int64_t span = n.sw;
+    if (n.sw > lanes) {
+      const int64_t reach = static_cast<int64_t>(lanes - 1) * n.sw / n.dw + (even_steps ? 1 : 2);
+      if (reach < span) span = reach;
+    }
     vectors = span <= lanes ? 1 : span <= 2 * lanes ? 2 : span <= 4 * lanes ? 4 : 0;
     whole_row = n.sw <= vectors * lanes;
     if (vectors == 0 || whole_row) return;
@@ -104,17 +114,17 @@ struct ColumnMap {
   }
 #ifdef TESSARO_PERMUTES
   // dst[x] = rule(dst[x], sample[from + x]), where there are vectors; `from` is a multiple of every vector.
-  template <class Rule>
+  template <bool fetches_ahead = false, class Rule>
   TESSARO_INLINE void row(uint8_t* dst, const uint8_t* src, size_t from, size_t width,
                           const Rule& rule) const {
     if (vectors == 1)
-      row_of<1>(dst, src, from, width, rule);
+      row_of<1, fetches_ahead>(dst, src, from, width, rule);
     else if (vectors == 2)
-      row_of<2>(dst, src, from, width, rule);
+      row_of<2, fetches_ahead>(dst, src, from, width, rule);
     else
-      row_of<4>(dst, src, from, width, rule);
+      row_of<4, fetches_ahead>(dst, src, from, width, rule);
   }
-  template <int count, class Rule>
+  template <int count, bool fetches_ahead, class Rule>
   TESSARO_INLINE void row_of(uint8_t* dst, const uint8_t* src, size_t from, size_t width,
                              const Rule& rule) const {
     if (whole_row) {
@@ -122,7 +132,9 @@ struct ColumnMap {
       pick(dst, from, width, rule, [&](size_t) { return row; });
     } else {
       pick(dst, from, width, rule, [&](size_t x) {
-        return Loaded<count>(src + 4 * static_cast<ptrdiff_t>(bases[(from + x) / Px::lanes]));
+        const uint8_t* at = src + 4 * static_cast<ptrdiff_t>(bases[(from + x) / Px::lanes]);
+        if constexpr (count == 1 && fetches_ahead) prefetch<1>(at);
+        return Loaded<count>(at);
       });
     }
   }
@@ -138,9 +150,10 @@ struct ColumnMap {
   }
 #endif
   // out[x] = sample[from + x]
+  template <bool fetches_ahead = false>
   TESSARO_INLINE void sample(uint8_t* out, const uint8_t* src, size_t from, size_t width) const {
 #ifdef TESSARO_PERMUTES
-    if (vectors != 0) return row(out, src, from, width, Replace<Px>{});
+    if (vectors != 0) return row<fetches_ahead>(out, src, from, width, Replace<Px>{});
 #endif
     for (size_t x = 0; x < width; ++x)
       One::load(src + 4 * static_cast<ptrdiff_t>(columns[from + x])).store(out + 4 * x);
@@ -180,7 +193,7 @@ TESSARO_INLINE void for_samples(const Stretch& n, const Body& body) {
       for (; i < n.dh && row.at == at; ++i) row.next();
       for (int32_t x = 0; x < n.dw; x += part_width) {
         const int32_t width = n.dw - x < part_width ? n.dw - x : part_width;
-        columns.sample(samples, src, static_cast<size_t>(x), static_cast<size_t>(width));
+        columns.sample<true>(samples, src, static_cast<size_t>(x), static_cast<size_t>(width));
         dst = n.dst + from * n.dst_pitch + 4 * static_cast<ptrdiff_t>(x);
         for (int32_t k = from; k < i; ++k, dst += n.dst_pitch)
           body.template operator()<V>(dst, samples, x, width, k);
