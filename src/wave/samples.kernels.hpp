@@ -28,9 +28,13 @@ TESSARO_INLINE auto read8(const uint8_t* in) {
   } else if constexpr (S::bytes == 4) {
     return reinterpret_cast<Whole>(_mm256_loadu_si256(reinterpret_cast<const __m256i*>(in)));
   } else {
-    Lanes v;
-    __builtin_memcpy(&v, in, sizeof v);
-    return v;
+    const auto* at = reinterpret_cast<const double*>(in);
+#if defined(__AVX512F__)
+    return reinterpret_cast<Lanes>(_mm512_loadu_pd(at));
+#else
+    return Lanes{reinterpret_cast<Half>(_mm256_loadu_pd(at)),
+                 reinterpret_cast<Half>(_mm256_loadu_pd(at + 4))};
+#endif
   }
 }
 template <class S, class V>
@@ -57,8 +61,16 @@ TESSARO_INLINE void write8(uint8_t* out, const V& v) {
                                                     _mm256_setr_epi32(0, 1, 2, 4, 5, 6, 7, 7));
     put16(all);
     _mm_storel_epi64(reinterpret_cast<__m128i*>(out + 16), _mm256_extracti128_si256(all, 1));
+  } else if constexpr (S::bytes == 4) {
+    _mm256_storeu_si256(reinterpret_cast<__m256i*>(out), reinterpret_cast<__m256i>(v));
   } else {
-    __builtin_memcpy(out, &v, sizeof v);
+    auto* at = reinterpret_cast<double*>(out);
+#if defined(__AVX512F__)
+    _mm512_storeu_pd(at, reinterpret_cast<__m512d>(v));
+#else
+    _mm256_storeu_pd(at, reinterpret_cast<__m256d>(v.low));
+    _mm256_storeu_pd(at + 4, reinterpret_cast<__m256d>(v.high));
+#endif
   }
 }
 #endif
@@ -94,7 +106,7 @@ template <class D, class S, class Rule>
 TESSARO_INLINE void each_mean(uint8_t* __restrict out, const uint8_t* __restrict pairs, size_t n, Rule rule) {
   size_t i = 0;
 #if defined(__AVX2__)
-  if constexpr (D::bytes == 3)
+  if constexpr (D::bytes == 3 && S::bytes < 8)
     for (; i + 8 <= n; i += 8) {
       const auto a = read8<S>(pairs + 2 * S::bytes * i), b = read8<S>(pairs + 2 * S::bytes * (i + 4));
       write8<D>(out + 3 * i, rule(__builtin_shufflevector(a, b, 0, 2, 4, 6, 8, 10, 12, 14),
@@ -373,11 +385,15 @@ TESSARO_INLINE void ramp(uint8_t* out, const uint8_t* in, size_t frames, double 
 #if defined(__AVX2__)
   double amount[2];
   if (even_steps(gain, step, frames, amount)) {
-    const Lanes alternate = {amount[0], amount[1], amount[0], amount[1],
-                             amount[0], amount[1], amount[0], amount[1]};
-    const Lanes first = {gain[0], gain[1], gain[0], gain[1], gain[0], gain[1], gain[0], gain[1]};
-    Lanes gains = first + Lanes{0, 0, 1, 1, 2, 2, 3, 3} * alternate;
-    for (; i + 4 <= frames; i += 4, gains += 4.0 * alternate)
+    const auto lanes = [](const double of[2], double times) {  // of[0], of[1], alternating
+      double v[8];
+      for (size_t k = 0; k < 8; ++k) v[k] = of[k & 1] * times;
+      return read8<S64>(bytes_of(v));
+    };
+    const double counted[] = {0, 0, 1, 1, 2, 2, 3, 3};
+    const Lanes four_steps = lanes(amount, 4.0);
+    Lanes gains = lanes(gain, 1.0) + lanes(amount, 1.0) * read8<S64>(bytes_of(counted));
+    for (; i + 4 <= frames; i += 4, gains = gains + four_steps)
       write8<S>(out + 2 * S::bytes * i, rule(read8<S>(in + 2 * S::bytes * i), gains));
     for (size_t lane = 0; lane < 2; ++lane) gain[lane] += amount[lane] * static_cast<double>(i);
   }
@@ -437,8 +453,16 @@ void extremes(const uint8_t* in, size_t n, Value low[2], Value high[2]) {
   }
   for (; i < n; ++i) see(i, S::get(in + S::bytes * i));
 }
-typedef int8_t Row8 __attribute__((vector_size(64)));
-typedef int16_t Row16 __attribute__((vector_size(64)));
+#if defined(__AVX512BW__)
+constexpr size_t row_bytes = 64;
+#elif defined(__AVX2__)
+constexpr size_t row_bytes = 32;
+#else
+constexpr size_t row_bytes = 16;
+#endif
+typedef int8_t Row8 __attribute__((vector_size(row_bytes)));
+typedef int16_t Row16 __attribute__((vector_size(row_bytes)));
+typedef double Row64 __attribute__((vector_size(row_bytes)));
 
 }  // namespace
 
@@ -475,5 +499,5 @@ TESSARO_KERNELS(SampleKernels){
     .ramp24 = {ramp24<S8>, ramp24<S16>, ramp24<S24>, ramp24<Value24>},
     .ramp64 = {ramp64<S8>, ramp64<S16>, ramp64<S24>, ramp64<S64>},
     .extremes = {extremes<S8, Row8, int32_t>, extremes<S16, Row16, int32_t>, extremes<S24, Whole, int32_t>},
-    .extremes64 = extremes<S64, Lanes, double>,
+    .extremes64 = extremes<S64, Row64, double>,
 };

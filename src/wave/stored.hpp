@@ -24,7 +24,18 @@ typedef double F64 __attribute__((aligned(1), may_alias));
 // Rules are stated for one value or for a vector of them; vectors are of eight: they fill the registers as doubles.
 typedef int32_t Whole __attribute__((vector_size(32)));
 typedef uint32_t Natural __attribute__((vector_size(32)));
+#if defined(__AVX512F__)
 typedef double Lanes __attribute__((vector_size(64)));
+#else
+// Compilers keep vectors of two registers in memory.
+typedef double Half __attribute__((vector_size(32)));
+struct Lanes {
+  Half low, high;
+};
+TESSARO_INLINE Lanes operator+(const Lanes& a, const Lanes& b) { return {a.low + b.low, a.high + b.high}; }
+TESSARO_INLINE Lanes operator*(const Lanes& a, const Lanes& b) { return {a.low * b.low, a.high * b.high}; }
+TESSARO_INLINE Lanes operator*(const Lanes& a, double b) { return {a.low * b, a.high * b}; }
+#endif
 
 TESSARO_INLINE uint32_t natural(int32_t v) { return static_cast<uint32_t>(v); }
 TESSARO_INLINE int32_t whole(uint32_t v) { return static_cast<int32_t>(v); }
@@ -35,14 +46,22 @@ TESSARO_INLINE int32_t truncated(double v) { return static_cast<int32_t>(v); }
 #if defined(__AVX2__)
 TESSARO_INLINE Natural natural(Whole v) { return reinterpret_cast<Natural>(v); }
 TESSARO_INLINE Whole whole(Natural v) { return reinterpret_cast<Whole>(v); }
-TESSARO_INLINE Lanes real(Whole v) {
-#if defined(__AVX512F__)  // which the compiler would do in two halves
+#if defined(__AVX512F__)
+TESSARO_INLINE Lanes real(Whole v) {  // which the compiler would do in two halves
   return reinterpret_cast<Lanes>(_mm512_cvtepi32_pd(reinterpret_cast<__m256i>(v)));
-#else
-  return __builtin_convertvector(v, Lanes);
-#endif
 }
 TESSARO_INLINE Whole truncated(Lanes v) { return __builtin_convertvector(v, Whole); }
+#else
+TESSARO_INLINE Lanes real(Whole v) {
+  return {__builtin_convertvector(__builtin_shufflevector(v, v, 0, 1, 2, 3), Half),
+          __builtin_convertvector(__builtin_shufflevector(v, v, 4, 5, 6, 7), Half)};
+}
+TESSARO_INLINE Whole truncated(const Lanes& v) {
+  const auto low = reinterpret_cast<__m256d>(v.low), high = reinterpret_cast<__m256d>(v.high);
+  return reinterpret_cast<Whole>(_mm256_inserti128_si256(_mm256_castsi128_si256(_mm256_cvttpd_epi32(low)),
+                                                         _mm256_cvttpd_epi32(high), 1));
+}
+#endif
 #endif
 
 template <class V>
@@ -71,6 +90,9 @@ template <class V>
 TESSARO_INLINE V to_unit(V v) {
   return limited(v, -1.0, 1.0);
 }
+#if defined(__AVX2__) && !defined(__AVX512F__)
+TESSARO_INLINE Lanes to_unit(const Lanes& v) { return {to_unit(v.low), to_unit(v.high)}; }
+#endif
 
 // A stored form has get and put of one sample; toN, the sample at a scale; fromN, what is put for a value at a
 // scale; meanN, what is put for a stereo pair in a mono buffer. At which step the mean is taken differs between
