@@ -137,6 +137,7 @@ void compare(uint32_t seed, int rounds, int32_t widest, const Call& call, const 
   for (const Forced backend : supported_backends()) {
     Random random(seed);
     for (int round = 0; round < rounds && !testing::Test::HasFatalFailure(); ++round) {
+      streamed_area = round % 7 < 3 ? 64 : never;
       const Image dst = random_image(random, random.between(1, widest), random.between(1, 7));
       const Image src = random_image(random, random.between(1, widest), random.between(1, 7));
       const bool one = round % 3 == 0;
@@ -147,6 +148,7 @@ void compare(uint32_t seed, int rounds, int32_t widest, const Call& call, const 
           [&](Image& d, Image& s) { return model(d, s, c, a); });
     }
   }
+  choose_backend();
 }
 
 }  // namespace
