@@ -24,7 +24,7 @@ void clear_frames(uint8_t* ring, int64_t position, int64_t n) {
 // distance that the kernel asks for, and end before the ring has gone round.
 bool well_spaced(double place, const double* step, int32_t taps) {
   if (place < read_ahead + echo_frames) return false;
-  for (int32_t t = 0; t + 1 < taps; ++t, place += step[t])
+  for (int32_t t = 0; t + 1 < taps; place += step[t++])
     if (!(step[t] >= 3)) return false;
   return place < ring_frames - 4;
 }

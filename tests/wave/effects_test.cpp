@@ -193,7 +193,8 @@ TEST(Reverb, StreamsBlockByBlockAsOneFrameAfterAnother) {
       if (trial % 3 ==
           1)  // far enough apart for frames to be taken together; some places are nearly whole numbers
         for (size_t t = 20000; t < 20040; ++t) one->table[t] = random.between(30, 900) * 0.05;
-      if (trial % 3 == 2)  // not quite, here and there
+      if (trial % 6 == 4) one->table[20000] = 1e10;  // but the first, which is followed by many turns
+      if (trial % 3 == 2)                            // not quite, here and there
         for (size_t t = 20000; t < 20040; ++t) one->table[t] = random.between(1, 20) * 0.6;
       for (double& v : one->ring) v = random.between(-9, 9);
       auto two = std::make_unique<Echoes>(*one);
