@@ -79,6 +79,8 @@ TEST(Maps, EqualTheirFormulasOnePixelAfterAnother) {
       const int32_t tall = seed % 8 == 7 ? 170 : 12;
       Image src = some_image(random, std::max(width, 1), random.between(1, tall));
       Image dst = some_image(random, std::max(width + random.between(-3, 3), 1), random.between(1, tall));
+      if (seed % 16 == 15)  // rows that overlap one another
+        dst = Image(dst.width(), dst.height(), 4 * std::max(dst.width() / 2, 1)).randomize(seed);
       if (seed % 3) flatten(src, random), flatten(dst, random);
       const int32_t far = seed % 2 ? 3 : 70;
       Rect r{random.between(-3, far), random.between(-2, 2),   width,
