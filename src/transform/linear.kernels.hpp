@@ -61,11 +61,12 @@ TESSARO_INLINE Neighbours<Px> neighbours<0>(const uint8_t* src, int32_t, int32_t
 }
 
 template <int vectors>
-TESSARO_INLINE void interpolate_within(uint32_t* out, const uint8_t* src, const Bilinear& b) {
+TESSARO_INLINE void interpolate_within(uint32_t* out, const uint8_t* src, const Bilinear& b,
+                                       ptrdiff_t ahead) {
   const auto width = static_cast<size_t>(b.area.dw);
   const uint32_t *columns = b.room, *weights = b.room + width;
   const auto between = [&](size_t x, Px where, Px weight) {
-    prefetch<2>(src + 4 * static_cast<size_t>(columns[x]));
+    prefetch<vectors == 0 ? 4 : 2>(src + 4 * static_cast<size_t>(columns[x]), ahead);
     const Neighbours<Px> n = neighbours<vectors>(src, b.area.sw, static_cast<int32_t>(columns[x]), where);
     return mix(n.left, n.right, halves(weight));
   };
@@ -77,14 +78,15 @@ TESSARO_INLINE void interpolate_within(uint32_t* out, const uint8_t* src, const 
 }
 #endif
 
-// One row of the source at the destination's columns.
-TESSARO_INLINE void interpolate(uint32_t* out, const uint8_t* src, const Bilinear& b) {
+// One row of the source at the destination's columns; the row that is wanted next lies `ahead`.
+TESSARO_INLINE void interpolate(uint32_t* out, const uint8_t* src, const Bilinear& b,
+                                [[maybe_unused]] ptrdiff_t ahead) {
 #ifdef TESSARO_PERMUTES
   // Where the neighbours of a vector lie within one or two vectors of the source, they are loads and permutations.
   const int32_t span = ((static_cast<int32_t>(Px::lanes) - 1) * b.x.step >> 12) + 3;
-  if (span <= static_cast<int32_t>(Px::lanes)) return interpolate_within<1>(out, src, b);
-  if (span <= static_cast<int32_t>(2 * Px::lanes)) return interpolate_within<2>(out, src, b);
-  return interpolate_within<0>(out, src, b);
+  if (span <= static_cast<int32_t>(Px::lanes)) return interpolate_within<1>(out, src, b, ahead);
+  if (span <= static_cast<int32_t>(2 * Px::lanes)) return interpolate_within<2>(out, src, b, ahead);
+  return interpolate_within<0>(out, src, b, ahead);
 #else
   const auto width = static_cast<size_t>(b.area.dw);
   const uint32_t *columns = b.room, *weights = b.room + width;
@@ -128,8 +130,8 @@ TESSARO_INLINE void bilinear(const Bilinear& b, const Args&... args) {
     int32_t row;
   };
   Kept upper = {b.room + 2 * width, -1}, lower = {b.room + 3 * width, -1};
-  const auto fill = [&](Kept& kept, int32_t row) {
-    if (kept.row != row) interpolate(kept.pixels, row_of(row), b);
+  const auto fill = [&](Kept& kept, int32_t row, int32_t next) {
+    if (kept.row != row) interpolate(kept.pixels, row_of(row), b, (next - row) * n.src_pitch);
     kept.row = row;
   };
   const Rule<Px> rule{args...};
@@ -143,8 +145,9 @@ TESSARO_INLINE void bilinear(const Bilinear& b, const Args&... args) {
       upper = lower;
       lower = t;
     }
-    fill(upper, row);
-    fill(lower, row + 1);
+    const int32_t later = b.y.pixel(i + 1);
+    fill(upper, row, row + 1);
+    fill(lower, row + 1, later > row + 1 ? later : row + 2);
     const Between<Px, Rule<Px>> between(rule, b.y.weight(i));
     const auto *top = reinterpret_cast<const uint8_t*>(upper.pixels),
                *bottom = reinterpret_cast<const uint8_t*>(lower.pixels);

@@ -49,11 +49,14 @@ TESSARO_INLINE Px load_some(const uint8_t* at, int32_t count) {
   return count >= lanes ? Px::load(at) : Px::load(at, count > 0 ? static_cast<size_t>(count) : 0);
 }
 
-// A row's samples leave the processor's own guesses behind, which end with the page: so many lines that a vector moves on.
+// So many lines that a vector reads, in the row that is wanted next: the processor's own guesses end with the page and run
+// on into rows that are left out.
 template <int lines>
-TESSARO_INLINE void prefetch(const uint8_t* at) {
-  const auto ahead = reinterpret_cast<uintptr_t>(at) + 4096;  // may lie behind the image
-  for (uintptr_t k = 0; k < lines; ++k) __builtin_prefetch(reinterpret_cast<const void*>(ahead + 64 * k));
+TESSARO_INLINE void prefetch(const uint8_t* at, ptrdiff_t ahead) {
+  // It may lie outside the image.
+  const auto place = reinterpret_cast<uintptr_t>(at) + static_cast<uintptr_t>(ahead);
+  for (uintptr_t k = 0; k < lines; ++k)
+    __builtin_prefetch(reinterpret_cast<const void*>(place + 64 * k), 0, 2);
 }
 
 // A few vectors of a source row, from which pixels are picked by their places.
@@ -113,27 +116,28 @@ struct ColumnMap {
 #endif
   }
 #ifdef TESSARO_PERMUTES
-  // dst[x] = rule(dst[x], sample[from + x]), where there are vectors; `from` is a multiple of every vector.
+  // dst[x] = rule(dst[x], sample[from + x]), where there are vectors; `from` is a multiple of every vector. The row that is
+  // wanted next lies `ahead`.
   template <bool fetches_ahead = false, class Rule>
-  TESSARO_INLINE void row(uint8_t* dst, const uint8_t* src, size_t from, size_t width,
-                          const Rule& rule) const {
+  TESSARO_INLINE void row(uint8_t* dst, const uint8_t* src, size_t from, size_t width, const Rule& rule,
+                          ptrdiff_t ahead = 0) const {
     if (vectors == 1)
-      row_of<1, fetches_ahead>(dst, src, from, width, rule);
+      row_of<1, fetches_ahead>(dst, src, from, width, rule, ahead);
     else if (vectors == 2)
-      row_of<2, fetches_ahead>(dst, src, from, width, rule);
+      row_of<2, fetches_ahead>(dst, src, from, width, rule, ahead);
     else
-      row_of<4, fetches_ahead>(dst, src, from, width, rule);
+      row_of<4, fetches_ahead>(dst, src, from, width, rule, ahead);
   }
   template <int count, bool fetches_ahead, class Rule>
-  TESSARO_INLINE void row_of(uint8_t* dst, const uint8_t* src, size_t from, size_t width,
-                             const Rule& rule) const {
+  TESSARO_INLINE void row_of(uint8_t* dst, const uint8_t* src, size_t from, size_t width, const Rule& rule,
+                             [[maybe_unused]] ptrdiff_t ahead) const {
     if (whole_row) {
       const Loaded<count> row(src, sw);
       pick(dst, from, width, rule, [&](size_t) { return row; });
     } else {
       pick(dst, from, width, rule, [&](size_t x) {
         const uint8_t* at = src + 4 * static_cast<ptrdiff_t>(bases[(from + x) / Px::lanes]);
-        if constexpr (count == 1 && fetches_ahead) prefetch<1>(at);
+        if constexpr (fetches_ahead) prefetch<count>(at, ahead);
         return Loaded<count>(at);
       });
     }
@@ -151,9 +155,10 @@ struct ColumnMap {
 #endif
   // out[x] = sample[from + x]
   template <bool fetches_ahead = false>
-  TESSARO_INLINE void sample(uint8_t* out, const uint8_t* src, size_t from, size_t width) const {
+  TESSARO_INLINE void sample(uint8_t* out, const uint8_t* src, size_t from, size_t width,
+                             [[maybe_unused]] ptrdiff_t ahead = 0) const {
 #ifdef TESSARO_PERMUTES
-    if (vectors != 0) return row<fetches_ahead>(out, src, from, width, Replace<Px>{});
+    if (vectors != 0) return row<fetches_ahead>(out, src, from, width, Replace<Px>{}, ahead);
 #endif
     for (size_t x = 0; x < width; ++x)
       One::load(src + 4 * static_cast<ptrdiff_t>(columns[from + x])).store(out + 4 * x);
@@ -191,9 +196,10 @@ TESSARO_INLINE void for_samples(const Stretch& n, const Body& body) {
       const uint8_t* src = n.src + row.at * n.src_pitch;
       const int32_t from = i, at = row.at;
       for (; i < n.dh && row.at == at; ++i) row.next();
+      const ptrdiff_t ahead = (row.at - at) * n.src_pitch;
       for (int32_t x = 0; x < n.dw; x += part_width) {
         const int32_t width = n.dw - x < part_width ? n.dw - x : part_width;
-        columns.sample<true>(samples, src, static_cast<size_t>(x), static_cast<size_t>(width));
+        columns.sample<true>(samples, src, static_cast<size_t>(x), static_cast<size_t>(width), ahead);
         dst = n.dst + from * n.dst_pitch + 4 * static_cast<ptrdiff_t>(x);
         for (int32_t k = from; k < i; ++k, dst += n.dst_pitch)
           body.template operator()<V>(dst, samples, x, width, k);
