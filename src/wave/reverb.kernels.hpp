@@ -80,11 +80,11 @@ struct Echoes {
   bool first, all;
 };
 
-// sum += shares times gain. A share that is left out becomes -0.0, which changes no sum.
+// sum += shares times gain. A share that is left out leaves the sum as it is, even a signaling not-a-number.
 template <bool all>
 TESSARO_INLINE void add_shares(Four& sum, const Four& shares, const Four& gain, const Mask& mask) {
-  const Four v = shares * gain, nothing = {-0.0, -0.0, -0.0, -0.0};
-  sum += all ? v : mask ? v : nothing;
+  const Four v = sum + shares * gain;
+  sum = all ? v : mask ? v : sum;
 }
 
 template <bool all, size_t i>
