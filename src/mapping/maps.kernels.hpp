@@ -96,21 +96,16 @@ TESSARO_INLINE void join_planes(const Planes& p, uint8_t* at, const __mmask16 (&
 // A map row as four tables of 256 bytes.
 constexpr __mmask16 all_parts[4] = {0xFFFF, 0xFFFF, 0xFFFF, 0xFFFF};
 struct RowTables {
-  __m512i part[4][4];  // of each channel, 64 entries
+  ByteTable channel[4];
   TESSARO_INLINE void load(const uint8_t* row) {
     for (int i = 0; i < 4; ++i) {
       const Planes p = split(row + 256 * i, all_parts);
-      for (int k = 0; k < 4; ++k) part[k][i] = p.channel[k];
+      for (int k = 0; k < 4; ++k) channel[k].part[i] = p.channel[k];
     }
   }
 };
-TESSARO_VBMI inline __m512i look_up(const __m512i (&part)[4], __m512i i) {
-  const __m512i low = _mm512_permutex2var_epi8(part[0], i, part[1]);
-  const __m512i high = _mm512_permutex2var_epi8(part[2], i, part[3]);
-  return _mm512_mask_blend_epi8(_mm512_movepi8_mask(i), low, high);
-}
 TESSARO_VBMI inline void look_up(const RowTables& t, Planes& p) {
-  for (int k = 0; k < 4; ++k) p.channel[k] = look_up(t.part[k], p.channel[k]);
+  for (int k = 0; k < 4; ++k) p.channel[k] = look_up(t.channel[k], p.channel[k]);
 }
 struct BlockMask {
   __mmask16 part[4];
@@ -263,9 +258,9 @@ TESSARO_VBMI TESSARO_INLINE void tile_by_tables(const AreaPair& n, const uint8_t
     for (int x = 0; x < 4; ++x) {
       const uint8_t* table = tables + table_of_column[4 * j + x];
       for (int k = 0; k < 4; ++k, table += 256) {
-        __m512i part[4];
-        for (int q = 0; q < 4; ++q) part[q] = _mm512_loadu_si512(table + 64 * q);
-        w[4 * x + k] = look_up(part, w[4 * x + k]);
+        ByteTable column;
+        for (int q = 0; q < 4; ++q) column.part[q] = _mm512_loadu_si512(table + 64 * q);
+        w[4 * x + k] = look_up(column, w[4 * x + k]);
       }
     }
     transpose(w);
@@ -308,7 +303,7 @@ void split_row(const uint8_t* row, uint8_t* table) {
   RowTables tables;
   tables.load(row);
   for (int k = 0; k < 4; ++k)
-    for (int i = 0; i < 4; ++i) _mm512_storeu_si512(table + 256 * k + 64 * i, tables.part[k][i]);
+    for (int i = 0; i < 4; ++i) _mm512_storeu_si512(table + 256 * k + 64 * i, tables.channel[k].part[i]);
 }
 
 #endif

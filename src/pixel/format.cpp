@@ -160,11 +160,15 @@ int32_t TESSARO_CALL BBIBltToF(void* dst, const uint32_t* src, int32_t count, in
     k.saturated_to[f](to, from, left, parts, colour, weight);
     return status_done;
   }
+  const size_t whole = left * format_bytes[f];
+  const bool free_table = !(use_table && meet(to, whole, table, 768));
+  if (use_table && free_table && k.looked_up_to[f] &&
+      k.looked_up_to[f](to, from, left, parts, bytes(table), colour, weight))
+    return status_done;
   // Through a piece of memory that stays in cache; pixel by pixel where a write may reach what is still to be
   // read.
   uint8_t piece[4 * 512];
-  const size_t whole = left * format_bytes[f];
-  const bool apart = !meet(to, whole, from, 4 * left) && !(use_table && meet(to, whole, table, 768));
+  const bool apart = free_table && !meet(to, whole, from, 4 * left);
   const size_t most = apart ? 512 : 1;
   while (left > 0) {
     const size_t n = left < most ? left : most;

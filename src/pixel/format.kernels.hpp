@@ -13,28 +13,21 @@ TESSARO_INLINE P field_up(P a) {
   return shl<to - first>(a & P::splat(((1u << count) - 1) << first));
 }
 
-// The 2 * lanes pixels of a block, in their order.
-template <class P>
-struct Pair {
-  P first, second;
-  TESSARO_INLINE static Pair load(const uint8_t* at, size_t n) {
-    constexpr size_t lanes = P::lanes;
-    return {load_some<P>(at, n < lanes ? n : lanes),
-            n > lanes ? load_some<P>(at + 4 * lanes, n - lanes) : P::splat(0)};
-  }
-};
-
 // The channels of a block apart, 16 bits each, in the order of Words.
 template <class P>
 struct Channels {
   typename P::Half blue, green, red, alpha;
+  // Colours are moved up by so many bits.
+  template <int up = 0>
   TESSARO_INLINE static Channels of(Pair<P> a) {
     const Words<P> w = words(a.first, a.second);
-    return {even(w.lower), odd(w.lower), even(w.upper), odd(w.upper)};
+    if constexpr (up == 0)
+      return {even(w.lower), odd(w.lower), even(w.upper), odd(w.upper)};
+    else
+      return {even_up<up>(w.lower), odd_up<up>(w.lower), even_up<up>(w.upper), odd(w.upper)};
   }
   // In the upper bytes; the lower ones are not cleared.
-  TESSARO_INLINE static Channels tops_of(Pair<P> a) {
-    const Words<P> w = words(a.first, a.second);
+  TESSARO_INLINE static Channels tops_of(Words<P> w) {
     const auto lower = halves(w.lower), upper = halves(w.upper);
     return {shl<8>(lower), lower, shl<8>(upper), upper};
   }
@@ -196,7 +189,7 @@ void encode(uint8_t* dst, const uint8_t* src, size_t count) {
                      [src]<class P>(P, size_t x, size_t n) {
                        const auto a = Pair<P>::load(src + 4 * x, n);
                        if constexpr (of_words<Format>)
-                         return Channels<P>::tops_of(a);
+                         return Channels<P>::tops_of(words(a.first, a.second));
                        else
                          return a;
                      });
@@ -253,8 +246,10 @@ void encode_saturated(uint8_t* dst, const uint8_t* src, size_t count, tessaro::S
         const Saturate<P> saturate{parts.channel_part, parts.sum_part};
         auto a = Pair<P>::load(src + 4 * x, n);
         if constexpr (P::lanes == 1) a.first = saturate(a.first);
-        auto c = Channels<P>::of(a);
-        if constexpr (P::lanes > 1) saturate.apart(c.blue, c.green, c.red);
+        constexpr int up = P::lanes == 1 ? 0 : 5;
+        auto c = Channels<P>::template of<up>(a);
+        if constexpr (P::lanes > 1)
+          saturate.apart(c.blue, c.green, c.red, [](auto c, auto grey) { return sum_in_byte(c, grey); });
         return Channels<P>::mixed(Channels<P>::of_colour(colour), c, weight);
       });
 }
@@ -319,39 +314,90 @@ void from_bytes(uint8_t* dst, const uint8_t* src, size_t count, const uint8_t* p
   for (size_t x = 0; x < count; ++x) std::memcpy(dst + 4 * x, palette + 4 * src[x], 4);
 }
 
-#if TESSARO_LANES == 16
-// All three tables stay in registers. Looks up whole vectors and returns how many pixels those were.
-TESSARO_VBMI size_t look_up_by_permutes(uint8_t* dst, const uint8_t* src, size_t count,
-                                        const uint8_t* table) {
-  __m512i part[12];
-  for (int i = 0; i < 12; ++i) part[i] = Px::load(table + 64 * i).v;
-  size_t x = 0;
-  for (; x + Px::lanes <= count; x += Px::lanes) {
-    const __m512i v = Px::load(src + 4 * x).v;
-    __m512i low = v, high = v;  // from the lower halves of the tables, and from the upper ones
-    for (int c = 0; c < 3; ++c) {
-      const __mmask64 channel = 0x1111111111111111u << c;
-      low = _mm512_mask2_permutex2var_epi8(part[4 * c], low, channel, part[4 * c + 1]);
-      high = _mm512_mask2_permutex2var_epi8(part[4 * c + 2], high, channel, part[4 * c + 3]);
-    }
-    Px{_mm512_mask_blend_epi8(_mm512_movepi8_mask(v), low, high)}.store(dst + 4 * x);
-  }
-  return x;
-}
-#endif
-
 void looked_up(uint8_t* dst, const uint8_t* src, size_t count, const uint8_t* table) {
-  size_t x = 0;
-#if TESSARO_LANES == 16
-  if (count >= Px::lanes && has_byte_permutes()) x = look_up_by_permutes(dst, src, count, table);
-#endif
-  for (; x < count; ++x) {
+  for (size_t x = 0; x < count; ++x) {
     const uint32_t v = One::load(src + 4 * x).v;
     One{table[v & 255] | static_cast<uint32_t>(table[256 + (v >> 8 & 255)]) << 8 |
         static_cast<uint32_t>(table[512 + (v >> 16 & 255)]) << 16 | (v & 0xFF000000)}
         .store(dst + 4 * x);
   }
 }
+
+#if TESSARO_LANES == 16
+// Tables that have been mixed with the colour, all in registers. Alpha, which has no table, is mixed pixel by pixel.
+struct Curves {
+  ByteTable channel[3];
+  Px::Half weight, behind_alpha;
+  TESSARO_INLINE Curves(const uint8_t* table, uint32_t colour, uint32_t w)
+      : weight(Px::Half::splat(w)), behind_alpha(Px::Half::splat((colour >> 24) * (256 - w))) {
+    const ConstantMix<Px> mix(w);
+    for (int c = 0; c < 3; ++c) {
+      const Px behind = Px::splat(0x01010101 * (colour >> 8 * c & 255));
+      for (int i = 0; i < 4; ++i) channel[c].part[i] = mix(behind, Px::load(table + 256 * c + 64 * i)).v;
+    }
+  }
+};
+
+// Four vectors, of which n pixels are there.
+template <class Format, bool saturates>
+TESSARO_VBMI TESSARO_INLINE void look_up_block(uint8_t* dst, const uint8_t* src, size_t n,
+                                               const Curves& curves, const Saturate<Px>& saturate) {
+  constexpr size_t pair = 2 * Px::lanes;
+  constexpr int up = saturates ? 5 : 0;
+  auto a = Channels<Px>::of<up>(Pair<Px>::load(src, n < pair ? n : pair));
+  auto b = Channels<Px>::of<up>(Pair<Px>::load(src + 4 * pair, n < pair ? 0 : n - pair));
+  if constexpr (saturates) {
+    const auto sum = [](Px::Half c, Px::Half grey) { return c + grey; };  // packing saturates
+    saturate.apart(a.blue, a.green, a.red, sum);
+    saturate.apart(b.blue, b.green, b.red, sum);
+  }
+  const Px blue{look_up(curves.channel[0], unpaired(a.blue, b.blue).v)};
+  const Px green{look_up(curves.channel[1], unpaired(a.green, b.green).v)};
+  const Px red{look_up(curves.channel[2], unpaired(a.red, b.red).v)};
+  const auto lower = paired(blue, green), reds = paired(red, Px::splat(0));
+  const auto with_alpha = [&](Px::Half r, Px::Half alpha) {
+    const Px mixed{(alpha * curves.weight + curves.behind_alpha).v};
+    return choose_bits(Px::splat(0xFF00FF00), mixed, Px{r.v});
+  };
+  const Words<Px> first{{lower.first.v}, with_alpha(reds.first, a.alpha)};
+  const Words<Px> second{{lower.second.v}, with_alpha(reds.second, b.alpha)};
+  if constexpr (of_words<Format>)
+    write_block<Format>(dst, Channels<Px>::tops_of(first), Channels<Px>::tops_of(second));
+  else
+    write_block<Format>(dst, pixels(first), pixels(second));
+}
+
+template <class Format, bool saturates>
+TESSARO_VBMI void look_up_run(uint8_t* dst, const uint8_t* src, size_t count, tessaro::SaturationParts parts,
+                              const uint8_t* table, uint32_t colour, uint32_t weight) {
+  constexpr size_t block = 4 * Px::lanes, bytes = Format::bytes;
+  const Curves curves(table, colour, weight);
+  const Saturate<Px> saturate{parts.channel_part, parts.sum_part};
+  size_t x = 0;
+  for (; x + block <= count; x += block)
+    look_up_block<Format, saturates>(dst + bytes * x, src + 4 * x, block, curves, saturate);
+  if (const size_t rest = count - x) {
+    uint8_t end[bytes * block];
+    look_up_block<Format, saturates>(end, src + 4 * x, rest, curves, saturate);
+    std::memcpy(dst + bytes * x, end, bytes * rest);
+  }
+}
+
+template <class Format>
+bool encode_looked_up(uint8_t* dst, const uint8_t* src, size_t count, tessaro::SaturationParts parts,
+                      const uint8_t* table, uint32_t colour, uint32_t weight) {
+  constexpr size_t few = 16;  // pixels that are not worth the curves
+  if (!has_byte_permutes() || count < few || parts.channel_part > saturation_limit ||
+      !may_read_ahead(dst, Format::bytes, src, 4, count))
+    return false;
+  const auto run = parts.channel_part == 1024 ? look_up_run<Format, false> : look_up_run<Format, true>;
+  run(dst, src, count, parts, table, colour, weight);
+  return true;
+}
+#else
+template <class Format>
+inline constexpr auto encode_looked_up = nullptr;
+#endif
 
 }  // namespace
 
@@ -371,4 +417,5 @@ TESSARO_KERNELS(FormatKernels){
     .from_bits = from_bits,
     .from_bytes = from_bytes,
     .looked_up = looked_up,
+    .looked_up_to = TESSARO_EACH_FORMAT(encode_looked_up),
 };

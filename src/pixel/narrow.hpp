@@ -11,7 +11,18 @@
 
 namespace {
 
-// The lower and the upper words of the pixels of two vectors. In this order the lower lanes hold the first vector's.
+// The 2 * lanes pixels of two vectors, in their order.
+template <class P>
+struct Pair {
+  P first, second;
+  TESSARO_INLINE static Pair load(const uint8_t* at, size_t n) {
+    constexpr size_t lanes = P::lanes;
+    return {load_some<P>(at, n < lanes ? n : lanes),
+            n > lanes ? load_some<P>(at + 4 * lanes, n - lanes) : P::splat(0)};
+  }
+};
+
+// The lower and the upper words of such pixels. In this order the lower lanes hold the first vector's.
 template <class P>
 struct Words {
   P lower, upper;
@@ -70,6 +81,14 @@ TESSARO_INLINE Words<Px> words<Px>(Px first, Px second) {
   const __m512i from = Px::load(lower).v, next = _mm512_add_epi16(from, _mm512_set1_epi16(1));
   return {{_mm512_permutex2var_epi16(first.v, from, second.v)},
           {_mm512_permutex2var_epi16(first.v, next, second.v)}};
+}
+TESSARO_INLINE Pair<Px> pixels(Words<Px> w) {
+  alignas(64) static constexpr uint16_t first[] = {0,  32, 1,  33, 2,  34, 3,  35, 4,  36, 5,
+                                                   37, 6,  38, 7,  39, 8,  40, 9,  41, 10, 42,
+                                                   11, 43, 12, 44, 13, 45, 14, 46, 15, 47};
+  const __m512i from = Px::load(first).v, next = _mm512_add_epi16(from, _mm512_set1_epi16(16));
+  return {{_mm512_permutex2var_epi16(w.lower.v, from, w.upper.v)},
+          {_mm512_permutex2var_epi16(w.lower.v, next, w.upper.v)}};
 }
 TESSARO_INLINE void store_words(uint8_t* p, Px::Half words) { Px{words.v}.store(p); }
 TESSARO_INLINE void store_triples(uint8_t* p, Px a, Px b, Px c, Px d) {

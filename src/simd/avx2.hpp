@@ -96,6 +96,14 @@ TESSARO_INLINE __m256i above(Px a, Px b) {
 
 TESSARO_INLINE Px::Half even(Px a) { return {_mm256_and_si256(a.v, _mm256_set1_epi16(255))}; }
 TESSARO_INLINE Px::Half odd(Px a) { return {_mm256_srli_epi16(a.v, 8)}; }
+template <int k>
+TESSARO_INLINE Px::Half even_up(Px a) {
+  return {_mm256_maddubs_epi16(a.v, _mm256_set1_epi16(1 << k))};
+}
+template <int k>
+TESSARO_INLINE Px::Half odd_up(Px a) {
+  return {_mm256_maddubs_epi16(a.v, _mm256_set1_epi16(256 << k))};
+}
 TESSARO_INLINE Px join(Px::Half e, Px::Half o) { return {_mm256_or_si256(e.v, _mm256_slli_epi16(o.v, 8))}; }
 TESSARO_INLINE Px join_sat(Px::Half e, Px::Half o) {
   const __m256i by_turns = _mm256_setr_epi8(0, 8, 1, 9, 2, 10, 3, 11, 4, 12, 5, 13, 6, 14, 7, 15,  //

@@ -85,6 +85,14 @@ TESSARO_INLINE __mmask16 above(Px a, Px b) { return _mm512_cmpgt_epu32_mask(a.v,
 
 TESSARO_INLINE Px::Half even(Px a) { return {_mm512_and_si512(a.v, _mm512_set1_epi16(255))}; }
 TESSARO_INLINE Px::Half odd(Px a) { return {_mm512_srli_epi16(a.v, 8)}; }
+template <int k>
+TESSARO_INLINE Px::Half even_up(Px a) {
+  return {_mm512_maddubs_epi16(a.v, _mm512_set1_epi16(1 << k))};
+}
+template <int k>
+TESSARO_INLINE Px::Half odd_up(Px a) {
+  return {_mm512_maddubs_epi16(a.v, _mm512_set1_epi16(256 << k))};
+}
 TESSARO_INLINE Px join(Px::Half e, Px::Half o) { return {_mm512_or_si512(e.v, _mm512_slli_epi16(o.v, 8))}; }
 TESSARO_INLINE Px join_sat(Px::Half e, Px::Half o) {
   const __m512i by_turns = _mm512_set4_epi32(0x0F070E06, 0x0D050C04, 0x0B030A02, 0x09010800);

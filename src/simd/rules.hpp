@@ -78,11 +78,11 @@ struct Saturate {
     return join_sat(scaled(even(s), even_k) + grey,
                     scaled(odd(s), odd_k) + (grey & halves(P::splat(0xFFFF))));
   }
-  // The same where both lanes hold one channel each.
-  TESSARO_INLINE void apart(H& blue, H& green, H& red) const {
-    blue = shl<5>(blue), green = shl<5>(green), red = shl<5>(red);
+  // The same where both lanes hold one channel each, times 32. sum(channel, grey) adds what may lie beyond a byte.
+  template <class Sum>
+  TESSARO_INLINE void apart(H& blue, H& green, H& red, const Sum& sum) const {
     const H grey = mul_high_signed(blue + green + red, H::splat(static_cast<uint32_t>(2 * sum_part)));
-    const auto saturated = [&](H c) { return sum_in_byte(mul_high(c, even_k + even_k), grey); };
+    const auto saturated = [&](H c) { return sum(mul_high(c, even_k + even_k), grey); };
     blue = saturated(blue), green = saturated(green), red = saturated(red);
   }
 };

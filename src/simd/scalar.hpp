@@ -155,6 +155,14 @@ TESSARO_INLINE One::Half shl(One::Half a) {
   return per_lane(a, a, [](uint32_t x, uint32_t) { return x << k; });
 }
 template <int k>
+TESSARO_INLINE One::Half even_up(One a) {
+  return shl<k>(even(a));
+}
+template <int k>
+TESSARO_INLINE One::Half odd_up(One a) {
+  return shl<k>(odd(a));
+}
+template <int k>
 TESSARO_INLINE One::Half shr(One::Half a) {
   return per_lane(a, a, [](uint32_t x, uint32_t) { return x >> k; });
 }

@@ -137,6 +137,14 @@ TESSARO_INLINE Px::Half shl(Px::Half a) {
   return {_mm_slli_epi16(a.v, k)};
 }
 template <int k>
+TESSARO_INLINE Px::Half even_up(Px a) {
+  return shl<k>(even(a));
+}
+template <int k>
+TESSARO_INLINE Px::Half odd_up(Px a) {
+  return shl<k>(odd(a));
+}
+template <int k>
 TESSARO_INLINE Px::Half shr(Px::Half a) {
   return {_mm_srli_epi16(a.v, k)};
 }

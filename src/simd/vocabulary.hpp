@@ -20,6 +20,7 @@
 //
 // Products need 16 bits: a P::Half has two 16-bit lanes per pixel.
 //   even(a) odd(a)               bytes 0 and 2 (blue, red); bytes 1 and 3 (green, alpha)
+//   even_up<k>(a) odd_up<k>(a)   the same times 1 << k; k at most 6
 //   join(e, o)                   back to bytes; both at most 255
 //   join_sat(e, o)               back to bytes; signed lanes, kept within 0..255
 //   join_high(e, o)              back to bytes from the upper halves, that is shifted right by 8
@@ -90,6 +91,7 @@ concept PixelVector = requires(P a, typename P::Half h, const void* in, void* ou
   { select(above(a, a), a, a) } -> std::same_as<P>;
   { P::bits(equal(a, a)) } -> std::same_as<uint32_t>;
   { join(even(a), odd(a)) } -> std::same_as<P>;
+  { join(even_up<6>(a), odd_up<6>(a)) } -> std::same_as<P>;
   { join_sat(even(a), odd(a)) } -> std::same_as<P>;
   { join_high(even(a), odd(a)) } -> std::same_as<P>;
   { unpaired(paired(a, a).first, h) } -> std::same_as<P>;
