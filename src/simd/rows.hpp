@@ -44,7 +44,7 @@ class RowWriter {
       : streaming_(width * height, width),
         moves_(tessaro::streamed_area == tessaro::never && width >= long_row) {}
   // Rows pay that are prepared in the nearest cache and written from there.
-  TESSARO_INLINE bool passes_caches() const { return streaming_.on() || moves_; }
+  TESSARO_INLINE bool passes_caches() const { return streaming_.on(); }
 
   TESSARO_INLINE void operator()(uint8_t* dst, const uint8_t* src, size_t width) const {
     if (moves_) {
