@@ -51,9 +51,10 @@ TESSARO_INLINE P filled(P here, P left, P right, P up, P down) {
 }
 
 // In place, and yet every vector may read what others have written: alphas do not change, and the colour of a clear
-// pixel never counts.
+// pixel never counts. Only where rows run into one another pixels go one by one.
 void fill_keyed(const Area& n) {
   constexpr ptrdiff_t lanes = Px::lanes;
+  const ptrdiff_t vectors_end = n.pitch >= 4 * n.width || -n.pitch >= 4 * n.width ? n.width : 0;
   uint8_t* row = n.at;
   for (ptrdiff_t y = 0; y < n.height; ++y, row += n.pitch) {
     const uint8_t* up = y > 0 ? row - n.pitch : row;
@@ -65,7 +66,7 @@ void fill_keyed(const Area& n) {
     };
     single(0);
     ptrdiff_t x = 1;
-    for (; x + lanes < n.width; x += lanes) {
+    for (; x + lanes < vectors_end; x += lanes) {
       const Px here = Px::load(row + 4 * x);
       if (Px::bits(is_clear(here)) == 0) continue;
       filled(here, Px::load(row + 4 * (x - 1)), Px::load(row + 4 * (x + 1)), Px::load(up + 4 * x),

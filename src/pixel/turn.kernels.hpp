@@ -93,18 +93,26 @@ void mirror(const Area& n) {
   }
 }
 
-void swap_rows(uint8_t* a, uint8_t* b, size_t width) {
+template <class P>
+TESSARO_INLINE void swap_rows(uint8_t* a, uint8_t* b, size_t width) {
   size_t x = 0;
-  for (; x + Px::lanes <= width; x += Px::lanes) {
-    const Px p = Px::load(a + 4 * x), q = Px::load(b + 4 * x);
+  for (; x + P::lanes <= width; x += P::lanes) {
+    const P p = P::load(a + 4 * x), q = P::load(b + 4 * x);
     q.store(a + 4 * x);
     p.store(b + 4 * x);
   }
   if (const size_t rest = width - x) {
-    const Px p = Px::load(a + 4 * x, rest), q = Px::load(b + 4 * x, rest);
+    const P p = P::load(a + 4 * x, rest), q = P::load(b + 4 * x, rest);
     q.store(a + 4 * x, rest);
     p.store(b + 4 * x, rest);
   }
+}
+void swap_rows(uint8_t* a, uint8_t* b, size_t width) {
+  // Rows of an image may run into one another.
+  if (reads_own_writes(a, b, 4 * Px::lanes) || reads_own_writes(b, a, 4 * Px::lanes)) [[unlikely]]
+    swap_rows<One>(a, b, width);
+  else
+    swap_rows<Px>(a, b, width);
 }
 
 void half_turn(const AreaPair& n) {
@@ -161,7 +169,7 @@ void transpose(const AreaPair& n) {
 
 TESSARO_KERNELS(TurnKernels){
     .mirror = mirror,
-    .swap_rows = swap_rows,
+    .swap_rows = [](uint8_t* a, uint8_t* b, size_t width) { swap_rows(a, b, width); },
     .half_turn = half_turn,
     .transpose = transpose,
 };

@@ -156,24 +156,25 @@ TEST(Trim, FindsTheContent) {
   EXPECT_EQ(box, (Box{0, 0, 1, 1}));
 }
 
+uint32_t mean_of_neighbours(Image& image, int32_t x, int32_t y) {
+  const uint32_t here = image.get(x, y);
+  int sums[3] = {}, n = 0;
+  for (const auto& [a, b] : neighbours(image, x, y)) {
+    const uint32_t p = image.get(a, b);
+    if (at(p, 3) == 0) continue;
+    ++n;
+    for (int c = 0; c < 3; ++c) sums[c] += at(p, c);
+  }
+  if (at(here, 3) != 0 || n == 0) return here;
+  return static_cast<uint32_t>(sums[0] / n | (sums[1] / n) << 8 | (sums[2] / n) << 16);
+}
+
 // Every operation that makes a new pixel from an old image.
 TEST(Whole, EqualsTheModelInEveryShape) {
   struct Row {
     const char* name;
     std::function<int32_t(ImageRecord*)> run;
     std::function<uint32_t(Image&, int32_t x, int32_t y)> model;
-  };
-  const auto mean_of_neighbours = [](Image& image, int32_t x, int32_t y) {
-    const uint32_t here = image.get(x, y);
-    int sums[3] = {}, n = 0;
-    for (const auto& [a, b] : neighbours(image, x, y)) {
-      const uint32_t p = image.get(a, b);
-      if (at(p, 3) == 0) continue;
-      ++n;
-      for (int c = 0; c < 3; ++c) sums[c] += at(p, c);
-    }
-    if (at(here, 3) != 0 || n == 0) return here;
-    return static_cast<uint32_t>(sums[0] / n | (sums[1] / n) << 8 | (sums[2] / n) << 16);
   };
   const Row rows[] = {
       {"Clear", [](auto* i) { return BBIClear(i, 300, -4, 7, 256); },
@@ -210,6 +211,27 @@ TEST(Whole, EqualsTheModelInEveryShape) {
       }
   }
   EXPECT_EQ(BBIAntiAreas(INT32_MIN, 0, -1), 0);
+}
+
+TEST(Whole, RowsThatRunIntoOneAnotherGoPixelByPixel) {
+  for (const Forced backend : supported_backends())
+    for (const int32_t pitch : {4, 37, 150, -4, -101}) {
+      Random random(8);
+      Image image(40, 6, pitch);
+      for_pixels(image, [&](int32_t x, int32_t y) { image.set(x, y, random.pixel()); });
+      Image model = image;
+      for_pixels(model, [&](int32_t x, int32_t y) { model.set(x, y, mean_of_neighbours(model, x, y)); });
+      ASSERT_EQ(BBIKeyingFilter(image), 0);
+      ASSERT_EQ(image, model) << "pitch " << pitch;
+      for (int32_t y = 0; y < 3; ++y)
+        for (int32_t x = 0; x < 40; ++x) {
+          const uint32_t p = model.get(x, y), q = model.get(x, 5 - y);
+          model.set(x, y, q);
+          model.set(x, 5 - y, p);
+        }
+      ASSERT_EQ(BBIVMirror(image), 0);
+      ASSERT_EQ(image, model) << "pitch " << pitch;
+    }
 }
 
 TEST(Rotation, PutsEveryPixelInItsPlace) {
