@@ -1,3 +1,5 @@
+#include "wave/dynamics.hpp"
+
 #include "frame/clip.hpp"
 #include "frame/numbers.hpp"
 #include "wave/blocks.hpp"
@@ -59,9 +61,7 @@ struct Ramp {
       step[lane] = (to[lane] - from[lane]) / count;
     }
   }
-  bool stays_at(double level) const {
-    return gain[0] == level && gain[1] == level && step[0] == 0 && step[1] == 0;
-  }
+  bool level() const { return gain[0] == gain[1] && step[0] == 0 && step[1] == 0; }
   void skip_to(int64_t i) {
     for (int lane = 0; lane < 2; ++lane) gain[lane] = added_up(gain[lane], step[lane], i - reached);
     reached = i;
@@ -71,7 +71,7 @@ struct Ramp {
 // Destination frames = source frames times the ramp. Blocks have the kernel at `values`.
 template <class T>
 void raise(const Side<T>& dst, const Side<T>& src, int32_t count, Ramp ramp,
-           const SampleKernels::Ramp kernels_of[4], size_t values) {
+           const DynamicsKernels::Ramp kernels_of[4], size_t values) {
   const auto run = [&](size_t form, uint8_t* out, const uint8_t* in, int64_t i, size_t frames) {
     ramp.skip_to(i);
     kernels_of[form](out, in, frames, ramp.gain, ramp.step);
@@ -110,7 +110,7 @@ int32_t TESSARO_CALL waveEffectMaximizer24(const WaveBuffer* buffer, int32_t* lo
   Wave wave;
   if (!open_wave(buffer, wave) || count < 1) return status_nothing;
   growth = limited(growth, 1.0001, 1.7);
-  const SampleKernels& k = kernels<SampleKernels>();
+  const DynamicsKernels& k = kernels<DynamicsKernels>();
 
   const Side<int32_t> seen(wave, load<int32_t>(look_position), 2);
   int32_t low[2] = {}, high[2] = {}, peak[2];
@@ -132,7 +132,7 @@ int32_t TESSARO_CALL waveEffectMaximizer24(const WaveBuffer* buffer, int32_t* lo
   // Loud material stays at a gain of 1, which changes nothing.
   const Ramp ramp(before, after, count);
   const Side<int32_t> side(wave, load<int32_t>(write_position), 2);
-  if (!ramp.stays_at(1.0)) raise(side, side, count, ramp, k.ramp24, values24);
+  if (!ramp.level() || before[0] != 1.0) raise(side, side, count, ramp, k.ramp24, values24);
   advance(write_position, count);
   return status_done;
 }
@@ -143,7 +143,7 @@ int32_t TESSARO_CALL waveEffectMaximizer64(const WaveBuffer* dst, const WaveBuff
   Wave to, from;
   if (!open_wave(dst, to) || !open_wave(src, from) || count < 1) return status_nothing;
   step = limited(step, 0.0, 9.9);
-  const SampleKernels& k = kernels<SampleKernels>();
+  const DynamicsKernels& k = kernels<DynamicsKernels>();
 
   const Side<double> seen(from, load<int32_t>(look_position), 2);
   double low[2] = {}, high[2] = {}, peak[2];
@@ -174,8 +174,8 @@ int32_t TESSARO_CALL waveEffectMaximizer64(const WaveBuffer* dst, const WaveBuff
 
   const Ramp ramp(before, after, count);
   const int32_t position = load<int32_t>(write_position);
-  if (ramp.stays_at(1.0))
-    scale(to, from, position, position, count, 1.0);
+  if (ramp.level())
+    scale(to, from, position, position, count, before[0]);
   else
     raise(Side<double>(to, position, 2), Side<double>(from, position, 2), count, ramp, k.ramp64, stored64);
   advance(write_position, count);

@@ -90,14 +90,6 @@ struct SampleKernels {
   // frames lie in front of it. Leaves sums[1..frames] behind.
   void (*running16)(int32_t* sums, const int16_t* in, size_t frames, size_t lanes);
   void (*mean_of_span)(int16_t* out, const int32_t* ahead, const int32_t* behind, size_t n, int32_t span);
-  // Stereo frames within one form times a gain that grows by step after every frame; gain is left at its next
-  // value. The last of the first is for a block's values; the second clamps. out may be in.
-  using Ramp = void (*)(uint8_t* out, const uint8_t* in, size_t frames, double gain[2], const double step[2]);
-  Ramp ramp24[4], ramp64[4];
-  // Lowers low and raises high to the extremes of the samples at even and at odd places; 8-bit ones without
-  // their bias.
-  void (*extremes[3])(const uint8_t* in, size_t n, int32_t low[2], int32_t high[2]);
-  void (*extremes64)(const uint8_t* in, size_t n, double low[2], double high[2]);
 };
 TESSARO_DECLARE_KERNELS(SampleKernels);
 

@@ -1,79 +1,9 @@
 // kernels: SampleKernels for scalar sse2 avx2 avx512
-#include <immintrin.h>
-
 #include "wave/samples.hpp"
-#include "wave/stored.hpp"
+
+#include "wave/eights.hpp"
 
 namespace {
-
-// ---- Eight samples in a vector
-
-#if defined(__AVX2__)
-TESSARO_INLINE __m128i load16(const uint8_t* in) {
-  return _mm_loadu_si128(reinterpret_cast<const __m128i*>(in));
-}
-template <class S>
-TESSARO_INLINE auto read8(const uint8_t* in) {
-  if constexpr (S::bytes == 1) {
-    const __m128i bytes = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(in));
-    return reinterpret_cast<Whole>(_mm256_cvtepu8_epi32(bytes)) - 128;
-  } else if constexpr (S::bytes == 2) {
-    return reinterpret_cast<Whole>(_mm256_cvtepi16_epi32(load16(in)));
-  } else if constexpr (S::bytes == 3) {
-    // Two loads that overlap, four samples in each; those of the second begin behind the overlap.
-    const __m256i both = _mm256_inserti128_si256(_mm256_castsi128_si256(load16(in)), load16(in + 8), 1);
-    const __m256i up = _mm256_setr_epi8(-1, 0, 1, 2, -1, 3, 4, 5, -1, 6, 7, 8, -1, 9, 10, 11,  //
-                                        -1, 4, 5, 6, -1, 7, 8, 9, -1, 10, 11, 12, -1, 13, 14, 15);
-    return reinterpret_cast<Whole>(_mm256_srai_epi32(_mm256_shuffle_epi8(both, up), 8));
-  } else if constexpr (S::bytes == 4) {
-    return reinterpret_cast<Whole>(_mm256_loadu_si256(reinterpret_cast<const __m256i*>(in)));
-  } else {
-    const auto* at = reinterpret_cast<const double*>(in);
-#if defined(__AVX512F__)
-    return reinterpret_cast<Lanes>(_mm512_loadu_pd(at));
-#else
-    return Lanes{reinterpret_cast<Half>(_mm256_loadu_pd(at)),
-                 reinterpret_cast<Half>(_mm256_loadu_pd(at + 4))};
-#endif
-  }
-}
-template <class S, class V>
-TESSARO_INLINE void write8(uint8_t* out, const V& v) {
-  const auto put16 = [out](__m256i all) {
-    _mm_storeu_si128(reinterpret_cast<__m128i*>(out), _mm256_castsi256_si128(all));
-  };
-  if constexpr (S::bytes == 1) {
-    const __m256i low = _mm256_setr_epi8(0, 4, 8, 12, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1,  //
-                                         0, 4, 8, 12, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1);
-    const __m256i fours = _mm256_shuffle_epi8(reinterpret_cast<__m256i>(v), low);
-    const __m128i bytes =
-        _mm_unpacklo_epi32(_mm256_castsi256_si128(fours), _mm256_extracti128_si256(fours, 1));
-    _mm_storel_epi64(reinterpret_cast<__m128i*>(out), bytes);
-  } else if constexpr (S::bytes == 2) {
-    const __m256i low = _mm256_setr_epi8(0, 1, 4, 5, 8, 9, 12, 13, -1, -1, -1, -1, -1, -1, -1, -1,  //
-                                         0, 1, 4, 5, 8, 9, 12, 13, -1, -1, -1, -1, -1, -1, -1, -1);
-    put16(_mm256_permute4x64_epi64(_mm256_shuffle_epi8(reinterpret_cast<__m256i>(v), low), 0x08));
-  } else if constexpr (S::bytes == 3) {
-    // Stores under a mask are slow on some processors.
-    const __m256i front = _mm256_setr_epi8(0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, -1, -1, -1, -1,  //
-                                           0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, -1, -1, -1, -1);
-    const __m256i all = _mm256_permutevar8x32_epi32(_mm256_shuffle_epi8(reinterpret_cast<__m256i>(v), front),
-                                                    _mm256_setr_epi32(0, 1, 2, 4, 5, 6, 7, 7));
-    put16(all);
-    _mm_storel_epi64(reinterpret_cast<__m128i*>(out + 16), _mm256_extracti128_si256(all, 1));
-  } else if constexpr (S::bytes == 4) {
-    _mm256_storeu_si256(reinterpret_cast<__m256i*>(out), reinterpret_cast<__m256i>(v));
-  } else {
-    auto* at = reinterpret_cast<double*>(out);
-#if defined(__AVX512F__)
-    _mm512_storeu_pd(at, reinterpret_cast<__m512d>(v));
-#else
-    _mm256_storeu_pd(at, reinterpret_cast<__m256d>(v.low));
-    _mm256_storeu_pd(at + 4, reinterpret_cast<__m256d>(v.high));
-#endif
-  }
-}
-#endif
 
 template <class D, class S>
 constexpr bool packed = D::bytes == 3 || S::bytes == 3;
@@ -119,15 +49,6 @@ TESSARO_INLINE void each_mean(uint8_t* __restrict out, const uint8_t* __restrict
            rule(S::get(pairs + 2 * S::bytes * i), S::get(pairs + S::bytes * (2 * i + 1))));
 }
 
-template <class T>
-TESSARO_INLINE const uint8_t* bytes_of(const T* values) {
-  return reinterpret_cast<const uint8_t*>(values);
-}
-template <class T>
-TESSARO_INLINE uint8_t* bytes_of(T* values) {
-  return reinterpret_cast<uint8_t*>(values);
-}
-
 // ---- Readers and writers
 
 template <class S>
@@ -167,9 +88,8 @@ void mean64(uint8_t* out, const double* in, size_t n, double gain) {
 template <class D, class S>
 void scale64(uint8_t* out, const uint8_t* in, size_t n, double gain) {
   each_sample<D, S, true>(out, in, n, [=](auto s) {
-    // Integers of the size that gains up to 100 make of them are as well limited after they are truncated.
     if constexpr (D::bytes < 8 && S::bytes < 8)
-      return limited(D::from64(S::to64(s) * gain), D::from64(-1.0), D::from64(1.0));
+      return limited_code<D>(S::to64(s) * gain);
     else
       return D::from64(to_unit(S::to64(s) * gain));
   });
@@ -215,7 +135,6 @@ TESSARO_INLINE auto scaled(auto s, int32_t gain) {
   else
     return (s * gain) >> 8;
 }
-TESSARO_INLINE auto magnitude(auto v) { return v < 0 ? -v : v; }
 
 #define TESSARO_OPERATION(name, result)                             \
   template <class S>                                                \
@@ -359,115 +278,8 @@ void mean_of_span(I16* __restrict out, const int32_t* __restrict ahead, const in
   }
 }
 
-// Gains are added up frame by frame, rounded at every step. While they stay between two powers of two, where the
-// spacing of the numbers is constant, every step adds the same amount, and frame i has the gain first + i * amount
-// exactly. (Steps that fall halfway between two numbers add another amount once; that the first two are equal
-// rules it out. A rounded step down to the power of two itself may end below, where numbers lie closer.)
-TESSARO_INLINE bool even_steps(const double gain[2], const double step[2], size_t frames, double amount[2]) {
-  for (size_t lane = 0; lane < 2; ++lane) {
-    const double a = gain[lane] + step[lane], b = a + step[lane];
-    amount[lane] = b - a;
-    if (!(a - gain[lane] == amount[lane])) return false;
-    const double last = gain[lane] + amount[lane] * static_cast<double>(frames);
-    uint64_t from, to;
-    __builtin_memcpy(&from, gain + lane, 8);
-    __builtin_memcpy(&to, &last, 8);
-    if (from >> 52 != to >> 52 || (to << 12 == 0 && amount[lane] != step[lane])) return false;
-  }
-  return true;
-}
-
-// out = rule(in, gain) with the gain of the sample's channel
-template <class S, class Rule>
-TESSARO_INLINE void ramp(uint8_t* out, const uint8_t* in, size_t frames, double gain[2], const double step[2],
-                         Rule rule) {
-  size_t i = 0;
-#if defined(__AVX2__)
-  double amount[2];
-  if (even_steps(gain, step, frames, amount)) {
-    const auto lanes = [](const double of[2], double times) {  // of[0], of[1], alternating
-      double v[8];
-      for (size_t k = 0; k < 8; ++k) v[k] = of[k & 1] * times;
-      return read8<S64>(bytes_of(v));
-    };
-    const double counted[] = {0, 0, 1, 1, 2, 2, 3, 3};
-    const Lanes four_steps = lanes(amount, 4.0);
-    Lanes gains = lanes(gain, 1.0) + lanes(amount, 1.0) * read8<S64>(bytes_of(counted));
-    for (; i + 4 <= frames; i += 4, gains = gains + four_steps)
-      write8<S>(out + 2 * S::bytes * i, rule(read8<S>(in + 2 * S::bytes * i), gains));
-    for (size_t lane = 0; lane < 2; ++lane) gain[lane] += amount[lane] * static_cast<double>(i);
-  }
-#endif
-  for (; i < frames; ++i)
-    for (size_t lane = 0; lane < 2; ++lane) {
-      const size_t at = S::bytes * (2 * i + lane);
-      S::put(out + at, rule(S::get(in + at), gain[lane]));
-      gain[lane] += step[lane];
-    }
-}
-
-// What does not fit in 32 bits becomes the smallest integer, as the processor's conversion gives it.
-TESSARO_INLINE int32_t converted(double v) { return _mm_cvttsd_si32(_mm_set_sd(v)); }
-#if defined(__AVX2__)
-TESSARO_INLINE Whole converted(const Lanes& v) { return truncated(v); }
-#endif
-
-template <class S>
-void ramp24(uint8_t* out, const uint8_t* in, size_t frames, double gain[2], const double step[2]) {
-  ramp<S>(out, in, frames, gain, step,
-          [](auto s, const auto& g) { return S::from24(converted(real(S::to24(s)) * g)); });
-}
-template <class S>
-void ramp64(uint8_t* out, const uint8_t* in, size_t frames, double gain[2], const double step[2]) {
-  ramp<S>(out, in, frames, gain, step,
-          [](auto s, const auto& g) { return S::from64(to_unit(S::to64(s) * g)); });
-}
-
-// Lowers low and raises high to the extremes of the samples at even and at odd places. Comparisons in this form
-// pass over what is not a number.
-template <class S, class Row, class Value>
-void extremes(const uint8_t* in, size_t n, Value low[2], Value high[2]) {
-  constexpr size_t lanes = sizeof(Row) / sizeof(Row{}[0]);
-  Row lows = {}, highs = {};
-  size_t i = 0;
-#if !defined(__AVX2__)
-  if constexpr (S::bytes != 3)
-#endif
-    for (; i + lanes <= n; i += lanes) {
-      Row v;
-      if constexpr (S::bytes == 3)
-        v = read8<S>(in + S::bytes * i);
-      else
-        __builtin_memcpy(&v, in + S::bytes * i, sizeof v);
-      if constexpr (S::bytes == 1) v ^= -128;
-      lows = v < lows ? v : lows;
-      highs = v > highs ? v : highs;
-    }
-  const auto see = [=](size_t at, Value v) {
-    if (v < low[at & 1]) low[at & 1] = v;
-    if (v > high[at & 1]) high[at & 1] = v;
-  };
-  for (size_t lane = 0; lane < lanes; ++lane) {
-    see(lane, lows[lane]);
-    see(lane, highs[lane]);
-  }
-  for (; i < n; ++i) see(i, S::get(in + S::bytes * i));
-}
-#if defined(__AVX512BW__)
-constexpr size_t row_bytes = 64;
-#elif defined(__AVX2__)
-constexpr size_t row_bytes = 32;
-#else
-constexpr size_t row_bytes = 16;
-#endif
-typedef int8_t Row8 __attribute__((vector_size(row_bytes)));
-typedef int16_t Row16 __attribute__((vector_size(row_bytes)));
-typedef double Row64 __attribute__((vector_size(row_bytes)));
-
 }  // namespace
 
-#define TESSARO_INTEGER_FORMS(f) \
-  { f<S8>, f<S16>, f<S24> }
 TESSARO_KERNELS(SampleKernels){
     .to16 = TESSARO_INTEGER_FORMS(to16),
     .to24 = TESSARO_INTEGER_FORMS(to24),
@@ -496,8 +308,4 @@ TESSARO_KERNELS(SampleKernels){
     .tone16 = tone16,
     .running16 = running16,
     .mean_of_span = mean_of_span,
-    .ramp24 = {ramp24<S8>, ramp24<S16>, ramp24<S24>, ramp24<Value24>},
-    .ramp64 = {ramp64<S8>, ramp64<S16>, ramp64<S24>, ramp64<S64>},
-    .extremes = {extremes<S8, Row8, int32_t>, extremes<S16, Row16, int32_t>, extremes<S24, Whole, int32_t>},
-    .extremes64 = extremes<S64, Row64, double>,
 };

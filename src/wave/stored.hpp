@@ -94,6 +94,8 @@ TESSARO_INLINE V to_unit(V v) {
 TESSARO_INLINE Lanes to_unit(const Lanes& v) { return {to_unit(v.low), to_unit(v.high)}; }
 #endif
 
+TESSARO_INLINE auto magnitude(auto v) { return v < 0 ? -v : v; }
+
 // A stored form has get and put of one sample; toN, the sample at a scale; fromN, what is put for a value at a
 // scale; meanN, what is put for a stereo pair in a mono buffer. At which step the mean is taken differs between
 // the forms and shows in the last bit. Integer values are not clamped: what is put keeps the low bits. from64
@@ -271,5 +273,12 @@ struct Value24 {
     return v;
   }
 };
+
+// What an integer form puts for a value at the float scale of a magnitude of at most 100: codes of that size are as well
+// limited after they are truncated.
+template <class S, class V>
+TESSARO_INLINE auto limited_code(const V& v) {
+  return limited(S::from64(v), S::from64(-1.0), S::from64(1.0));
+}
 
 }  // namespace
