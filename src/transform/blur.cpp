@@ -240,6 +240,44 @@ void scale_in_order(uint8_t* dst, ptrdiff_t dst_step, const uint8_t* src, ptrdif
       });
 }
 
+// Rows: a destination pixel is the difference of two sums of all sub-steps so far, which are those of whole source pixels
+// and a part of the next one. The places are the same in every row.
+void scale_rows(AreaPair n, int32_t num, int32_t den) {
+  const BlurKernels& k = kernels<BlurKernels>();
+  const auto width = static_cast<size_t>(n.width);
+  const bool backward = num >= den;
+  ptrdiff_t used = backward ? n.width * den / num : n.width;  // source pixels, from the left
+  if (used < 1) used = 1;
+  HeapArray<uint16_t> sums(4 * (width + 1)), parts(4 * (width + 1));
+  HeapArray<StepSum> places(width + 1);
+  if (sums && parts && places)
+    for (ptrdiff_t x = 0; x <= n.width; ++x) {
+      const ptrdiff_t steps = (backward ? n.width - x : x) * den;
+      const ptrdiff_t whole = steps / num < used ? steps / num : used;
+      const ptrdiff_t next = whole < used ? whole : used - 1;
+      const ptrdiff_t part = steps - whole * num;
+      places[static_cast<size_t>(x)] = {
+          static_cast<int32_t>(backward ? used - whole : whole),
+          static_cast<int32_t>(backward ? used - 1 - next : next),
+          static_cast<uint16_t>(backward ? -part : part),
+      };
+    }
+  for (; n.height > 0; --n.height, n.dst += n.dst_pitch, n.src += n.src_pitch) {
+    // A whole row is read before it is written. In order, every pixel is read before its own place is written, so that
+    // only a destination on the side where reading has yet to come makes a difference.
+    const auto dst = reinterpret_cast<intptr_t>(n.dst), src = reinterpret_cast<intptr_t>(n.src);
+    const bool meet = dst < src + 4 * n.width && src < dst + 4 * n.width;
+    if (!sums || !parts || !places || (meet && (backward ? dst < src : dst > src))) {
+      scale_in_order(n.dst, 4, n.src, 4, n.width, num, den);
+      continue;
+    }
+    std::memset(sums.data(), 0, 8);
+    k.running_sums(sums.data(), n.src, static_cast<size_t>(used));
+    k.step_sums(parts.data(), sums.data(), n.src, places.data(), width + 1, static_cast<uint16_t>(num));
+    k.means(n.dst, parts.data() + 4, parts.data(), 4 * width, dividers.of(static_cast<size_t>(den)));
+  }
+}
+
 // All columns together, as blur_columns.
 bool scale_columns(const AreaPair& n, int32_t num, int32_t den) {
   const BlurKernels& k = kernels<BlurKernels>();
@@ -277,8 +315,7 @@ int32_t scale(ImageRecord* dst, const ImageRecord* src, int32_t dx, int32_t dy, 
     den = 2;
   }
   if (axis == Axis::rows)
-    for (ptrdiff_t y = 0; y < n.height; ++y)
-      scale_in_order(n.dst + y * n.dst_pitch, 4, n.src + y * n.src_pitch, 4, n.width, num, den);
+    scale_rows(n, num, den);
   else if (!columns_apart(n) || !scale_columns(n, num, den))
     for (ptrdiff_t x = 0; x < n.width; ++x)
       scale_in_order(n.dst + 4 * x, n.dst_pitch, n.src + 4 * x, n.src_pitch, n.height, num, den);

@@ -21,10 +21,19 @@ struct Divider {
   }
 };
 
+// Where a sum of sub-steps ends: `whole` source pixels from the left and so much of the sub-steps of pixel `next`.
+struct StepSum {
+  int32_t whole, next;
+  uint16_t part;
+};
+
 // Sums have four 16-bit lanes a pixel, in the order of its bytes, and wrap; differences of two of them do not.
 struct BlurKernels {
   // sums[i + 1] = sums[i] + pixel i, for count pixels; sums[0] is given.
   void (*running_sums)(uint16_t* sums, const uint8_t* src, size_t count);
+  // out[i] = sums[places[i].whole] * num + pixel places[i].next * places[i].part, for count places
+  void (*step_sums)(uint16_t* out, const uint16_t* sums, const uint8_t* src, const StepSum* places,
+                    size_t count, uint16_t num);
   // out = (ahead - behind) / the divider, lane by lane.
   void (*means)(uint8_t* out, const uint16_t* ahead, const uint16_t* behind, size_t lanes, Divider by);
   // The same with a divider for each lane.

@@ -7,6 +7,7 @@
 namespace {
 
 using tessaro::Divider;
+using tessaro::StepSum;
 
 TESSARO_INLINE uint16_t high(uint16_t a, uint16_t b) {
   return static_cast<uint16_t>((static_cast<uint32_t>(a) * b) >> 16);
@@ -24,6 +25,20 @@ void running_sums(uint16_t* __restrict sums, const uint8_t* __restrict src, size
     __builtin_memcpy(&pixel, src + 4 * i, 4);
     sum = _mm_add_epi16(sum, _mm_unpacklo_epi8(_mm_cvtsi32_si128(pixel), _mm_setzero_si128()));
     _mm_storel_epi64(reinterpret_cast<__m128i*>(sums + 4 * (i + 1)), sum);
+  }
+}
+
+void step_sums(uint16_t* __restrict out, const uint16_t* __restrict sums, const uint8_t* __restrict src,
+               const StepSum* __restrict places, size_t count, uint16_t num) {
+  const __m128i times = _mm_set1_epi16(static_cast<short>(num));
+  for (size_t i = 0; i < count; ++i) {
+    const __m128i whole = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(sums + 4 * places[i].whole));
+    int pixel;
+    __builtin_memcpy(&pixel, src + 4 * places[i].next, 4);
+    const __m128i next = _mm_unpacklo_epi8(_mm_cvtsi32_si128(pixel), _mm_setzero_si128());
+    const __m128i part = _mm_set1_epi16(static_cast<short>(places[i].part));
+    _mm_storel_epi64(reinterpret_cast<__m128i*>(out + 4 * i),
+                     _mm_add_epi16(_mm_mullo_epi16(whole, times), _mm_mullo_epi16(next, part)));
   }
 }
 
@@ -84,6 +99,7 @@ void halve(uint8_t* out, const uint8_t* upper, const uint8_t* lower, size_t widt
 
 TESSARO_KERNELS(BlurKernels){
     .running_sums = running_sums,
+    .step_sums = step_sums,
     .means = means,
     .tapered_means = tapered_means,
     .accumulate = accumulate,
