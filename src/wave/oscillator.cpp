@@ -45,30 +45,46 @@ Angle reduced_far(float a) {
   return {quarter, rest, tail};
 }
 
-double sine(float a) {
+constexpr float nearest_far = 16777216.0f;
+
+double any_sine(float a) {
   if (!std::isfinite(a)) return a - a;
-  const Angle angle = std::fabs(a) <= 16777216.0f ? reduced(static_cast<double>(a)) : reduced_far(a);
-  const double v = angle.quarter & 1 ? cosine_of_rest(angle) : sine_of_rest(angle);
-  return angle.quarter & 2 ? -v : v;
+  return std::fabs(a) <= nearest_far ? sine(static_cast<double>(a)) : sine_of(reduced_far(a));
+}
+
+void sines(double* out, const float* angles, int64_t n) {
+  bool near = true;
+  for (int64_t i = 0; i < n; ++i) near &= std::fabs(angles[i]) <= nearest_far;
+  if (near) return kernels<OscillatorKernels>().sines(out, angles, static_cast<size_t>(n));
+  for (int64_t i = 0; i < n; ++i) out[i] = any_sine(angles[i]);
 }
 
 bool same(float a, float b) { return a == b || (a != a && b != b); }
 
 }  // namespace
 
-void Oscillator::step() {
-  phase_ += increment_;
-  const float modulation = modulation_ + rate_;
-  if (modulation != modulation_) drift_ = sine(modulation) * static_cast<double>(depth_);
-  modulation_ = modulation;
-  increment_ = static_cast<float>(static_cast<double>(increment_) + drift_);
+void Oscillator::advance(float* phases, int64_t n) {
+  double drift[block];  // by the modulation of the step itself
+  for (int64_t i = 0; i < n; ++i) phases[i] = modulation_ += rate_;
+  sines(drift, phases, n);
+  for (int64_t i = 0; i < n; ++i) {
+    phases[i] = phase_;
+    phase_ += increment_;
+    increment_ = static_cast<float>(static_cast<double>(increment_) + drift[i] * static_cast<double>(depth_));
+  }
 }
 
 void Oscillator::draw(int32_t* tone, int64_t n) {
-  for (int64_t i = 0; i < n; ++i) {
-    const int32_t value = trunc32(sine(phase_) * static_cast<double>(amplitude_));
-    tone[i] = value < -65536 ? -65536 : value;
-    step();
+  for (int64_t some; n > 0; n -= some, tone += some) {
+    some = n < block ? n : block;
+    float phases[block];
+    double values[block];
+    advance(phases, some);
+    sines(values, phases, some);
+    for (int64_t i = 0; i < some; ++i) {
+      const int32_t value = trunc32(values[i] * static_cast<double>(amplitude_));
+      tone[i] = value < -65536 ? -65536 : value;
+    }
   }
 }
 
@@ -81,11 +97,14 @@ void Oscillator::skip(int64_t n) {
       return;
     }
   }
-  for (; n > 0; --n) {
+  while (n > 0) {
     const float phase = phase_, modulation = modulation_, increment = increment_;
-    step();
-    // Sums that have grown past their steps no longer move.
-    if (same(phase, phase_) && same(modulation, modulation_) && same(increment, increment_)) return;
+    const int64_t some = n < block ? n : block;
+    float phases[block];
+    advance(phases, some);
+    n -= some;
+    // Sums that have grown past their steps no longer move, nor do any that are where they were a block ago.
+    if (same(phase, phase_) && same(modulation, modulation_) && same(increment, increment_)) n %= some;
   }
 }
 

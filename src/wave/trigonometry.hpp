@@ -47,6 +47,12 @@ TESSARO_INLINE constexpr double cosine_of_rest(Angle a) {
   return rough + (((1 - rough) - half) + (z * z * series - a.rest * a.tail));
 }
 
+TESSARO_INLINE constexpr double sine_of(Angle a) {
+  const double v = a.quarter & 1 ? cosine_of_rest(a) : sine_of_rest(a);
+  return a.quarter & 2 ? -v : v;
+}
+TESSARO_INLINE constexpr double sine(double a) { return sine_of(reduced(a)); }
+
 // Where an angle of 0..pi points.
 struct Direction {
   double cosine, sine;

@@ -1,0 +1,14 @@
+// kernels: OscillatorKernels for scalar sse2 avx2 avx512
+#include "wave/oscillator.hpp"
+
+#include "wave/trigonometry.hpp"
+
+namespace {
+
+void sines(double* __restrict out, const float* __restrict angles, size_t n) {
+  for (size_t i = 0; i < n; ++i) out[i] = sine(static_cast<double>(angles[i]));
+}
+
+}  // namespace
+
+TESSARO_KERNELS(OscillatorKernels){.sines = sines};
