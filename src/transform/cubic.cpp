@@ -1,12 +1,15 @@
 // Resizing of whole images with a cubic kernel of 4 x 4 taps.
+#include "transform/cubic.hpp"
+
 #include "frame/clip.hpp"
-#include "frame/heap.hpp"
-#include "simd/scalar.hpp"
+#include "frame/numbers.hpp"
 #include "tessaro/tessaro.h"
 
 using namespace tessaro;
 
 namespace {
+
+constexpr int32_t strip = 256;
 
 double kernel(double x) {
   return x < 1.0 ? 1.0 - 2.0 * x * x + x * x * x : 4.0 - 8.0 * x + 5.0 * x * x - x * x * x;
@@ -15,79 +18,74 @@ double kernel(double x) {
 // The four taps around a position along one axis.
 struct Taps {
   int32_t first;
-  bool
-      usual;  // the inner weights are positive and the outer ones are not; rounding may say otherwise at a lobe's end
   double weights[4];
+
+  Taps() = default;
+  Taps(int32_t i, double ratio) {
+    const double at = static_cast<double>(i) * ratio;
+    const int32_t whole = trunc32(at);
+    const double t = at - static_cast<double>(whole);
+    *this = {whole - 1, {kernel(1.0 + t), kernel(t), kernel(1.0 - t), kernel(2.0 - t)}};
+  }
+  Taps(int32_t f, const double (&w)[4]) : first(f), weights{w[0], w[1], w[2], w[3]} {}
+  // All within the source and with the usual signs; rounding may say otherwise at a lobe's end.
+  bool inner(int64_t size) const {
+    const double* w = weights;
+    return first >= 0 && first + 3 < size && w[0] <= 0.0 && w[1] >= 0.0 && w[2] >= 0.0 && w[3] <= 0.0;
+  }
 };
-Taps taps_at(int32_t i, double ratio) {
-  const double at = static_cast<double>(i) * ratio;
-  const int32_t whole = trunc32(at);
-  const double t = at - static_cast<double>(whole);
-  Taps taps = {whole - 1, false, {kernel(1.0 + t), kernel(t), kernel(1.0 - t), kernel(2.0 - t)}};
-  const double* w = taps.weights;
-  taps.usual = w[0] <= 0.0 && w[1] >= 0.0 && w[2] >= 0.0 && w[3] <= 0.0;
-  return taps;
-}
 
 // A destination of one pixel samples the first column or row.
 double ratio_of(int32_t from, int32_t to) {
   return to == 1 ? 0.0 : static_cast<double>(from - 1) / static_cast<double>(to - 1);
 }
 
-struct Tap {
-  uint32_t sample;
-  float weight;
-};
-
-void merge(Tap& a, const Tap& b) {
-  const double sum = static_cast<double>(a.weight) + static_cast<double>(b.weight);
-  if (sum > 0.0) {
-    const double share = static_cast<double>(b.weight) / sum;  // weights are not negative, so it is 0..1
-    const auto w = static_cast<uint32_t>(static_cast<int32_t>(share * 256.0)), rest = 256 - w;
-    // The weighted mix; its lanes stay below 65536, so that one product serves two.
-    const One from{a.sample}, to{b.sample};
-    a.sample = join_high(One::Half{even(from).v * rest + even(to).v * w},
-                         One::Half{odd(from).v * rest + odd(to).v * w})
-                   .v;
-  }
-  a.weight = static_cast<float>(sum);
-}
-
-uint32_t merged(Tap (&taps)[16]) {
-  for (int32_t distance = 1; distance < 16; distance *= 2)
-    for (int32_t k = 0; k < 16; k += 2 * distance) merge(taps[k], taps[k + distance]);
-  return taps[0].sample;
-}
-
-// Two negative lobes make a positive weight, which acts; a single one does not.
-float tap_weight(const Taps& column, const Taps& row, int32_t x, int32_t y) {
-  const auto weight = static_cast<float>(column.weights[x] * row.weights[y]);
-  return weight < 0.0f ? 0.0f : weight;
-}
-
-uint32_t sample_anywhere(const ImageView& s, const Taps& column, const Taps& row) {
-  Tap taps[16];
+uint32_t sample(const ImageView& s, const Taps& column, const Taps& row) {
+  uint32_t samples[16];
+  float weights[16];
   for (int32_t k = 0; k < 16; ++k) {
     const int32_t x = column.first + (k & 3), y = row.first + (k >> 2);
-    taps[k] = {s.contains(x, y) ? s.get(x, y) : 0, tap_weight(column, row, k & 3, k >> 2)};
+    samples[k] = s.contains(x, y) ? s.get(x, y) : 0;
+    // Two negative lobes make a positive weight, which acts; a single one does not.
+    const auto weight = static_cast<float>(column.weights[k & 3] * row.weights[k >> 2]);
+    weights[k] = weight < 0.0f ? 0.0f : weight;
   }
-  return merged(taps);
+  return kernels<CubicKernels>().merged(samples, weights);
 }
 
-// Within the source and with the usual signs, the corners and the inner four are all that weighs; merges with a tap that
-// weighs nothing give the other one.
-uint32_t sample_within(const ImageView& s, const Taps& column, const Taps& row) {
-  const uint8_t* at = s.at(column.first, row.first);
-  const auto tap = [&](int32_t x, int32_t y) -> Tap {
-    return {load<uint32_t>(at + y * s.pitch + 4 * x), static_cast<float>(column.weights[x] * row.weights[y])};
-  };
-  const auto pair = [](Tap a, const Tap& b) {
-    merge(a, b);
-    return a;
-  };
-  const Tap upper = pair(pair(tap(0, 0), tap(3, 0)), pair(tap(1, 1), tap(2, 1)));
-  const Tap lower = pair(pair(tap(1, 2), tap(2, 2)), pair(tap(0, 3), tap(3, 3)));
-  return pair(upper, lower).sample;
+// Columns of the destination, so many that they stay in the nearest cache. Those within the source go together, in runs.
+void resize_strip(const ImageView& d, const ImageView& s, int32_t left, int32_t width, double rx, double ry) {
+  Taps columns[strip];
+  bool inner[strip];
+  int32_t first[strip];
+  double weights[4][strip];
+  for (int32_t x = 0; x < width; ++x) {
+    columns[x] = Taps(left + x, rx);
+    inner[x] = columns[x].inner(s.width);
+    first[x] = columns[x].first;
+    for (int32_t k = 0; k < 4; ++k) weights[k][x] = columns[x].weights[k];
+  }
+  for (int32_t y = 0; y < d.height; ++y) {
+    const Taps row(y, ry);
+    CubicRow source;
+    const bool inner_row = row.inner(s.height);
+    for (int32_t k = 0; inner_row && k < 4; ++k) {
+      source.source[k] = s.at(0, row.first + k);
+      source.weights[k] = row.weights[k];
+    }
+    for (int32_t x = 0; x < width;) {
+      int32_t end = x;
+      while (inner_row && end < width && inner[end]) ++end;
+      if (end == x) {
+        d.set(left + x, y, sample(s, columns[x], row));
+        ++x;
+        continue;
+      }
+      const CubicColumns run = {first + x, {weights[0] + x, weights[1] + x, weights[2] + x, weights[3] + x}};
+      kernels<CubicKernels>().inner(d.at(left + x, y), run, source, static_cast<size_t>(end - x));
+      x = end;
+    }
+  }
 }
 
 }  // namespace
@@ -96,17 +94,15 @@ extern "C" int32_t TESSARO_CALL BBILinear(ImageRecord* dst, const ImageRecord* s
   const ImageView d = ImageView::of(dst), s = ImageView::of(src);
   if (d.width < 1 || d.height < 1 || s.width < 1 || s.height < 1) return status_nothing;
   const double rx = ratio_of(s.width, d.width), ry = ratio_of(s.height, d.height);
-  HeapArray<Taps> columns(static_cast<size_t>(d.width));
-  if (columns)
-    for (int32_t x = 0; x < d.width; ++x) columns[static_cast<size_t>(x)] = taps_at(x, rx);
-  for (int32_t y = 0; y < d.height; ++y) {
-    const Taps row = taps_at(y, ry);
-    const bool inner_row = row.usual && row.first >= 0 && row.first + 3 < s.height;
-    for (int32_t x = 0; x < d.width; ++x) {
-      const Taps column = columns ? columns[static_cast<size_t>(x)] : taps_at(x, rx);
-      const bool inner = inner_row && column.usual && column.first >= 0 && column.first + 3 < s.width;
-      d.set(x, y, inner ? sample_within(s, column, row) : sample_anywhere(s, column, row));
-    }
+  const Area to = {d.at(0, 0), d.pitch, d.width, d.height}, from = {s.at(0, 0), s.pitch, s.width, s.height};
+  const bool rows_apart = d.pitch >= 4 * d.width || -d.pitch >= 4 * d.width;
+  if (!rows_apart || share_memory(to, from)) {
+    // Pixel by pixel: what is written may be sampled or written again.
+    for (int32_t y = 0; y < d.height; ++y)
+      for (int32_t x = 0; x < d.width; ++x) d.set(x, y, sample(s, Taps(x, rx), Taps(y, ry)));
+    return status_done;
   }
+  for (int32_t x = 0; x < d.width; x += strip)
+    resize_strip(d, s, x, d.width - x < strip ? d.width - x : strip, rx, ry);
   return status_done;
 }
