@@ -15,6 +15,10 @@ bool clip_box(const ImageView& image, int32_t x, int32_t y, int32_t w, int32_t h
   box = {x, y, w, h, 0, 0, image.width, image.height};
   return !ClipScaledBlit(image, image, box) && box.dw >= 1 && box.dh >= 1;
 }
+Area area_of(const ImageView& image, const ScaledBlit& box) {
+  return {image.at(box.dx, box.dy), image.pitch, static_cast<ptrdiff_t>(box.dw),
+          static_cast<ptrdiff_t>(box.dh)};
+}
 
 // What is not a number counts as 0.
 template <class Float>
@@ -35,9 +39,13 @@ struct CornerBox {
         y(y0, y1, image.height) {}
   bool usable() const { return pattern.width >= 2 && pattern.height >= 2; }
   bool empty() const { return x.empty() || y.empty(); }
+  Area area() const {
+    return {image.at(x.lowest(), y.lowest()), image.pitch, static_cast<ptrdiff_t>(x.count()),
+            static_cast<ptrdiff_t>(y.count())};
+  }
   template <class Draw>
   void strips(Draw draw) const {
-    each_strip(image, x.lowest(), y.lowest(), x.count(), y.count(), draw);
+    each_strip(area(), y.sign < 0, draw);
   }
 };
 
@@ -53,9 +61,7 @@ int32_t line_box(const CornerBox& box, void (*kernel)(uint8_t*, const uint32_t*,
   };
   const auto row_colour = [&](int64_t y) { return box.pattern.get(trunc32(box.y.fraction(y) * columns), 1); };
 
-  const Area written = {box.image.at(box.x.lowest(), box.y.lowest()), box.image.pitch,
-                        static_cast<ptrdiff_t>(box.x.count()), static_cast<ptrdiff_t>(box.y.count())};
-  if (share_memory(written, {box.pattern.pixels, box.pattern.pitch, box.pattern.width, 2})) {
+  if (share_memory(box.area(), {box.pattern.pixels, box.pattern.pitch, box.pattern.width, 2})) {
     // The pattern is being drawn over: each colour is read where the walk stands.
     for (int64_t j = box.y.first; j <= box.y.last; ++j) {
       const uint32_t b = row_colour(box.y.at(j));
@@ -68,12 +74,12 @@ int32_t line_box(const CornerBox& box, void (*kernel)(uint8_t*, const uint32_t*,
     }
     return status_done;
   }
-  box.strips([&](int64_t done, Area area) {
+  box.strips([&](ptrdiff_t done, ptrdiff_t top, Area area) {
     uint32_t colours[strip_width];
     for (ptrdiff_t i = 0; i < area.width; ++i) colours[i] = column_colour(box.x.lowest() + done + i);
     for (ptrdiff_t j = 0; j < area.height; ++j)
       kernel(area.at + j * area.pitch, colours, static_cast<size_t>(area.width),
-             row_colour(box.y.lowest() + j));
+             row_colour(box.y.lowest() + top + j));
   });
   return status_done;
 }
@@ -87,8 +93,7 @@ int32_t TESSARO_CALL BBIDrawColorFill(ImageRecord* image, int32_t x, int32_t y, 
   const ImageView view = ImageView::of(image);
   ScaledBlit box;
   if (!clip_box(view, x, y, width, height, box)) return status_nothing;
-  fill({view.at(box.dx, box.dy), view.pitch, static_cast<ptrdiff_t>(box.dw), static_cast<ptrdiff_t>(box.dh)},
-       mask, colour);
+  fill(area_of(view, box), mask, colour);
   return status_done;
 }
 
@@ -106,7 +111,7 @@ int32_t TESSARO_CALL BBIDrawColorTile(ImageRecord* image, int32_t x, int32_t y, 
   // itself pass through the nearest cache, which leaves less room there.
   const int64_t room = mask == 0 ? strip_width : strip_width / 4;
   const int64_t pair = 2 * tw, repeated = room / pair * pair;
-  const auto draw = [&](int64_t done, Area area) {
+  const auto draw = [&](ptrdiff_t done, ptrdiff_t top, Area area) {
     alignas(64) uint32_t even[strip_width], odd[strip_width];
     const int64_t width = repeated > 0 && repeated < area.width ? repeated : area.width;
     const auto lay = [&](uint32_t* row, uint32_t c0, uint32_t c1) {
@@ -122,9 +127,9 @@ int32_t TESSARO_CALL BBIDrawColorTile(ImageRecord* image, int32_t x, int32_t y, 
     };
     if (both || !starts_odd) lay(even, colour0, colour1);
     if (both || starts_odd) lay(odd, colour2, colour3);
-    kernels<BoxKernels>().tiles(area, {even, odd, static_cast<ptrdiff_t>(width)}, box.dy, th, mask);
+    kernels<BoxKernels>().tiles(area, {even, odd, static_cast<ptrdiff_t>(width)}, box.dy + top, th, mask);
   };
-  each_strip(view, box.dx, box.dy, box.dw, box.dh, draw, repeated > 0 ? box.dw : strip_width);
+  each_strip(area_of(view, box), false, draw, repeated > 0 ? static_cast<ptrdiff_t>(box.dw) : strip_width);
   return status_done;
 }
 
@@ -145,7 +150,7 @@ int32_t TESSARO_CALL BBIDrawBox(ImageRecord* image, int32_t x, int32_t y, int32_
     const double f = static_cast<double>(i) / static_cast<double>(n - 1);
     return (1.0 - f) * start + f * end;
   };
-  each_strip(view, box.dx, box.dy, box.dw, box.dh, [&](int64_t done, Area area) {
+  each_strip(area_of(view, box), false, [&](ptrdiff_t done, ptrdiff_t first, Area area) {
     uint32_t weights[strip_width];
     for (ptrdiff_t i = 0; i < area.width; ++i)
       weights[i] = static_cast<uint32_t>(weight_of(between(done + i, box.dw, u_start, u_end))) * 0x10001u;
@@ -154,7 +159,7 @@ int32_t TESSARO_CALL BBIDrawBox(ImageRecord* image, int32_t x, int32_t y, int32_
       RowEnds ends[some];
       const ptrdiff_t rows = area.height - top < some ? area.height - top : some;
       for (ptrdiff_t j = 0; j < rows; ++j) {
-        const auto v = static_cast<float>(between(top + j, box.dh, v_start, v_end));
+        const auto v = static_cast<float>(between(first + top + j, box.dh, v_start, v_end));
         const auto a = static_cast<uint32_t>(weight_of(v));
         ends[j] = {mixed(top_left, bottom_left, a), mixed(top_right, bottom_right, a)};
       }
@@ -174,11 +179,11 @@ int32_t TESSARO_CALL BBIDrawGradationBox(ImageRecord* image, const ImageRecord* 
   for (int row = 0; row < 2; ++row)
     for (int column = 0; column < 2; ++column)
       for (int k = 0; k < 4; ++k) corner[row][column][k] = box.pattern.at(column, row)[k];
-  box.strips([&](int64_t done, Area area) {
+  box.strips([&](ptrdiff_t done, ptrdiff_t top, Area area) {
     double u[strip_width];
     for (ptrdiff_t i = 0; i < area.width; ++i) u[i] = box.x.fraction(box.x.lowest() + done + i);
     for (ptrdiff_t j = 0; j < area.height; ++j) {
-      const double v = box.y.fraction(box.y.lowest() + j);
+      const double v = box.y.fraction(box.y.lowest() + top + j);
       float side[2][4];
       for (int column = 0; column < 2; ++column)
         for (int k = 0; k < 4; ++k)

@@ -48,37 +48,36 @@ int32_t draw_ellipse(ImageRecord* dst, const ImageRecord* colours, int32_t x1, i
     return status_done;
   }
 
-  each_strip(image, across.lowest(), down.lowest(), across.count(), down.count(),
-             [&](int64_t done, Area area) {
-               double u[strip_width], square[strip_width];
-               ptrdiff_t centre = 0;  // the squares fall up to here and rise from here on
-               for (ptrdiff_t i = 0; i < area.width; ++i) {
-                 u[i] = column_u(across.lowest() + done + i);
-                 square[i] = u[i] * u[i];
-                 if (square[i] < square[centre]) centre = i;
-               }
-               for (ptrdiff_t j = 0; j < area.height; ++j) {
-                 EllipseRow row = row_of(down.lowest() + j);
-                 if (square[centre] + row.v_squared > widest) continue;
-                 // The first and the last pixel inside, by bisection.
-                 ptrdiff_t out = -1, left = centre;
-                 while (left - out > 1) {
-                   const ptrdiff_t middle = (left + out) / 2;
-                   (square[middle] + row.v_squared > widest ? out : left) = middle;
-                 }
-                 ptrdiff_t right = centre;
-                 out = area.width;
-                 while (out - right > 1) {
-                   const ptrdiff_t middle = (right + out) / 2;
-                   (square[middle] + row.v_squared > widest ? out : right) = middle;
-                 }
-                 row.at = area.at + j * area.pitch + 4 * left;
-                 row.u = u + left;
-                 row.u_squared = square + left;
-                 row.width = static_cast<size_t>(right - left + 1);
-                 kernel(row);
-               }
-             });
+  each_strip(written, down.sign < 0, [&](ptrdiff_t done, ptrdiff_t top, Area area) {
+    double u[strip_width], square[strip_width];
+    ptrdiff_t centre = 0;  // the squares fall up to here and rise from here on
+    for (ptrdiff_t i = 0; i < area.width; ++i) {
+      u[i] = column_u(across.lowest() + done + i);
+      square[i] = u[i] * u[i];
+      if (square[i] < square[centre]) centre = i;
+    }
+    for (ptrdiff_t j = 0; j < area.height; ++j) {
+      EllipseRow row = row_of(down.lowest() + top + j);
+      if (square[centre] + row.v_squared > widest) continue;
+      // The first and the last pixel inside, by bisection.
+      ptrdiff_t out = -1, left = centre;
+      while (left - out > 1) {
+        const ptrdiff_t middle = (left + out) / 2;
+        (square[middle] + row.v_squared > widest ? out : left) = middle;
+      }
+      ptrdiff_t right = centre;
+      out = area.width;
+      while (out - right > 1) {
+        const ptrdiff_t middle = (right + out) / 2;
+        (square[middle] + row.v_squared > widest ? out : right) = middle;
+      }
+      row.at = area.at + j * area.pitch + 4 * left;
+      row.u = u + left;
+      row.u_squared = square + left;
+      row.width = static_cast<size_t>(right - left + 1);
+      kernel(row);
+    }
+  });
   return status_done;
 }
 

@@ -29,16 +29,19 @@ struct Run {
 
 // Areas are drawn in strips of so many columns, so that what depends on the column alone is computed once
 // for all rows of a strip and stays in the nearest cache.
-inline constexpr int64_t strip_width = 4096;
+inline constexpr ptrdiff_t strip_width = 4096;
 
-// Calls draw(first column, columns as an area) for each strip.
+// Calls draw(first column, first row, the area from there on) for each strip; columns and rows count from those of `all`.
+// Strips are of one row each where rows run into one another, the last row first if the walk goes upwards.
 template <class Draw>
-void each_strip(const ImageView& image, int64_t x, int64_t y, int64_t w, int64_t h, Draw draw,
-                int64_t strip = strip_width) {
-  for (int64_t done = 0; done < w; done += strip) {
-    const int64_t n = w - done < strip ? w - done : strip;
-    draw(done,
-         Area{image.at(x + done, y), image.pitch, static_cast<ptrdiff_t>(n), static_cast<ptrdiff_t>(h)});
+void each_strip(const Area& all, bool upwards, Draw draw, ptrdiff_t strip = strip_width) {
+  const bool apart = rows_apart(all);
+  for (ptrdiff_t i = 0, rows = apart ? all.height : 1; i < all.height; i += rows) {
+    const ptrdiff_t row = apart || !upwards ? i : all.height - 1 - i;
+    for (ptrdiff_t done = 0; done < all.width; done += strip)
+      draw(done, row,
+           Area{all.at + row * all.pitch + 4 * done, all.pitch,
+                all.width - done < strip ? all.width - done : strip, rows});
   }
 }
 

@@ -58,6 +58,8 @@ int32_t ClipScaledBlit(const ImageView& dst, const ImageView& src, ScaledBlit& b
   return b.dw == 0 || b.dh == 0 || b.sw == 0 || b.sh == 0 ? status_nothing : status_done;
 }
 
+bool rows_apart(const Area& a) { return a.pitch >= 4 * a.width || -a.pitch >= 4 * a.width; }
+
 bool share_memory(const Area& a, const Area& b) {
   struct Span {
     uintptr_t first, end;

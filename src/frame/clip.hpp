@@ -45,6 +45,8 @@ struct AreaPair {
 // Whether two areas may have a byte in common: their spans of memory meet, unless they lie side by side in one image. Where
 // they have none, any order of work gives the same.
 bool share_memory(const Area& a, const Area& b);
+// Whether no row of an area runs into the next one: where one does, the order of its rows shows.
+bool rows_apart(const Area& a);
 inline Area dst_of(const AreaPair& n) { return {n.dst, n.dst_pitch, n.width, n.height}; }
 inline Area src_of(const AreaPair& n) {
   return {const_cast<uint8_t*>(n.src), n.src_pitch, n.width, n.height};

@@ -131,10 +131,9 @@ void blur_rows(AreaPair n, ptrdiff_t r, bool loop) {
 // True where no row of the destination runs into another and each of its columns meets no column of the source but its own,
 // so that all columns may move down together.
 bool columns_apart(const AreaPair& n) {
-  const ptrdiff_t step = n.dst_pitch < 0 ? -n.dst_pitch : n.dst_pitch;
-  if (step < 4 * n.width) return false;
+  if (!rows_apart(dst_of(n))) return false;
   const auto apart = reinterpret_cast<intptr_t>(n.dst) - reinterpret_cast<intptr_t>(n.src);
-  return !share_memory(dst_of(n), src_of(n)) || (n.dst_pitch == n.src_pitch && apart % step == 0);
+  return !share_memory(dst_of(n), src_of(n)) || (n.dst_pitch == n.src_pitch && apart % n.dst_pitch == 0);
 }
 
 // Columns: one running sum each, all of them moving down a row at a time. False when there is no memory for it.

@@ -95,8 +95,7 @@ extern "C" int32_t TESSARO_CALL BBILinear(ImageRecord* dst, const ImageRecord* s
   if (d.width < 1 || d.height < 1 || s.width < 1 || s.height < 1) return status_nothing;
   const double rx = ratio_of(s.width, d.width), ry = ratio_of(s.height, d.height);
   const Area to = {d.at(0, 0), d.pitch, d.width, d.height}, from = {s.at(0, 0), s.pitch, s.width, s.height};
-  const bool rows_apart = d.pitch >= 4 * d.width || -d.pitch >= 4 * d.width;
-  if (!rows_apart || share_memory(to, from)) {
+  if (!rows_apart(to) || share_memory(to, from)) {
     // Pixel by pixel: what is written may be sampled or written again.
     for (int32_t y = 0; y < d.height; ++y)
       for (int32_t x = 0; x < d.width; ++x) d.set(x, y, sample(s, Taps(x, rx), Taps(y, ry)));

@@ -9,7 +9,7 @@ namespace tessaro {
 
 bool clip_stretch(const ImageView& dst, const ImageView& src, ScaledBlit& r) {
   return !ClipScaledBlit(dst, src, r) && r.dw > 0 && r.dh > 0 && r.sw > 0 && r.sh > 0 &&
-         // Truncation never pushes a clipped rectangle out of its image; memory safety does not hang on that.
+         // Where a height is negative, the rounded vertical ratio may leave a rectangle outside its image.
          r.dx >= 0 && r.dy >= 0 && r.dx + r.dw <= dst.width && r.dy + r.dh <= dst.height && r.sx >= 0 &&
          r.sy >= 0 && r.sx + r.sw <= src.width && r.sy + r.sh <= src.height;
 }

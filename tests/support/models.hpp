@@ -48,11 +48,19 @@ struct Ends {
 };
 
 // Filled at random, rows in either order, of any pitch and alignment.
-inline Image some_image(Random& random, int32_t width, int32_t height) {
-  const int32_t pitch = 4 * width + random.between(0, 9) * random.between(0, 1);
+inline Image image_of_pitch(Random& random, int32_t width, int32_t height, int32_t pitch) {
   Image image(width, height, random.word() & 1 ? pitch : -pitch, random.word() % 4);
   image.randomize(random.word());
   return image;
+}
+inline Image image_of_rows_apart(Random& random, int32_t width, int32_t height) {
+  return image_of_pitch(random, width, height, 4 * width + random.between(0, 9) * random.between(0, 1));
+}
+// One of eight has rows that run into one another.
+inline Image some_image(Random& random, int32_t width, int32_t height) {
+  if (width > 0 && random.word() % 8 == 0)
+    return image_of_pitch(random, width, height, random.between(1, 4 * width));
+  return image_of_rows_apart(random, width, height);
 }
 
 template <class Visit>
