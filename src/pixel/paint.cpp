@@ -15,10 +15,10 @@ int32_t TESSARO_CALL BBIPaint(ImageRecord* image, int32_t x, int32_t y, uint32_t
   const uint32_t old = view.get(x, y);
   if (old == colour) return status_nothing;
   // Taken at once and at its largest, so that a fill never stops halfway; memory that is not used is never touched.
-  HeapArray<PaintSpan> pending(static_cast<size_t>(view.height) *
-                               ((static_cast<size_t>(view.width) + 1) / 2));
+  const size_t room = static_cast<size_t>(view.height) * ((static_cast<size_t>(view.width) + 1) / 2);
+  HeapArray<PaintSpan> pending(room);
   if (!pending) return status_nothing;
-  Paint paint = {view, x, y, old, colour, pending.data(), 0, 0, 0, 0};
+  Paint paint = {view, x, y, old, colour, pending.data(), room, 0, 0, 0, 0};
   kernels<PaintKernels>().flood(paint);
   store(left, paint.left);
   store(top, paint.top);

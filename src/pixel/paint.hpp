@@ -19,7 +19,8 @@ struct Paint {
   ImageView image;
   int32_t x, y;
   uint32_t old, colour;  // differ
-  PaintSpan* pending;    // room for every span that the image can have: height * ((width + 1) / 2)
+  PaintSpan* pending;
+  size_t room;                       // for every span that the image can have: height * ((width + 1) / 2)
   int32_t left, top, right, bottom;  // of what has been filled
 };
 

@@ -82,8 +82,10 @@ void flood(Paint& p) {
   // Spans are filled when they are found, so that none is found twice.
   const auto take = [&](uint8_t* row, int32_t y, int32_t begin, int32_t end) {
     fill(row, begin, end, p.colour);
-    p.pending[pending++] = {static_cast<uint16_t>(y), static_cast<uint16_t>(begin),
-                            static_cast<uint16_t>(end - 1)};
+    // Only rows that run into one another make more spans than there is room for: filling one may uncover others again.
+    if (pending < p.room)
+      p.pending[pending++] = {static_cast<uint16_t>(y), static_cast<uint16_t>(begin),
+                              static_cast<uint16_t>(end - 1)};
     if (begin < p.left) p.left = begin;
     if (end - 1 > p.right) p.right = end - 1;
   };

@@ -28,7 +28,7 @@ TEST(Compare, FailsAtTheOneWrongPixel) {
     Random random(1);
     for (const int32_t mode : {0, 1, 2, 4, 5, 6, 7})
       for (int32_t w = 1; w < 150; w += 1 + w / 40) {
-        Image a = some_image(random, w, 3), b = some_image(random, w, 3);
+        Image a = image_of_rows_apart(random, w, 3), b = image_of_rows_apart(random, w, 3);
         a.fill(modes[mode].a);
         b.fill(modes[mode].b);
         ASSERT_EQ(BBICompare(a, b, mode), 0) << "mode " << mode << " width " << w;
@@ -58,7 +58,7 @@ TEST(Compare, CountsPixelsThatDifferALittle) {
   for (const Forced backend : supported_backends()) {
     Random random(2);
     for (const int32_t w : {1, 3, 17, 70, 9000}) {
-      Image a = w > 8000 ? Image(w, 1, 4) : some_image(random, w, 4), b = a;
+      Image a = w > 8000 ? Image(w, 1, 4) : image_of_rows_apart(random, w, 4), b = a;
       for_pixels(b, [&](int32_t x, int32_t y) {
         if (random.between(0, 4)) b.set(x, y, random.pixel());
       });
@@ -86,8 +86,8 @@ TEST(Colours, CountsAndCollects) {
   for (int trial = 0; trial < 40; ++trial) {
     // Past 2^15 pixels another way of counting begins.
     const bool large = trial % 8 == 0;
-    Image image =
-        large ? Image(300, 200, -1204, 1) : some_image(random, random.between(1, 60), random.between(1, 9));
+    Image image = large ? Image(300, 200, -1204, 1)
+                        : image_of_rows_apart(random, random.between(1, 60), random.between(1, 9));
     const int32_t kinds = random.between(1, 400);
     for_pixels(image, [&](int32_t x, int32_t y) {
       image.set(x, y, static_cast<uint32_t>(random.between(0, kinds)) * 0x2F1E35u ^ random.word() << 24);
@@ -128,7 +128,7 @@ TEST(Trim, FindsTheContent) {
   for (const Forced backend : supported_backends()) {
     Random random(4);
     for (int trial = 0; trial < 400; ++trial) {
-      Image image = some_image(random, random.between(1, 150), random.between(1, 9));
+      Image image = image_of_rows_apart(random, random.between(1, 150), random.between(1, 9));
       image.fill(0x7F332211);
       for (int dots = random.between(0, 3); dots > 0; --dots) {
         const int32_t x = random.between(0, image.width() - 1), y = random.between(0, image.height() - 1);
@@ -198,7 +198,7 @@ TEST(Whole, EqualsTheModelInEveryShape) {
     Random random(5);
     for (const Row& row : rows)
       for (int32_t w = 0; w < 75; ++w) {
-        Image image = some_image(random, w, random.between(w == 70 ? 0 : 1, 5));
+        Image image = image_of_rows_apart(random, w, random.between(w == 70 ? 0 : 1, 5));
         for_pixels(image, [&](int32_t x, int32_t y) {
           const int32_t kind = random.between(0, 5);
           const uint32_t p = image.get(x, y);
@@ -232,6 +232,11 @@ TEST(Whole, RowsThatRunIntoOneAnotherGoPixelByPixel) {
       ASSERT_EQ(BBIVMirror(image), 0);
       ASSERT_EQ(image, model) << "pitch " << pitch;
     }
+  // Painting uncovers what it has painted: more spans than an image has pixels, all of them within it.
+  Image image(5, 13, 10);
+  for (int i = 0; i < 140; ++i) image.at(0, 0)[i] = i % 4 == 3;
+  Box box;
+  EXPECT_EQ(BBIPaint(image, 3, 12, 0x100, &box[0], &box[1], &box[2], &box[3]), 0);
 }
 
 TEST(Rotation, PutsEveryPixelInItsPlace) {
@@ -284,7 +289,8 @@ TEST(Paint, FillsExactlyTheConnectedPixels) {
   for (const Forced backend : supported_backends()) {
     Random random(7);
     for (int trial = 0; trial < 1500; ++trial) {
-      Image image = some_image(random, random.between(1, trial % 4 ? 24 : 90), random.between(1, 24));
+      Image image =
+          image_of_rows_apart(random, random.between(1, trial % 4 ? 24 : 90), random.between(1, 24));
       // From open ground with a few stones over mazes of corridors to scattered pixels.
       const int32_t density = random.between(0, 9), step = random.between(1, 4);
       const bool corridors = trial % 3 == 0;
