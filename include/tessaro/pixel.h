@@ -257,7 +257,7 @@ TESSARO_API int32_t TESSARO_CALL BBIBltTone(ImageRecord* dst, const ImageRecord*
  * (B + G + R) / 3, e = d - s + brightness of s - brightness of d for each colour and
  * distance = trunc(sqrt(the sum of their squares)), the weight is w = trunc(256 - distance * factor) in double
  * precision, kept within 0..256; every byte, alpha included, becomes (d * (256 - w) + s * w) >> 8. factor 0
- * copies. Where the weight before it is limited is not a number or does not fit 32 bits, it counts as 0. */
+ * and negative factors copy. A weight that is not a number counts as 0. */
 TESSARO_API int32_t TESSARO_CALL BBIBltToneWB(ImageRecord* dst, const ImageRecord* src, int32_t dx,
                                               int32_t dy, int32_t cx, int32_t cy, int32_t sx, int32_t sy,
                                               float factor);

@@ -47,13 +47,15 @@ struct Line {
 // the squares of both lanes of `even` and the lower lane of `odd`, truncated.
 // Sums stay below 2^20, and single precision gives their truncated root exactly: a float holds every sum, and the root
 // of one less than a square lies further below the integer than half a unit in the last place.
+// What is above 256 is limited before it is truncated; not-a-number passes and becomes the smallest integer.
 TESSARO_INLINE One::Half weight_by_distance(One::Half even, One::Half odd, const Line& line) {
   const int32_t blue = static_cast<int16_t>(even.v), red = static_cast<int16_t>(even.v >> 16),
                 green = static_cast<int16_t>(odd.v);
   const auto sum = static_cast<float>(blue * blue + green * green + red * red);
   const int32_t distance = _mm_cvttss_si32(_mm_sqrt_ss(_mm_set_ss(sum)));
-  const int32_t weight = tessaro::trunc32(256.0 - distance * line.factor);
-  return One::Half::splat(weight < 0 ? 0 : weight > 256 ? 256 : static_cast<uint32_t>(weight));
+  const double v = 256.0 - distance * line.factor;
+  const int32_t weight = tessaro::trunc32(v > 256.0 ? 256.0 : v);
+  return One::Half::splat(weight < 0 ? 0 : static_cast<uint32_t>(weight));
 }
 #if TESSARO_LANES == 16
 TESSARO_INLINE Px::Half weight_by_distance(Px::Half even, Px::Half odd, const Line& line) {
@@ -61,11 +63,10 @@ TESSARO_INLINE Px::Half weight_by_distance(Px::Half even, Px::Half odd, const Li
   const __m512i sum = _mm512_add_epi32(_mm512_madd_epi16(even.v, even.v), _mm512_madd_epi16(green, green));
   const __m512 distance =
       _mm512_roundscale_ps(_mm512_sqrt_ps(_mm512_cvtepi32_ps(sum)), _MM_FROUND_TO_ZERO | _MM_FROUND_NO_EXC);
-  const __m512i all = _mm512_cvttps_epi32(_mm512_fnmadd_round_ps(distance, _mm512_set1_ps(line.slope),
-                                                                 _mm512_set1_ps(line.start),
-                                                                 _MM_FROUND_TO_NEG_INF | _MM_FROUND_NO_EXC));
+  const __m512 all = _mm512_fnmadd_round_ps(distance, _mm512_set1_ps(line.slope), _mm512_set1_ps(line.start),
+                                            _MM_FROUND_TO_NEG_INF | _MM_FROUND_NO_EXC);
   const __m512i weight =
-      _mm512_min_epi32(_mm512_max_epi32(all, _mm512_setzero_si512()), _mm512_set1_epi32(256));
+      _mm512_max_epi32(_mm512_cvttps_epi32(_mm512_min_ps(_mm512_set1_ps(256), all)), _mm512_setzero_si512());
   return {_mm512_shuffle_epi8(weight, _mm512_set4_epi32(0x0D0C0D0C, 0x09080908, 0x05040504, 0x01000100))};
 }
 #elif TESSARO_LANES == 8
@@ -75,13 +76,13 @@ TESSARO_INLINE Px::Half weight_by_distance(Px::Half even, Px::Half odd, const Li
   const __m256i distance = _mm256_cvttps_epi32(_mm256_sqrt_ps(_mm256_cvtepi32_ps(sum)));
   const __m256d slope = _mm256_set1_pd(line.factor);
   const auto weights = [slope](__m128i four) {
+    const __m256d most = _mm256_set1_pd(256);
     return _mm256_cvttpd_epi32(
-        _mm256_sub_pd(_mm256_set1_pd(256), _mm256_mul_pd(_mm256_cvtepi32_pd(four), slope)));
+        _mm256_min_pd(most, _mm256_sub_pd(most, _mm256_mul_pd(_mm256_cvtepi32_pd(four), slope))));
   };
   const __m256i weight = _mm256_set_m128i(weights(_mm256_extracti128_si256(distance, 1)),
                                           weights(_mm256_castsi256_si128(distance)));
-  const Px::Half packed{_mm256_packs_epi32(weight, weight)};
-  const __m256i kept = min(max(packed, Px::Half::splat(0)), Px::Half::splat(256)).v;
+  const __m256i kept = max(Px::Half{_mm256_packs_epi32(weight, weight)}, Px::Half::splat(0)).v;
   return {_mm256_unpacklo_epi16(kept, kept)};
 }
 #elif TESSARO_LANES == 4
@@ -91,12 +92,12 @@ TESSARO_INLINE Px::Half weight_by_distance(Px::Half even, Px::Half odd, const Li
   const __m128i distance = _mm_cvttps_epi32(_mm_sqrt_ps(_mm_cvtepi32_ps(sum)));
   const __m128d slope = _mm_set1_pd(line.factor);
   const auto weights = [slope](__m128i two) {
-    return _mm_cvttpd_epi32(_mm_sub_pd(_mm_set1_pd(256), _mm_mul_pd(_mm_cvtepi32_pd(two), slope)));
+    const __m128d most = _mm_set1_pd(256);
+    return _mm_cvttpd_epi32(_mm_min_pd(most, _mm_sub_pd(most, _mm_mul_pd(_mm_cvtepi32_pd(two), slope))));
   };
   const __m128i weight =
       _mm_unpacklo_epi64(weights(distance), weights(_mm_unpackhi_epi64(distance, distance)));
-  const Px::Half packed{_mm_packs_epi32(weight, weight)};
-  const __m128i kept = min(max(packed, Px::Half::splat(0)), Px::Half::splat(256)).v;
+  const __m128i kept = max(Px::Half{_mm_packs_epi32(weight, weight)}, Px::Half::splat(0)).v;
   return {_mm_unpacklo_epi16(kept, kept)};
 }
 #endif

@@ -26,7 +26,7 @@ uint32_t tone_mix(uint32_t d, uint32_t s, float factor) {
   int distance = 0;
   while ((distance + 1) * (distance + 1) <= squares) ++distance;
   const double exact = 256.0 - distance * static_cast<double>(factor);
-  const int weight = !(std::fabs(exact) < 2147483648.0) ? 0 : std::clamp(static_cast<int>(exact), 0, 256);
+  const int weight = exact > 0 ? static_cast<int>(std::min(exact, 256.0)) : 0;
   return mixed(d, s, static_cast<uint32_t>(weight));
 }
 
