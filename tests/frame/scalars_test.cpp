@@ -30,6 +30,11 @@ TEST(Scalars, CompareAndExclusiveOr) {
   EXPECT_EQ(dllComp(a, b, 6), 1);
   EXPECT_EQ(dllComp(a, b, 0), 0);
   EXPECT_EQ(dllComp(nullptr, nullptr, INT32_MIN), 0);
+  std::vector<uint8_t> long_one(10000, 7), long_other(10003, 7);
+  EXPECT_EQ(dllComp(long_one.data(), long_other.data() + 3, 10000), 0);
+  long_other.back() = 8;
+  EXPECT_EQ(dllComp(long_one.data(), long_other.data() + 3, 9999), 0);
+  EXPECT_EQ(dllComp(long_one.data(), long_other.data() + 3, 10000), 1);
   std::vector<uint8_t> d(64), s(64);
   for (size_t i = 0; i < 64; ++i) {
     d[i] = static_cast<uint8_t>(i);
