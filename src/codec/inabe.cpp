@@ -250,7 +250,10 @@ int32_t decode(Source source, void* destination, uint32_t count) {
       out.repeat(last, size);
       continue;
     }
-    const Form form{in.read_ones(longest_field), class_width[head.kind], class_keep[head.kind]};
+    // The zero behind as many ones is part of the count.
+    const unsigned short_width = in.read_ones(longest_field + 1);
+    const Form form{short_width < longest_field ? short_width : longest_field, class_width[head.kind],
+                    class_keep[head.kind]};
     while (size != 0) {
       const uint32_t n = size < Sink::longest_span ? size : Sink::longest_span;
       uint8_t* span = out.span();

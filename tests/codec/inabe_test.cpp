@@ -80,8 +80,9 @@ TEST(Inabe, CodesGroups) { check_codec({inabeEncoder, model<true>, inabeDecoder,
 TEST(Inabe, DecodesAllForms) {
   // Every width of field, escaped or not, also those above 7 that no encoder chooses.
   for (unsigned kind = 0; kind < 3; ++kind)
-    for (unsigned e = 0; e <= 12; ++e) {
+    for (unsigned e = 0; e <= 32; ++e) {
       BitString stream;
+      const uint32_t ones = e == 32 ? ~0u : (1u << e) - 1;
       const unsigned w = kind == 0 ? 8 : kind == 1 ? 5 : 3;
       stream.put(0, 2);  // four bytes, whole
       stream.put(0, 1);  // no short width
@@ -89,14 +90,14 @@ TEST(Inabe, DecodesAllForms) {
       stream.put(0, 1);
       stream.put((1u << kind) - 1, kind);
       stream.put(0, 1);
-      stream.put(0xFFF, e);
+      stream.put(ones, e);
       stream.put(0, 1);
       Bytes expected = {0xA1, 0xB2, 0xC3, 0xD4};
       for (unsigned value : {0u, 1u, 2u, (1u << w) - 1}) {
-        if (value < (1u << e) - 1) {
+        if (value < ones) {
           stream.put(value, e);
         } else {
-          stream.put(0xFFF, e);
+          stream.put(ones, e);
           stream.put(value, w);
         }
         expected.push_back(static_cast<uint8_t>((expected.back() & 0xFF << w) | value));
