@@ -136,7 +136,7 @@ TESSARO_API int32_t TESSARO_CALL waveExpand(const WaveBuffer* dst, const WaveBuf
  * for the end of the block follows: gain * growth (limited to 1.0001..1.7, not-a-number counts as 1.0001), at least
  * 1 and at most 8, 4, 2 or 1 if a magnitude has bit 20, 21 or 22. The frames at *write_position are multiplied by a gain
  * that moves from the old to the new one in equal steps, and truncated; where a loud block follows, the first
- * products may not fit and then wrap. Both positions advance by count; the gains are written back. A count below 1
+ * products may not fit and then wrap; beyond 32 bits they count as -2^31. Both positions advance by count; the gains are written back. A count below 1
  * returns 1. */
 TESSARO_API int32_t TESSARO_CALL waveEffectMaximizer24(const WaveBuffer* buffer, int32_t* look_position,
                                                        int32_t* write_position, int32_t count, double growth,

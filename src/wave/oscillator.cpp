@@ -34,7 +34,8 @@ Angle reduced_far(float a) {
   int32_t quarter = static_cast<int32_t>(product[0] >> 30) + (nearest < 0 ? 1 : 0);
   constexpr double scale = 0x1p-64, pi_half = 0x1.921fb54442d18p0, pi_half_tail = 0x1.1a62633145c07p-54;
   const double high = static_cast<double>(nearest & ~int64_t{0xFFF}) * scale;
-  const double low = static_cast<double>(nearest & 0xFFF) * scale;
+  const double lowest = static_cast<double>(product[2] << 2 | product[3] >> 30) * 0x1p-96;
+  const double low = static_cast<double>(nearest & 0xFFF) * scale + lowest;
   double rest = high * pi_half;
   double tail = high * pi_half_tail + low * pi_half;
   if (a < 0) {
@@ -65,8 +66,13 @@ bool same(float a, float b) { return a == b || (a != a && b != b); }
 
 void Oscillator::advance(float* phases, int64_t n) {
   double drift[block];  // by the modulation of the step itself
-  for (int64_t i = 0; i < n; ++i) phases[i] = modulation_ += rate_;
-  sines(drift, phases, n);
+  if (modulation_ + rate_ == modulation_) {
+    const double steady = any_sine(modulation_);
+    for (int64_t i = 0; i < n; ++i) drift[i] = steady;
+  } else {
+    for (int64_t i = 0; i < n; ++i) phases[i] = modulation_ += rate_;
+    sines(drift, phases, n);
+  }
   for (int64_t i = 0; i < n; ++i) {
     phases[i] = phase_;
     phase_ += increment_;
