@@ -24,11 +24,14 @@ struct Taps {
       share[x] = static_cast<uint32_t>(part) * 0x10001u;
       weights[a][x] = static_cast<float>(sum);
     }
-    if constexpr (P::lanes == 1) {  // sums of products stay below 65536: one product serves two channels
-      const uint32_t w = share[0] & 0xFFFF, rest = 256 - w;
-      const One from{samples[a][0]}, to{samples[b][0]};
-      const One::Half e{even(from).v * rest + even(to).v * w}, o{odd(from).v * rest + odd(to).v * w};
-      samples[a][0] = join_high(e, o).v;
+    if constexpr (P::lanes == 1) {
+      for (size_t x = 0; x < pixels;
+           ++x) {  // sums of products stay below 65536: one product serves two channels
+        const uint32_t w = share[x] & 0xFFFF, rest = 256 - w;
+        const One from{samples[a][x]}, to{samples[b][x]};
+        const One::Half e{even(from).v * rest + even(to).v * w}, o{odd(from).v * rest + odd(to).v * w};
+        samples[a][x] = join_high(e, o).v;
+      }
     } else {
       for (size_t x = 0; x < pixels; x += P::lanes)
         mix(P::load(samples[a] + x), P::load(samples[b] + x), halves(P::load(share + x)))
