@@ -182,7 +182,8 @@ TESSARO_API int32_t TESSARO_CALL DecodeImageHead(const void* file, int32_t size,
                                                  int32_t* height);
 
 /* Draws a bitmap at (0, 0) of a device context: an HDC on Windows, elsewhere an ImageRecord*, which receives
- * pixels 0xAARRGGBB with alpha 0 where the file has none. The rectangle drawn has as many columns as the number of
+ * pixels 0xAARRGGBB with alpha 0 where the file has none (BBIClearMask(image, 0, 0, 0, 255, 0x00FFFFFF) makes them
+ * opaque). The rectangle drawn has as many columns as the number of
  * the picture's HIMETRIC height, and as many rows as that of its HIMETRIC width, cut to the picture and to the
  * destination: all of a picture, unless one edge is over 26 times as long as the other. */
 TESSARO_API int32_t TESSARO_CALL DecodeImage(void* device, const void* file, int32_t size);

@@ -120,7 +120,8 @@ TESSARO_API int32_t TESSARO_CALL BBIDrawLineCircle(ImageRecord* dst, const Image
                                                    int32_t y1, int32_t x2, int32_t y2);
 
 /* From the row that the angle selects: the fraction t of the palette's height, where v < 0 has t = atan(u / v) /
- * 2 pi + 0.25, v > 0 has + 0.75, and v = 0 has 0.5 for u < 0, else 0. 1 if the palette is smaller than 2 x 2. */
+ * (2 pi) + 0.25, v > 0 has + 0.75, and v = 0 has 0.5 for u < 0, else 0; a t of 1 takes the last row. 1 if the palette
+ * is smaller than 2 x 2. */
 TESSARO_API int32_t TESSARO_CALL BBIDrawPolaCircle(ImageRecord* dst, const ImageRecord* palette, int32_t x1,
                                                    int32_t y1, int32_t x2, int32_t y2);
 

@@ -186,7 +186,7 @@ TESSARO_API int32_t TESSARO_CALL BBIFlipLineY(ImageRecord* image, int32_t x, int
  * second; nothing outside the clipped source rectangle is read. Returns 1 when nothing is left, otherwise 0. The four
  * channels, alpha included, are filtered each for itself, and means are truncated. */
 
-/* Box blurs: the mean of the pixels from radius before to radius behind. At the ends of a row (column) the window is
+/* Box blurs: the mean of the pixels from radius before to radius after. At the ends of a row (column) the window is
  * cut, never padded. The radius is lowered to half the length minus 1, and to 127; below 1 the rectangle is copied as
  * by BBIBlt. dst and src may be one image and one rectangle. Cost does not depend on the radius. */
 TESSARO_API int32_t TESSARO_CALL BBIBltUBlur(ImageRecord* dst, const ImageRecord* src, int32_t dx, int32_t dy,

@@ -39,7 +39,9 @@ typedef struct ImageRecord {
 } ImageRecord;
 
 /* width in pixels, height in rows, and the bytes from the start of one row to the start of the next; a
- * negative pitch describes rows stored bottom-up. */
+ * negative pitch describes rows stored bottom-up, whose first row lies last in memory: there the record has to lie
+ * within 32 KiB of it, behind the pixels as a rule. Rows of more than 8191 pixels cannot follow one another: their
+ * pitch would not fit. */
 typedef struct ImageDims {
   int16_t width;
   int16_t height;

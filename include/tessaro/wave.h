@@ -74,7 +74,7 @@ TESSARO_API int32_t TESSARO_CALL waveFormat(const WaveBuffer* dst, const WaveBuf
 TESSARO_API int32_t TESSARO_CALL waveBlt(const WaveBuffer* dst, const WaveBuffer* src, int32_t dst_start,
                                          int32_t src_start, int32_t count, float gain);
 
-/* The mean of the source from radius frames before to radius behind, truncated toward zero, at the 16-bit scale. Frames
+/* The mean of the source from radius frames before to radius after, truncated toward zero, at the 16-bit scale. Frames
  * before src_start + radius count as silence: the first 2 * radius results fade in. A radius below 1 is
  * refused, one above 511 counts as 511. The cost does not depend on it. */
 TESSARO_API int32_t TESSARO_CALL waveBltBlur(const WaveBuffer* dst, const WaveBuffer* src, int32_t dst_start,

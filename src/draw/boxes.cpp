@@ -21,10 +21,7 @@ Area area_of(const ImageView& image, const ScaledBlit& box) {
 }
 
 // What is not a number counts as 0.
-template <class Float>
-int32_t weight_of(Float v) {
-  return v > 0 ? (v < 1 ? trunc32(v * 256) : 256) : 0;
-}
+int32_t weight_of(double v) { return v > 0 ? (v < 1 ? trunc32(v * 256) : 256) : 0; }
 
 // A box between two corner points, and the pattern image that colours it.
 struct CornerBox {
@@ -113,21 +110,21 @@ int32_t TESSARO_CALL BBIDrawColorTile(ImageRecord* image, int32_t x, int32_t y, 
   const int64_t pair = 2 * tw, repeated = room / pair * pair;
   const auto draw = [&](ptrdiff_t done, ptrdiff_t top, Area area) {
     alignas(64) uint32_t even[strip_width], odd[strip_width];
-    const int64_t width = repeated > 0 && repeated < area.width ? repeated : area.width;
+    const int64_t pattern = repeated > 0 && repeated < area.width ? repeated : area.width;
     const auto lay = [&](uint32_t* row, uint32_t c0, uint32_t c1) {
-      const int64_t at = box.dx + done, first = width < pair ? width : pair;
+      const int64_t at = box.dx + done, first = pattern < pair ? pattern : pair;
       bool second = at / tw % 2 != 0;
       int64_t left = tw - at % tw;
       for (int64_t i = 0; i < first; left = tw, second = !second) {
         const uint32_t colour = (second ? c1 : c0) & ~mask;
         for (const int64_t end = i + left < first ? i + left : first; i < end; ++i) row[i] = colour;
       }
-      for (int64_t i = first; i < width; i *= 2)
-        std::memcpy(row + i, row, static_cast<size_t>(4 * (width - i < i ? width - i : i)));
+      for (int64_t i = first; i < pattern; i *= 2)
+        std::memcpy(row + i, row, static_cast<size_t>(4 * (pattern - i < i ? pattern - i : i)));
     };
     if (both || !starts_odd) lay(even, colour0, colour1);
     if (both || starts_odd) lay(odd, colour2, colour3);
-    kernels<BoxKernels>().tiles(area, {even, odd, static_cast<ptrdiff_t>(width)}, box.dy + top, th, mask);
+    kernels<BoxKernels>().tiles(area, {even, odd, static_cast<ptrdiff_t>(pattern)}, box.dy + top, th, mask);
   };
   each_strip(area_of(view, box), false, draw, repeated > 0 ? static_cast<ptrdiff_t>(box.dw) : strip_width);
   return status_done;

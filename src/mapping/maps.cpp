@@ -46,10 +46,9 @@ bool runs_into_itself(const Mapping& m, ptrdiff_t y) {
   return ahead != 0 && ahead + 3 < 4 * map_block + 3;  // from 3 bytes behind, which still share a pixel
 }
 
-// Whether pixels may be written in any order: not where rows of the destination overlap one another.
+// Whether pixels may be written in any order.
 bool apart(const AreaPair& n) {
-  const ptrdiff_t row = 4 * n.width;
-  if (n.dst_pitch < row && n.dst_pitch > -row) return false;
+  if (!rows_apart(dst_of(n))) return false;
   return (n.dst == n.src && n.dst_pitch == n.src_pitch) || !share_memory(dst_of(n), src_of(n));
 }
 

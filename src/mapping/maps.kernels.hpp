@@ -215,6 +215,11 @@ TESSARO_VBMI void permute_by_value(uint8_t* dst, const uint8_t* src, size_t widt
   }
 }
 
+// The place may lie outside the image.
+TESSARO_INLINE void prefetch(const uint8_t* at, uintptr_t ahead) {
+  _mm_prefetch(reinterpret_cast<const char*>(reinterpret_cast<uintptr_t>(at) + ahead), _MM_HINT_T1);
+}
+
 // Transposes the bytes of sixteen rows of sixteen, within each 128 bits.
 TESSARO_INLINE void transpose(__m512i (&v)[16]) {
   for (int round = 0; round < 4; ++round) {
@@ -247,7 +252,7 @@ TESSARO_VBMI TESSARO_INLINE void tile_by_tables(const AreaPair& n, const uint8_t
       const ptrdiff_t row = whole || i + 16 * j < n.height ? i + 16 * j : n.height - 1;
       const uint8_t* src = n.src + row * n.src_pitch;
       v[j] = whole ? _mm512_loadu_si512(src) : _mm512_maskz_loadu_epi32(some, src);
-      if (more) _mm_prefetch(reinterpret_cast<const char*>(src + 256), _MM_HINT_T1);
+      if (more) prefetch(src, 256);
     }
     transpose(v);
     for (int j = 0; j < 4; ++j) tile[j][i] = v[j];
@@ -278,7 +283,7 @@ TESSARO_VBMI TESSARO_INLINE void tile_by_tables(const AreaPair& n, const uint8_t
         continue;
       }
       _mm512_storeu_si512(dst, v[j]);
-      if (more) _mm_prefetch(reinterpret_cast<const char*>(dst + 64), _MM_HINT_T1);
+      if (more) prefetch(dst, 64);
     }
   }
 }

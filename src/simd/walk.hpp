@@ -3,7 +3,7 @@
 //
 // Results are those of one pixel after another, left to right, top to bottom. Within a row that differs from
 // whole vectors only where the destination lies ahead of a source by less than one vector: the vector would
-// read pixels that the one-pixel form has already written. The walkers notice that, and nobody else needs to.
+// read pixels that the one-pixel form has already written. The walkers notice that.
 #pragma once
 
 #include "frame/clip.hpp"

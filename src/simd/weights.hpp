@@ -1,4 +1,4 @@
-// Weights by alpha: the `AlphaWeightTable` of a call with an opacity.
+// Weights under an opacity: one for all pixels, or by their alpha, and the multiplier that stands for a table of these.
 #pragma once
 
 #include <cstdint>
@@ -6,6 +6,13 @@
 #include "frame/numbers.hpp"
 
 namespace tessaro {
+
+// An opacity as calls take it: above 1 counts as 1; false when it is negative or not a number.
+inline bool usable_opacity(float& opacity) {
+  if (opacity > 1.0f) opacity = 1.0f;
+  return opacity >= 0.0f;
+}
+inline uint32_t constant_weight(float opacity) { return static_cast<uint32_t>(trunc32(opacity * 256.0f)); }
 
 // The weight, 0..256, of a pixel with this alpha (0..255) under an opacity of 0..1. The factor is a little
 // above 1 / 255, so that full opacity gives 256 for alpha 255, and the alpha itself below it.

@@ -89,6 +89,15 @@ void blur_in_order(uint8_t* dst, ptrdiff_t dst_step, const uint8_t* src, ptrdiff
   }
 }
 
+// How far the destination lies ahead of its source, as far as memory that they share goes.
+ptrdiff_t distance(const AreaPair& n) {
+  return static_cast<ptrdiff_t>(reinterpret_cast<uintptr_t>(n.dst) - reinterpret_cast<uintptr_t>(n.src));
+}
+bool rows_meet(const AreaPair& n) {
+  const auto ahead = static_cast<uintptr_t>(distance(n)), row = 4 * static_cast<uintptr_t>(n.width);
+  return ahead < row || 0 - ahead < row;
+}
+
 // Rows: sums from the start of the row, then differences of them.
 void blur_rows(AreaPair n, ptrdiff_t r, bool loop) {
   const BlurKernels& k = kernels<BlurKernels>();
@@ -99,9 +108,7 @@ void blur_rows(AreaPair n, ptrdiff_t r, bool loop) {
   for (; n.height > 0; --n.height, n.dst += n.dst_pitch, n.src += n.src_pitch) {
     // A whole row is read before it is written. In order, pixel i + r is read before pixel i is written, so that only
     // a destination further ahead of its source than that, or one that a loop comes back to, makes a difference.
-    const auto dst = reinterpret_cast<intptr_t>(n.dst), src = reinterpret_cast<intptr_t>(n.src);
-    const bool meet = dst < src + 4 * n.width && src < dst + 4 * n.width;
-    if (!sums || (meet && (loop || dst - src > 4 * r))) {
+    if (const ptrdiff_t apart = distance(n); !sums || (rows_meet(n) && (loop || apart > 4 * r))) {
       blur_in_order(n.dst, 4, n.src, 4, n.width, r, loop);
       continue;
     }
@@ -132,8 +139,8 @@ void blur_rows(AreaPair n, ptrdiff_t r, bool loop) {
 // so that all columns may move down together.
 bool columns_apart(const AreaPair& n) {
   if (!rows_apart(dst_of(n))) return false;
-  const auto apart = reinterpret_cast<intptr_t>(n.dst) - reinterpret_cast<intptr_t>(n.src);
-  return !share_memory(dst_of(n), src_of(n)) || (n.dst_pitch == n.src_pitch && apart % n.dst_pitch == 0);
+  return !share_memory(dst_of(n), src_of(n)) ||
+         (n.dst_pitch == n.src_pitch && distance(n) % n.dst_pitch == 0);
 }
 
 // Columns: one running sum each, all of them moving down a row at a time. False when there is no memory for it.
@@ -264,9 +271,7 @@ void scale_rows(AreaPair n, int32_t num, int32_t den) {
   for (; n.height > 0; --n.height, n.dst += n.dst_pitch, n.src += n.src_pitch) {
     // A whole row is read before it is written. In order, every pixel is read before its own place is written, so that
     // only a destination on the side where reading has yet to come makes a difference.
-    const auto dst = reinterpret_cast<intptr_t>(n.dst), src = reinterpret_cast<intptr_t>(n.src);
-    const bool meet = dst < src + 4 * n.width && src < dst + 4 * n.width;
-    if (!sums || !parts || !places || (meet && (backward ? dst < src : dst > src))) {
+    if (!sums || !parts || !places || (rows_meet(n) && (backward ? distance(n) < 0 : distance(n) > 0))) {
       scale_in_order(n.dst, 4, n.src, 4, n.width, num, den);
       continue;
     }

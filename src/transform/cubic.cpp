@@ -20,20 +20,18 @@ struct Taps {
   int32_t first;
   double weights[4];
 
-  Taps() = default;
-  Taps(int32_t i, double ratio) {
-    const double at = static_cast<double>(i) * ratio;
-    const int32_t whole = trunc32(at);
-    const double t = at - static_cast<double>(whole);
-    *this = {whole - 1, {kernel(1.0 + t), kernel(t), kernel(1.0 - t), kernel(2.0 - t)}};
-  }
-  Taps(int32_t f, const double (&w)[4]) : first(f), weights{w[0], w[1], w[2], w[3]} {}
   // All within the source and with the usual signs; rounding may say otherwise at a lobe's end.
   bool inner(int64_t size) const {
     const double* w = weights;
     return first >= 0 && first + 3 < size && w[0] <= 0.0 && w[1] >= 0.0 && w[2] >= 0.0 && w[3] <= 0.0;
   }
 };
+Taps taps_at(int32_t i, double ratio) {
+  const double at = static_cast<double>(i) * ratio;
+  const int32_t whole = trunc32(at);
+  const double t = at - static_cast<double>(whole);
+  return {whole - 1, {kernel(1.0 + t), kernel(t), kernel(1.0 - t), kernel(2.0 - t)}};
+}
 
 // A destination of one pixel samples the first column or row.
 double ratio_of(int32_t from, int32_t to) {
@@ -55,18 +53,17 @@ uint32_t sample(const ImageView& s, const Taps& column, const Taps& row) {
 
 // Columns of the destination, so many that they stay in the nearest cache. Those within the source go together, in runs.
 void resize_strip(const ImageView& d, const ImageView& s, int32_t left, int32_t width, double rx, double ry) {
-  Taps columns[strip];
   bool inner[strip];
   int32_t first[strip];
   double weights[4][strip];
   for (int32_t x = 0; x < width; ++x) {
-    columns[x] = Taps(left + x, rx);
-    inner[x] = columns[x].inner(s.width);
-    first[x] = columns[x].first;
-    for (int32_t k = 0; k < 4; ++k) weights[k][x] = columns[x].weights[k];
+    const Taps column = taps_at(left + x, rx);
+    inner[x] = column.inner(s.width);
+    first[x] = column.first;
+    for (int32_t k = 0; k < 4; ++k) weights[k][x] = column.weights[k];
   }
   for (int32_t y = 0; y < d.height; ++y) {
-    const Taps row(y, ry);
+    const Taps row = taps_at(y, ry);
     CubicRow source;
     const bool inner_row = row.inner(s.height);
     for (int32_t k = 0; inner_row && k < 4; ++k) {
@@ -77,7 +74,7 @@ void resize_strip(const ImageView& d, const ImageView& s, int32_t left, int32_t 
       int32_t end = x;
       while (inner_row && end < width && inner[end]) ++end;
       if (end == x) {
-        d.set(left + x, y, sample(s, columns[x], row));
+        d.set(left + x, y, sample(s, taps_at(left + x, rx), row));
         ++x;
         continue;
       }
@@ -98,7 +95,7 @@ extern "C" int32_t TESSARO_CALL BBILinear(ImageRecord* dst, const ImageRecord* s
   if (!rows_apart(to) || share_memory(to, from)) {
     // Pixel by pixel: what is written may be sampled or written again.
     for (int32_t y = 0; y < d.height; ++y)
-      for (int32_t x = 0; x < d.width; ++x) d.set(x, y, sample(s, Taps(x, rx), Taps(y, ry)));
+      for (int32_t x = 0; x < d.width; ++x) d.set(x, y, sample(s, taps_at(x, rx), taps_at(y, ry)));
     return status_done;
   }
   for (int32_t x = 0; x < d.width; x += strip)

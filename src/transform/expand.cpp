@@ -25,10 +25,8 @@ Stretch stretch_of(const ImageView& d, const ImageView& s, const ScaledBlit& r) 
                .sh = static_cast<int32_t>(r.sh),
                .shared = false,
                .columns = nullptr};
-  // Nor may rows that overlap one another be written but one pixel after another.
-  const ptrdiff_t row = 4 * static_cast<ptrdiff_t>(n.dw);
-  n.shared = share_memory({n.dst, n.dst_pitch, n.dw, n.dh}, {s.at(r.sx, r.sy), n.src_pitch, n.sw, n.sh}) ||
-             (n.dst_pitch < row && n.dst_pitch > -row);
+  const Area to = {n.dst, n.dst_pitch, n.dw, n.dh};
+  n.shared = !rows_apart(to) || share_memory(to, {s.at(r.sx, r.sy), n.src_pitch, n.sw, n.sh});
   return n;
 }
 

@@ -17,7 +17,7 @@ struct Stretch {
   const uint8_t* src;
   ptrdiff_t src_pitch;
   int32_t dw, dh, sw, sh;
-  // The areas have bytes in common: a source pixel must be read when its turn comes, not before.
+  // The areas have bytes in common, or rows of the destination run into one another: one pixel after another.
   bool shared;
   int32_t* columns;  // room for columns_room(dw) numbers: the source columns; null where there is none
 };

@@ -49,9 +49,8 @@ int32_t interpolate(const ImageRecord* dst, const ImageRecord* src, const Scaled
 extern "C" {
 
 void TESSARO_CALL BBIAlphaTableCreate(uint32_t* table, float opacity, int32_t by_alpha) {
-  if (!(opacity >= 0.0f)) opacity = 0.0f;
-  if (opacity > 1.0f) opacity = 1.0f;
-  const auto constant = static_cast<uint32_t>(trunc32(opacity * 256.0f));
+  if (!usable_opacity(opacity)) opacity = 0.0f;
+  const uint32_t constant = constant_weight(opacity);
   for (uint32_t alpha = 0; alpha < 256; ++alpha)
     store<uint32_t>(table + alpha, by_alpha ? alpha_weight(alpha, opacity) : constant);
 }

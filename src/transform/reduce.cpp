@@ -32,7 +32,7 @@ int32_t cut_down(const ImageRecord* image, const uint8_t* matrix, uint32_t side,
   if (!clip_whole(image, n)) return status_nothing;
   DitherRow rows[8];
   for (uint32_t y = 0; y < side; ++y)
-    for (uint32_t x = 0; x < 24; ++x) rows[y].at[x] = (matrix[y * side + x % side] ^ flip) * 0x010101u;
+    for (uint32_t x = 0; x < 16; ++x) rows[y].at[x] = (matrix[y * side + x % side] ^ flip) * 0x010101u;
   for (ptrdiff_t y = 0; y < n.height; ++y)
     dither(n.at + y * n.pitch, static_cast<size_t>(n.width), rows[static_cast<size_t>(y) % side]);
   return status_done;

@@ -8,10 +8,9 @@
 
 namespace tessaro {
 
-// Thresholds of one row, repeated in blue, green and red; 16 more than the longest pattern, so that a vector may
-// start at any of its first 8 columns.
+// Thresholds of one row, repeated in blue, green and red: as many as the longest vector.
 struct DitherRow {
-  uint32_t at[24];
+  uint32_t at[16];
 };
 
 // Where the colour and the alpha of a pixel come from.

@@ -48,10 +48,14 @@ struct Span {
 void check_boxes(uint32_t seed) {
   SCOPED_TRACE(seed);
   Random random(seed);
-  const int32_t most = seed % 40 == 0 ? 4500 : 70;
-  Image want = some_image(random, random.between(1, most), random.between(1, 12)), got = want;
-  const int32_t x = random.between(-20, 60), y = random.between(-8, 12), w = random.between(-2, most + 30),
-                h = random.between(-1, 30), tw = random.between(-1, 9), th = random.between(-1, 5);
+  const bool wide = seed % 40 == 0, high = seed % 40 == 1;
+  Image want = some_image(random, wide ? random.between(4000, 8000) : random.between(1, 70),
+                          high ? 200 : random.between(1, 12)),
+        got = want;
+  const int32_t x = random.between(-20, 60), y = random.between(-8, 12),
+                w = wide ? random.between(4090, 8100) : random.between(-2, 100),
+                h = high ? 190 : random.between(-1, 30), tw = random.between(-1, seed % 80 ? 9 : 5000),
+                th = random.between(-1, 5);
   const uint32_t mask = some_mask(random);
   uint32_t c[4];
   for (uint32_t& v : c) v = random.pixel();
@@ -149,8 +153,9 @@ const struct {
 
 void check_corner_shapes(uint32_t seed) {
   Random random(seed);
-  const int32_t most = seed % 40 == 0 ? 4500 : 70, reach = seed % 3 ? most + 20 : 12;
-  Image want = some_image(random, random.between(1, most), random.between(1, 12)), got = want;
+  const int32_t most = seed % 40 == 0 ? 8000 : 70, reach = seed % 3 ? most + 20 : 12;
+  Image want = some_image(random, random.between(seed % 40 ? 1 : 4000, most), random.between(1, 12)),
+        got = want;
   Image pattern(random.between(seed % 8 ? 2 : 0, 300), random.between(seed % 9 ? 1 : 0, seed % 2 ? 2 : 300));
   pattern.randomize(seed);
   Ends e{random.between(-20, reach), random.between(-9, 20), random.between(-20, reach),
@@ -172,10 +177,9 @@ void check_corner_shapes(uint32_t seed) {
 TEST(Shapes, EqualTheirFormulas) {
   for (const Forced backend : supported_backends()) {
     for (uint32_t seed = 0; seed < 400; ++seed) {
-      streamed_area = seed % 2 ? 64 : never;
+      const Streamed streamed(seed % 2 ? 64 : never);
       check_boxes(seed);
       check_corner_shapes(seed);
-      streamed_area = never;
       if (::testing::Test::HasFatalFailure()) return;
     }
     Image image(256, 256), pattern(256, 2);  // every pair of bytes

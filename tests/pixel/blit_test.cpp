@@ -96,7 +96,7 @@ TEST(Blit, LongRunsKeepTheOrder) {
   for ([[maybe_unused]] const Forced forced : supported_backends())
     for (const int32_t offset : {-1, 0, 1, 7, 3980})
       for (const int32_t height : {1, 3}) {
-        streamed_area = height == 1 ? 4200 : never;
+        const Streamed streamed(height == 1 ? 4200 : never);
         Image a(8190, height + 1);
         a.randomize(1);
         const int32_t from = offset < 0 ? -offset : 0;
@@ -106,7 +106,6 @@ TEST(Blit, LongRunsKeepTheOrder) {
         EXPECT_EQ(a.get(8189, height - 1), 0x12345678u);
         EXPECT_EQ(a.get(0, height), below);
       }
-  choose_backend();
 }
 
 TEST(Blit, RefusesBadFactors) {

@@ -111,6 +111,12 @@ class Forced {
   testing::ScopedTrace trace_;
 };
 
+// Areas of so many pixels are written past the caches, for the life of the object.
+struct Streamed {
+  explicit Streamed(ptrdiff_t pixels) { streamed_area = pixels; }
+  ~Streamed() { streamed_area = never; }
+};
+
 // Each of them in turn, while the body of the loop runs: for (const Forced backend : supported_backends()) ...
 struct supported_backends {
   struct Step {

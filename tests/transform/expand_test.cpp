@@ -137,7 +137,7 @@ void compare(uint32_t seed, int rounds, int32_t widest, const Call& call, const 
   for (const Forced backend : supported_backends()) {
     Random random(seed);
     for (int round = 0; round < rounds && !testing::Test::HasFatalFailure(); ++round) {
-      streamed_area = round % 7 < 3 ? 64 : never;
+      const Streamed streamed(round % 7 < 3 ? 64 : never);
       const Image dst = random_image(random, random.between(1, widest), random.between(1, 7));
       const Image src = random_image(random, random.between(1, widest), random.between(1, 7));
       const bool one = round % 3 == 0;
@@ -148,14 +148,13 @@ void compare(uint32_t seed, int rounds, int32_t widest, const Call& call, const 
           [&](Image& d, Image& s) { return model(d, s, c, a); });
     }
   }
-  choose_backend();
 }
 
 }  // namespace
 
 TEST(Expand, FollowsTheModel) {
   for (const auto& [rounds, widest] :
-       {std::pair{1500, 70}, {30, 2500}})  // wider than what is sampled at once
+       {std::pair{1500, 70}, {100, 6000}})  // wider than what is sampled at once
     for (int which = 0; which < 3; ++which)
       compare(
           static_cast<uint32_t>(which), rounds, widest,
