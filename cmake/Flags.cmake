@@ -1,5 +1,4 @@
 # Flags that every target shares (tessaro_flags) and those of the library's own code (tessaro_library_flags).
-include(CheckCXXCompilerFlag)
 
 add_library(tessaro_flags INTERFACE)
 # Results must not depend on the target or the vector unit: no contraction to fused multiply-add, no x87.

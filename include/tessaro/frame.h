@@ -13,8 +13,7 @@ extern "C" {
  * and SSE, 20 = MMX and SSE2 without SSE, 28 = MMX, SSE and SSE2. */
 TESSARO_API int32_t TESSARO_CALL GetCpuID(void);
 
-/* Sets the wide-path switch, which is 0 after loading, and returns flag. Kept for hosts that set it: the
- * operations that used to read it have one implementation, and their results never depended on it. */
+/* Returns flag. Kept for hosts that choose wide paths by it: no result depends on it. */
 TESSARO_API int32_t TESSARO_CALL MMX(int32_t flag);
 
 /* Returns x: lets a host see that the library is there. One function under two names. */
@@ -43,7 +42,8 @@ TESSARO_API uint32_t TESSARO_CALL GetLong(const void* base, int32_t index);
 TESSARO_API uint32_t TESSARO_CALL SetDWORD(void* base, int32_t index, uint32_t value);
 TESSARO_API uint32_t TESSARO_CALL SetLong(void* base, int32_t index, uint32_t value);
 
-/* Compares count bytes: 0 = equal, also when count is below 1; 1 = different. */
+/* Compares count bytes: 0 = equal, also when count is below 1; 1 = different. No page of memory behind that of the first
+ * difference is touched, so that count may reach beyond the end of what is there. */
 TESSARO_API int32_t TESSARO_CALL dllComp(const void* a, const void* b, int32_t count);
 
 /* Exclusive-ors (despite the name) a block of `rows` rows of `words` 32-bit words of src into dst, in order;
@@ -95,7 +95,7 @@ TESSARO_API int32_t TESSARO_CALL ThreadBegin(TessaroWorker function);
 
 /* Stops the worker after its current call, waits until it has ended, without a time limit, and returns 0; then
  * ThreadBegin may be called again. 1 = there is no worker. Called from within the worker's function it waits
- * for ever. */
+ * for ever. Two threads must not call it at the same moment. */
 TESSARO_API int32_t TESSARO_CALL ThreadKill(void);
 
 /* A function that is offered the messages of a hooked window: the message with its two parameters, and the

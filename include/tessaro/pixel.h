@@ -86,8 +86,8 @@ TESSARO_API int32_t TESSARO_CALL BBIBltKeyingFX(ImageRecord* dst, const ImageRec
                                                 int32_t keyed, int32_t level);
 
 /* Mixes s into d by its own alpha a. With wide off: a = 0 keeps d, a = 255 gives s, between them
- * (s * a + d * (255 - a)) >> 8, which darkens a little. With wide on (and a processor level of 4 or more):
- * (d * (256 - w) + s * w) >> 8 with w = floor(a * 256 / 255). The two may differ by one or two. */
+ * (s * a + d * (255 - a)) >> 8, which darkens a little. With wide on: (d * (256 - w) + s * w) >> 8 with
+ * w = floor(a * 256 / 255), where a byte may be greater by one. */
 TESSARO_API int32_t TESSARO_CALL BBIBltBlend(ImageRecord* dst, const ImageRecord* src, int32_t dx, int32_t dy,
                                              int32_t cx, int32_t cy, int32_t sx, int32_t sy, int32_t wide);
 

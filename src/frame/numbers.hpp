@@ -6,17 +6,12 @@
 
 namespace tessaro {
 
-inline constexpr int32_t int32_min = INT32_MIN;
-
 // Truncates toward zero; what does not fit (NaN included) gives the smallest integer, as the processor's own
 // conversion does.
 constexpr int32_t trunc32(double v) {
-  return v > -2147483649.0 && v < 2147483648.0 ? static_cast<int32_t>(v) : int32_min;
+  return v > -2147483649.0 && v < 2147483648.0 ? static_cast<int32_t>(v) : INT32_MIN;
 }
 constexpr int32_t trunc32(float v) { return trunc32(static_cast<double>(v)); }
-constexpr int64_t trunc64(double v) {
-  return v >= -9223372036854775808.0 && v < 9223372036854775808.0 ? static_cast<int64_t>(v) : INT64_MIN;
-}
 
 // 32-bit arithmetic that wraps.
 constexpr int32_t wrap32(int64_t v) {

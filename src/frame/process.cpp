@@ -10,9 +10,7 @@ namespace tessaro {
 
 namespace {
 
-int32_t cpu_level = 0;     // what GetCpuID reports
-int32_t cached_level = 0;  // 0 = not yet computed
-int32_t wide_switch = 0;   // the value last given to MMX
+int32_t cpu_level = 0;  // what GetCpuID reports
 
 uint32_t feature_flags() {
   unsigned a = 0, b = 0, c = 0, d = 0;
@@ -27,13 +25,8 @@ int32_t cpu_level_of(uint32_t flags) {
   return (bit(25) ? 12 : 4) + 16 * bit(26);
 }
 
-int32_t lazy_cpu_level() {
-  if (cached_level == 0) cached_level = cpu_level_of(feature_flags());
-  return cached_level;
-}
-
 void on_load() {
-  cpu_level = lazy_cpu_level();
+  cpu_level = cpu_level_of(feature_flags());
   choose_backend();
   seed_random(platform::tick_count());
 }
@@ -46,6 +39,6 @@ extern "C" {
 
 int32_t TESSARO_CALL GetCpuID(void) { return tessaro::cpu_level; }
 
-int32_t TESSARO_CALL MMX(int32_t flag) { return tessaro::wide_switch = flag; }
+int32_t TESSARO_CALL MMX(int32_t flag) { return flag; }
 
 }  // extern "C"

@@ -9,10 +9,8 @@ namespace tessaro {
 void on_load();
 void on_unload();
 
-// The processor level, computed on the first call: 2 or 3 without packed integers, 4 with MMX, plus 8 with
-// SSE and 16 with SSE2.
-int32_t lazy_cpu_level();
-// The level for the feature flags that the processor reports in EDX.
+// The processor level for the feature flags that the processor reports in EDX: 2 or 3 without packed integers, 4 with
+// MMX, plus 8 with SSE and 16 with SSE2.
 int32_t cpu_level_of(uint32_t flags);
 
 // Takes back the hooks that are left when the library goes.

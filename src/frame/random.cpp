@@ -92,12 +92,8 @@ void skip_random(int64_t n) {
 
 extern "C" uint32_t TESSARO_CALL GetRandom(uint32_t n) {
   const uint32_t y = tessaro::draw_random();
-#if defined(__x86_64__) || defined(__i386__)
   // A divisor of 0 faults as the processor's division does; the language would leave it undefined.
   uint32_t quotient = y, rest = 0;
   __asm__("divl %2" : "+a"(quotient), "+d"(rest) : "r"(n) : "cc");
   return rest;
-#else
-  return y % n;
-#endif
 }

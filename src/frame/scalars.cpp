@@ -12,8 +12,9 @@ namespace {
 
 template <class T>
 uint8_t* element(const void* base, int32_t index) {
-  return const_cast<uint8_t*>(static_cast<const uint8_t*>(base)) +
-         static_cast<ptrdiff_t>(index) * static_cast<ptrdiff_t>(sizeof(T));
+  // Hosts reach all of their memory from a base of 0.
+  return reinterpret_cast<uint8_t*>(reinterpret_cast<uintptr_t>(base) +
+                                    static_cast<uintptr_t>(index) * sizeof(T));
 }
 
 // The two string hashes mix their state alike, with different masks and factors.

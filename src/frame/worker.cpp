@@ -30,16 +30,17 @@ int32_t TESSARO_CALL ThreadBegin(TessaroWorker function) {
   callback = function;
   stop = 0;
   worker = platform::start_thread(work);
+  // The handle is read afresh each time: ThreadKill may close it meanwhile.
   while (platform::thread_runs(worker)) platform::yield();
   return 0;
 }
 
 int32_t TESSARO_CALL ThreadKill(void) {
-  const platform::Thread thread = worker;
+  platform::Thread thread = worker;
   if (thread == nullptr) return 1;
   stop = 1;
   platform::close_thread(thread);
-  worker = nullptr;
+  worker.compare_exchange_strong(thread, nullptr);
   return 0;
 }
 

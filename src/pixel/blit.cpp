@@ -101,7 +101,7 @@ int32_t TESSARO_CALL BBIBltKeyingFX(ImageRecord* dst, const ImageRecord* src, in
 int32_t TESSARO_CALL BBIBltBlend(ImageRecord* dst, const ImageRecord* src, int32_t dx, int32_t dy, int32_t cx,
                                  int32_t cy, int32_t sx, int32_t sy, int32_t wide) {
   const BlitKernels& k = kernels<BlitKernels>();
-  return blit(dst, src, dx, dy, cx, cy, sx, sy, wide && lazy_cpu_level() >= 4 ? k.blend_256 : k.blend_255);
+  return blit(dst, src, dx, dy, cx, cy, sx, sy, wide ? k.blend_256 : k.blend_255);
 }
 
 }  // extern "C"

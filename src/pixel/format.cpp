@@ -44,9 +44,11 @@ template <class Row>
 int32_t fill_bottom_up(ImageRecord* image, const void* bits, int32_t stride, const Row& row) {
   const ImageView view = ImageView::of(image);
   if (view.width < 1) return status_done;
-  for (int32_t y = 0; y < view.height; ++y)
-    row(view.at(0, y), bytes(bits) + static_cast<ptrdiff_t>(view.height - 1 - y) * stride,
+  for (int32_t y = 0; y < view.height; ++y) {
+    const auto below = static_cast<uintptr_t>(view.height - 1 - y) * static_cast<uintptr_t>(stride);
+    row(view.at(0, y), reinterpret_cast<const uint8_t*>(reinterpret_cast<uintptr_t>(bits) + below),
         static_cast<size_t>(view.width));
+  }
   return status_done;
 }
 

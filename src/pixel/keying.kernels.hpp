@@ -54,7 +54,7 @@ TESSARO_INLINE P filled(P here, P left, P right, P up, P down) {
 // pixel never counts. Only where rows run into one another pixels go one by one.
 void fill_keyed(const Area& n) {
   constexpr ptrdiff_t lanes = Px::lanes;
-  const ptrdiff_t vectors_end = n.pitch >= 4 * n.width || -n.pitch >= 4 * n.width ? n.width : 0;
+  const ptrdiff_t vectors_end = rows_apart(n) ? n.width : 0;
   uint8_t* row = n.at;
   for (ptrdiff_t y = 0; y < n.height; ++y, row += n.pitch) {
     const uint8_t* up = y > 0 ? row - n.pitch : row;

@@ -7,19 +7,17 @@ constinit ptrdiff_t streamed_area = never;
 
 Backend best_backend() {
   __builtin_cpu_init();
-  if (__builtin_cpu_supports("avx512f") && __builtin_cpu_supports("avx512bw") &&
-      __builtin_cpu_supports("avx512vl") && __builtin_cpu_supports("avx512dq") &&
-      __builtin_cpu_supports("bmi") && __builtin_cpu_supports("bmi2"))
-    return Backend::avx512;
-  if (__builtin_cpu_supports("avx2") && __builtin_cpu_supports("bmi") && __builtin_cpu_supports("bmi2") &&
-      __builtin_cpu_supports("popcnt"))
-    return Backend::avx2;
-  return Backend::sse2;
+  const bool avx2 = __builtin_cpu_supports("avx2") && __builtin_cpu_supports("bmi") &&
+                    __builtin_cpu_supports("bmi2") && __builtin_cpu_supports("popcnt");
+  const bool avx512 = avx2 && __builtin_cpu_supports("avx512f") && __builtin_cpu_supports("avx512bw") &&
+                      __builtin_cpu_supports("avx512vl") && __builtin_cpu_supports("avx512dq");
+  return avx512 ? Backend::avx512 : avx2 ? Backend::avx2 : Backend::sse2;
 }
 
 void choose_backend() {
   active_backend = best_backend();
-  if (__builtin_cpu_is("amd")) streamed_area = 4 << 20;  // 16 MiB: more than is found in a cache again
+  // 16 MiB: more than is found in a cache again.
+  streamed_area = __builtin_cpu_is("amd") ? ptrdiff_t{4} << 20 : never;
 }
 
 const char* name_of(Backend backend) {

@@ -6,8 +6,8 @@
 
 namespace {
 
-// From here on the processor's own string instructions fill faster than vectors, and Intel's copy faster too: they need
-// not fetch the lines that they overwrite.
+// From here on string instructions fill faster than vectors: they need not fetch the lines that they overwrite. Where areas
+// are not streamed, the C library's memmove copies faster too.
 constexpr ptrdiff_t long_row = 4096;
 
 // From this width on rows are worth a start of their own that aligns their stores.
@@ -30,6 +30,7 @@ class Streaming {
  private:
   bool on_;
 };
+
 // Pixels may start at any byte; where they can be aligned, so many stand before the first aligned vector.
 TESSARO_INLINE bool can_align(const uint8_t* row) { return reinterpret_cast<uintptr_t>(row) % 4 == 0; }
 TESSARO_INLINE size_t pixels_to_align(const uint8_t* row) {

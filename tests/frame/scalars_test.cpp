@@ -1,5 +1,9 @@
 #include <gtest/gtest.h>
 
+#ifndef _WIN32
+#include <sys/mman.h>
+#endif
+
 #include <cstring>
 #include <limits>
 #include <random>
@@ -106,6 +110,24 @@ TEST(Generator, DrawsTheTwisterWithItsFirstSeeding) {
   EXPECT_NE(first, second);
 }
 
+#ifndef _WIN32
+TEST(Scalars, ComparingTouchesNoPageBehindTheFirstDifference) {
+  const size_t page = 4096;
+  char* ends[2];
+  for (char*& end : ends) {
+    void* memory = mmap(nullptr, 2 * page, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    ASSERT_NE(memory, MAP_FAILED);
+    end = static_cast<char*>(memory) + page;
+    mprotect(end, page, PROT_NONE);
+  }
+  ends[0][-1] = 1;
+  EXPECT_EQ(dllComp(ends[0] - 4, ends[1] - 4, 1 << 20), 1);
+  ends[1][-3] = 1;
+  EXPECT_EQ(dllComp(ends[0] - 3, ends[1] - 4, 1 << 20), 1);
+  for (char* end : ends) munmap(end - page, 2 * page);
+}
+#endif
+
 TEST(Processor, Levels) {
   constexpr uint32_t cmov = 1u << 15, mmx = 1u << 23, sse = 1u << 25, sse2 = 1u << 26;
   for (const auto& [flags, level] : {std::pair{0u, 2},
@@ -115,7 +137,6 @@ TEST(Processor, Levels) {
                                      {mmx | sse2, 20},
                                      {mmx | sse | sse2, 28}})
     EXPECT_EQ(cpu_level_of(flags), level);
-  EXPECT_EQ(GetCpuID(), lazy_cpu_level());
   EXPECT_EQ(GetCpuID(), 28);  // every processor that the vector code runs on
 }
 

@@ -62,7 +62,7 @@ std::vector<Row> all_rows(const Bytes& table) {
   };
   const std::pair<float, uint32_t> factors[] = {{0.f, 0},   {0.3f, 76}, {0.999f, 255}, {1.f, 256},
                                                 {7.f, 256}, {-2.f, 0},  {NAN, 0}};
-  const float saturations[] = {0.f, 0.4f, 1.f, 2.5f, 63.99f, 64.f, 1e9f, -1.f, NAN};
+  const float saturations[] = {0.f, 0.4f, 1.f, 2.5f, 31.999f, 32.f, 63.99f, 64.f, 1e9f, -1.f, NAN};
   const std::pair<int, size_t> formats[] = {{8888, 4}, {888, 3}, {565, 2}, {555, 2}, {1555, 2}, {4444, 2}};
   size_t i = 0;
   for (const auto& [f, size] : formats) {
