@@ -52,11 +52,7 @@ void show_drawing(Gallery& gallery) {
   Picture scene(w, h);
   const auto step = [&](const char* title, const char* code, const char* notice,
                         const std::function<void()>& call) {
-    const Picture before = scene;
-    gallery.show(title, code, notice, scene, [&] {
-      scene = before;  // the call may be repeated to time it
-      call();
-    });
+    gallery.show(title, code, notice, scene, call);
   };
 
   step("Sky", "BBIDrawBox(scene, 0, 0, 640, 280, 0, 0xFF16264F, 0xFF3A2A5C, 0xFFE9A15C, 0xFFF4C98A);",

@@ -11,8 +11,7 @@ using gallery::Picture;
 int32_t pixels_of(const Picture& p) { return p.width() * p.height(); }
 
 // Packs a picture and unpacks it again.
-void there_and_back(const Picture& photo, Picture& shown, int32_t format) {
-  std::vector<uint8_t> packed(static_cast<size_t>(pixels_of(photo)) * 4);
+void there_and_back(const Picture& photo, std::vector<uint8_t>& packed, Picture& shown, int32_t format) {
   BBIBltToX(packed.data(), photo.pixels(), pixels_of(photo), format, 0, 1.0f);
   BBIBltToBBIGet(shown.pixels(), packed.data(), pixels_of(photo), format);
 }
@@ -33,27 +32,27 @@ void show_formats(Gallery& gallery) {
       {555, "555, two bytes", "Five bits each; greys stay grey, where 565 tints them."},
       {4444, "4444, two bytes",
        "Sixteen levels a channel: contours everywhere. What it gains is four bits of alpha."}};
+  std::vector<uint8_t> packed(static_cast<size_t>(n) * 4);
   for (const auto& f : formats) {
     Picture shown = photo;
     gallery.show(f.title,
                  "BBIBltToX(packed, pixels, n, " + std::to_string(f.format) +
                      ", 0, 1);\nBBIBltToBBIGet(pixels, packed, n, " + std::to_string(f.format) + ");",
-                 f.notice, shown, [&] { there_and_back(photo, shown, f.format); });
+                 f.notice, shown, [&] { there_and_back(photo, packed, shown, f.format); });
   }
   {
     Picture shown = photo;
-    std::vector<uint8_t> bits(static_cast<size_t>(n + 7) / 8);
+    const int stride = (photo.width() + 7) / 8;
+    std::vector<uint8_t> bits(static_cast<size_t>(stride * photo.height()));
     const uint32_t palette[2] = {0xFF203040, 0xFFF0E8D0};
-    gallery.show("One bit", "BBIBltTo1(row, pixels, w);  BBIBltTo32from1(image, bits, palette, stride);",
-                 "1 where the blue byte is at least 128, shown through a palette of two colours.", shown,
-                 [&] {
-                   const int stride = (photo.width() + 7) / 8;
-                   bits.resize(static_cast<size_t>(stride * photo.height()));
-                   for (int y = 0; y < photo.height(); ++y)  // the buffer is bottom-up
-                     BBIBltTo1(bits.data() + (photo.height() - 1 - y) * stride,
-                               photo.pixels() + y * photo.width(), photo.width());
-                   BBIBltTo32from1(shown, bits.data(), palette, stride);
-                 });
+    gallery.show(
+        "One bit", "BBIBltTo1(bits, pixels, w);  // each row\nBBIBltTo32from1(image, bits, palette, stride);",
+        "1 where the blue byte is at least 128, shown through a palette of two colours.", shown, [&] {
+          for (int y = 0; y < photo.height(); ++y)  // the buffer is bottom-up
+            BBIBltTo1(bits.data() + (photo.height() - 1 - y) * stride, photo.pixels() + y * photo.width(),
+                      photo.width());
+          BBIBltTo32from1(shown, bits.data(), palette, stride);
+        });
   }
   {
     Picture shown = photo;
@@ -62,7 +61,7 @@ void show_formats(Gallery& gallery) {
     for (uint32_t v = 0; v < 256; ++v)
       palette[v] = 0xFF000000 | v << 16 | (v * v / 255) << 8 | (v * v / 255 * v / 255);
     gallery.show("One byte, and a palette",
-                 "BBIBltTo8AsGray(bytes, pixels, n);  BBIBltTo32from8(image, bytes, palette, w);",
+                 "BBIBltTo8AsGray(bytes, pixels, n);\nBBIBltTo32from8(image, bytes, palette, w);",
                  "The blue channel of the photograph through a palette from black over red to white. The "
                  "buffer is read "
                  "bottom-up, which turns the picture over.",

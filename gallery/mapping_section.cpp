@@ -66,10 +66,8 @@ void show_maps(Gallery& gallery) {
   const auto show = [&](const char* title, const char* name, Map map, const Picture& src,
                         const Picture& table, const char* notice, const Picture& start) {
     Picture dst = start;
-    gallery.show(title, std::string(name) + "(dst, src, map, 0, 0, w, h, 0, 0);", notice, dst, [&] {
-      BBIBlt(dst, start, 0, 0, w, h, 0, 0);
-      map(dst, src, table, 0, 0, w, h, 0, 0);
-    });
+    gallery.show(title, std::string(name) + "(dst, src, map, 0, 0, w, h, 0, 0);", notice, dst,
+                 [&] { map(dst, src, table, 0, 0, w, h, 0, 0); });
   };
   const Picture vignette = with_alpha(photo, [](double x, double y) { return 1.3 - 1.9 * distance(x, y); });
   show("Tone curve", "BBIMapUC", BBIMapUC, photo, curve, "A map of one row is a curve for each channel.",
@@ -122,7 +120,7 @@ void show_stencils(Gallery& gallery) {
 
   const auto strip = [&](const char* title, const std::string& code, const char* notice, auto draw) {
     Picture all(frames * w + (frames - 1) * 4, h, 0xFFFFFFFF);
-    gallery.show(title, code, notice, all, [&] {
+    gallery.show(title, code + "  // five times", notice, all, [&] {
       for (int i = 0; i < frames; ++i) draw(all, i * (w + 4), static_cast<float>(i) / (frames - 1));
     });
   };
@@ -158,12 +156,7 @@ void show_stencils(Gallery& gallery) {
         "Signed colour", "BBIStencilAddsigned(dst, stencil, 0, 0, w, h, 0, 0, 1.0f, 0x00A08060);",
         "Red is raised by 65, blue lowered by 63 where the stencil is strong. Alpha falls with it: where the "
         "stencil is full, the picture is transparent.",
-        dst,
-        [&] {
-          BBIBlt(dst, first, 0, 0, w, h, 0, 0);
-          BBIStencilAddsigned(dst, stencil, 0, 0, w, h, 0, 0, 1.0f, 0x00A08060);
-        },
-        true);
+        dst, [&] { BBIStencilAddsigned(dst, stencil, 0, 0, w, h, 0, 0, 1.0f, 0x00A08060); }, true);
   }
 }
 

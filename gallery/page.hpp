@@ -48,9 +48,10 @@ class Gallery {
   virtual const Sound& voice() = 0;
 
   virtual void heading(const std::string& title, const std::string& text) = 0;
-  // Runs `call` and measures it, then shows the picture. `code` is the call as a host writes it; `notice` is
-  // what to look for. An empty `call` shows the picture as it is. Alpha is shown over a checkerboard when
-  // with_alpha is set, otherwise ignored.
+  // Runs `call` a few times, each time on the picture as it was handed in, notes the best time and shows the
+  // picture. `code` is the call as a host writes it; `notice` is what to look for. An empty `call` shows the
+  // picture as it is, without a time. Alpha is shown over a checkerboard when with_alpha is set, otherwise
+  // ignored.
   virtual void show(const std::string& title, const std::string& code, const std::string& notice,
                     Picture& picture, const std::function<void()>& call, bool with_alpha = false) = 0;
   // The same for a sound: a plot of the waveform and a player.

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cmath>
 #include <cstdlib>
 #include <cstring>
 #include <utility>
@@ -47,8 +48,10 @@ Picture Picture::fitted(int max_width, int max_height) const {
   const double scale =
       std::min({1.0, static_cast<double>(max_width) / width(), static_cast<double>(max_height) / height()});
   if (scale == 1.0) return *this;
-  Picture small(std::max(1, static_cast<int>(width() * scale)),
-                std::max(1, static_cast<int>(height() * scale)));
+  const auto scaled = [scale](int extent) {
+    return std::max(1, static_cast<int>(std::lround(extent * scale)));
+  };
+  Picture small(scaled(width()), scaled(height()));
   BBIExpandBlt(small, record(), 0, 0, small.width(), small.height(), 0, 0, width(), height(), 1.0f);
   return small;
 }

@@ -118,7 +118,7 @@ void show_scaling(Gallery& gallery) {
     Picture dst = photo;
     gallery.show("Four corner colours",
                  "BBIExpandColorBlt(dst, src, 0, 0, w, h, 0, 0, w2, h2, 0.6f, 0, 0xFF000000,\n"
-                 "                  0x00FF4000, 0x00FFE000, 0x000040FF, 0x0000C080, 0);",
+                 "    0x00FF4000, 0x00FFE000, 0x000040FF, 0x0000C080, 0);",
                  "The mask keeps only the sample's alpha: its colours are replaced by a gradient between "
                  "four corners, laid "
                  "over the photograph with opacity 0.6.",
@@ -166,12 +166,12 @@ void show_scaling(Gallery& gallery) {
          0.5f, 0, 0, white, 0, all, 0, 0, 0, 1);
 
   uint32_t table[256];
+  BBIAlphaTableCreate(table, 0.9f, 1);
   const auto render = [&](const char* title, const char* code, const char* notice, int32_t mode,
                           uint32_t tint) {
     Picture dst = photo;
+    const int size = std::min(w, h) * 9 / 10;
     gallery.show(title, code, notice, dst, [&] {
-      BBIAlphaTableCreate(table, 0.9f, 1);
-      const int size = std::min(w, h) * 9 / 10;
       BBILinearRender(dst, sprite, (w - size) / 2, (h - size) / 2, size, size, 0, 0, side, side, table, mode,
                       1, tint);
     });

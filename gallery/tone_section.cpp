@@ -19,10 +19,12 @@ void show_tone(Gallery& gallery) {
       "Each pixel of src is moved to the brightness that dst has there: shapes come from dst, hues from src.",
       tone, [&] { BBIBltTone(tone, second, 0, 0, w, h, 0, 0); });
   {
-    Picture sepia = first, tint(w, h, 0xFFC08040);
+    Picture sepia = first, tint(w, h);
     gallery.show("Toned", "BBIClear(src, 192, 128, 64, 255);\nBBIBltTone(dst, src, 0, 0, w, h, 0, 0);",
-                 "With a single colour as src: a toned print.", sepia,
-                 [&] { BBIBltTone(sepia, tint, 0, 0, w, h, 0, 0); });
+                 "With a single colour as src: a toned print.", sepia, [&] {
+                   BBIClear(tint, 192, 128, 64, 255);
+                   BBIBltTone(sepia, tint, 0, 0, w, h, 0, 0);
+                 });
   }
   for (const float factor : {1.0f, 4.0f}) {
     Picture mixed = first;
@@ -74,10 +76,12 @@ void show_levels(Gallery& gallery) {
   gallery.heading(
       "Automatic levels",
       "A photograph in thick haze. Each export measures where the levels of the channels begin and end, "
-      "leaving out 0.5 % of the pixels on both sides, and stretches them.");
+      "leaving out a two-hundredth of the pixels on both sides, and stretches them. BBIAutoLevelWB counts "
+      "each "
+      "pixel three times, once a channel, and so leaves out a third of that.");
   {
     Picture p = dull;
-    gallery.show("Before", "", "The haze has taken the contrast.", p, [] {});
+    gallery.show("Before", "", "The haze has taken the contrast.", p, {});
   }
   histogram(gallery, "Histogram before", "All levels lie close together in the middle.", dull);
   const struct {
@@ -97,10 +101,7 @@ void show_levels(Gallery& gallery) {
   for (const auto& row : rows) {
     Picture p = dull;
     gallery.show(row.title, std::string(row.name) + "(image, " + std::to_string(n / 200) + ");", row.notice,
-                 p, [&] {
-                   p = dull;
-                   row.run(p, n / 200);
-                 });
+                 p, [&] { row.run(p, n / 200); });
     if (row.run == BBIAutoLevelWB)
       histogram(gallery, "Histogram after BBIAutoLevelWB",
                 "The same shape, spread over all levels; the gaps are levels that nothing was mapped to.", p);

@@ -48,7 +48,7 @@ void show_blits(Gallery& gallery) {
        "Three and a half times louder: peaks saturate, as the flat tops of the plot show.",
        [](auto d, auto s, int32_t n) { waveBlt(d, s, 0, 0, n, 3.5f); });
   play(gallery, voice, "Moving average", "waveBltBlur(dst, src, 0, 0, frames, 12);",
-       "The mean of 25 frames: consonants dull, as through a wall. The time is that of any radius.",
+       "The mean of 25 frames: consonants dull, as through a wall.",
        [](auto d, auto s, int32_t n) { waveBltBlur(d, s, 0, 0, n, 12); });
   play(gallery, voice, "Echo by mixing", "waveBltAdd(dst, src, rate / 4, 0, frames, 0.5f);",
        "The voice a second time, a quarter of a second later and half as loud. The frames past the end are "
@@ -75,7 +75,7 @@ void show_blits(Gallery& gallery) {
     std::vector<uint8_t> coarse(from.samples.size());
     const WaveBuffer src = record_of(from), dst = record_of(to);
     const WaveBuffer eight = {waveFormatEnc(8, from.channels, from.rate), src.count, coarse.data()};
-    gallery.play("Through 8 bits", "waveFormat(eight, src);  waveFormat(dst, eight);",
+    gallery.play("Through 8 bits", "waveFormat(eight, src);\nwaveFormat(dst, eight);",
                  "256 levels: the hiss under quiet passages is what was rounded away.", to, [&] {
                    waveFormat(&eight, &src);
                    waveFormat(&dst, &eight);
@@ -159,6 +159,7 @@ void show_effects(Gallery& gallery) {
         "silence lets the tail ring out. Plug in headphones.",
         to, [&] {
           int32_t frame = 0, position = 0;
+          std::fill(ring.begin(), ring.end(), 0.0);  // what the run before left
           while (frame < dst.count)
             waveEffectReverbA1(&dst, &frame, &echoes, &position, 4096, 8.0, 1200, 1, taps, table.data());
         });

@@ -76,16 +76,14 @@ void show_keys(Gallery& gallery) {
     Picture framed(w + 80, h + 60, 0xFF204060);
     BBIBlt(framed, photo, 50, 20, w, h, 0, 0);
     int32_t box[4];
+    const auto trim = [&] { BBITrim(framed, 0, 0xFFFFFFFF, 0xFF204060, box, box + 1, box + 2, box + 3); };
+    trim();
+    Picture shown = framed;
+    BBIBltColor(shown, box[0] - 3, box[1] - 3, box[2] + 6, box[3] + 6, 0, 0, 0xFFFFE040);
+    BBIBlt(shown, framed, box[0], box[1], box[2], box[3], box[0], box[1]);
     gallery.show("Trim", "BBITrim(image, 0, 0xFFFFFFFF, 0xFF204060, &left, &top, &width, &height);",
-                 "The bright frame is drawn around the content that was found in the plain surface.", framed,
-                 [&] {
-                   BBITrim(framed, 0, 0xFFFFFFFF, 0xFF204060, box, box + 1, box + 2, box + 3);
-                   const int32_t right = box[0] + box[2], bottom = box[1] + box[3];
-                   BBIBltColor(framed, box[0] - 3, box[1] - 3, box[2] + 6, 3, 0, 0, 0xFFFFE040);
-                   BBIBltColor(framed, box[0] - 3, bottom, box[2] + 6, 3, 0, 0, 0xFFFFE040);
-                   BBIBltColor(framed, box[0] - 3, box[1], 3, box[3], 0, 0, 0xFFFFE040);
-                   BBIBltColor(framed, right, box[1], 3, box[3], 0, 0, 0xFFFFE040);
-                 });
+                 "The bright frame is drawn around the content that was found in the plain surface.", shown,
+                 trim);
   }
 }
 
@@ -120,10 +118,8 @@ Picture maze(int cells_x, int cells_y, int cell, uint32_t ground) {
 }
 
 void show_fills(Gallery& gallery) {
-  gallery.heading(
-      "Flood fill and colour counts",
-      "A fill takes the pixels that are connected by their sides and equal in all 32 bits. The time under "
-      "the pictures does not depend on how winding the way is.");
+  gallery.heading("Flood fill and colour counts",
+                  "A fill takes the pixels that are connected by their sides and equal in all 32 bits.");
   int32_t box[4];
   Picture m = maze(48, 32, 10, 0xFFF0E8D0);
   BBIBltColor(m, 24 * 10, 16 * 10, 11, 11, 0, 0, 0xFFC03030);
@@ -140,7 +136,6 @@ void show_fills(Gallery& gallery) {
                "one colour "
                "takes a colour of its own.",
                flat, [&] {
-                 flat = photo;
                  BBIClearMask(flat, 0, 0, 0, 0, 0xFFE0E0E0);
                  uint32_t colour = 0xFF000000;
                  for (int y = 10; y < flat.height(); y += 20)
