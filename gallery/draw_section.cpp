@@ -1,4 +1,5 @@
 // A scene that uses every drawing routine, built up in steps.
+#include <cmath>
 #include <string>
 
 #include "page.hpp"
@@ -36,7 +37,7 @@ Picture wheel_palette() {
         return h < 60 ? 255 * h / 60 : h < 180 ? 255 : h < 240 ? 255 * (240 - h) / 60 : 0;
       };
       const auto fade = [&](int v) { return static_cast<uint32_t>(v + (255 - v) * x / 127); };
-      const bool spoke = y % 30 == 0 && x < 100;
+      const bool spoke = y % 30 * (128 - x) < 300 && x < 100;  // equally wide all along
       palette.pixels()[y * 128 + x] =
           spoke ? 0xFF202020 : 0xFF000000 | fade(wave(120)) << 16 | fade(wave(0)) << 8 | fade(wave(240));
     }
@@ -120,45 +121,47 @@ void show_drawing(Gallery& gallery) {
        "The palette as a polar map: its columns run from the rim to the centre, its rows around.",
        [&] { BBIDrawPolaCircle(scene, wheel, 300, 20, 390, 120); });
   const Picture rope = pixels(2, 1, {0xFFE0D0B0, 0xFF503820}), ray = pixels(2, 1, {0xE0FFF0B0, 0x00FFF0B0});
-  step("Lines",
-       "BBIDrawLine(scene, 20, 390, 600, 330, 0, 0xFFE8E8E0);\n"
-       "BBIDrawGradationLine(scene, rope, 318, 108, 338, 150);\n"
-       "BBIDrawAlphaLine(scene, ray, 490, 130, x, y);  // 24 times",
-       "A plain line with its steps, gradient ropes below the balloon, and antialiased rays that fade out by "
-       "the "
-       "alpha of their end colour.",
-       [&] {
-         for (int i = 0; i < 4; ++i) BBIDrawLine(scene, 20, 390 - i * 14, 600, 330 + i * 4, 0, 0xFFE8E8E0);
-         BBIDrawGradationLine(scene, rope, 318, 108, 338, 150);
-         BBIDrawGradationLine(scene, rope, 372, 108, 352, 150);
-         BBIDrawColorFill(scene, 337, 150, 17, 12, 0, 0xFF6B4423);
-         static constexpr int far[][2] = {{120, 0}, {112, 43}, {90, 79},  {57, 105}, {18, 119},
-                                          {80, 90}, {60, 10},  {118, 20}, {103, 62}};
-         for (const auto& [a, b] : far)
-           for (const int sx : {-1, 1})
-             for (const int sy : {-1, 1})
-               BBIDrawAlphaLine(scene, ray, 490 + sx * a * 2 / 3, 130 + sy * b * 2 / 3, 490 + sx * a,
-                                130 + sy * b);
-       });
-  step("Stroke repair: before", "BBIDrawLine(scene, …);  // a fence with gaps",
-       "Posts of one colour, and a rail with "
-       "every third pixel missing.",
-       [&] {
-         for (int x = 540; x < 636; x += 12) BBIDrawLine(scene, x, 300, x, 326, 0, 0xFFD8C8A0);
-         for (int x = 540; x < 630; ++x)
-           for (const int y : {305, 306, 307})
-             if (x % 3 || y != 306) BBIDrawColorFill(scene, x, y, 1, 1, 0, 0xFFD8C8A0);
-       });
-  step("Stroke repair: after",
-       "BBIDotThick(scene, 539, 306, 630, 306, 0, 0xFFD8C8A0);\n"
-       "BBILineThick(scene, 540, 319, 630, 319, 0, 0xFFD8C8A0, 4);",
-       "Holes with three neighbours of the colour are filled along one line; along the other, strokes of the "
-       "colour "
-       "grow towards each point of the line from four sides.",
-       [&] {
-         BBIDotThick(scene, 539, 306, 630, 306, 0, 0xFFD8C8A0);
-         BBILineThick(scene, 540, 319, 630, 319, 0, 0xFFD8C8A0, 4);
-       });
+  step(
+      "Lines",
+      "BBIDrawLine(scene, 20, 390, 600, 330, 0, 0xFFE8E8E0);  // and three more\n"
+      "BBIDrawGradationLine(scene, rope, 318, 108, 338, 150);\n"
+      "BBIDrawGradationLine(scene, rope, 372, 108, 352, 150);\n"
+      "BBIDrawColorFill(scene, 337, 150, 17, 12, 0, 0xFF6B4423);\n"
+      "BBIDrawAlphaLine(scene, ray, x, y, x2, y2);  // 24 times",
+      "Plain lines with their steps, gradient ropes below the balloon, and antialiased rays that fade out by "
+      "the alpha of their end colour.",
+      [&] {
+        for (int i = 0; i < 4; ++i) BBIDrawLine(scene, 20, 390 - i * 14, 600, 330 + i * 4, 0, 0xFFE8E8E0);
+        BBIDrawGradationLine(scene, rope, 318, 108, 338, 150);
+        BBIDrawGradationLine(scene, rope, 372, 108, 352, 150);
+        BBIDrawColorFill(scene, 337, 150, 17, 12, 0, 0xFF6B4423);
+        for (int i = 0; i < 24; ++i) {
+          const double turn = i * 3.14159265 / 12;
+          const auto at = [](int centre, double far) { return centre + static_cast<int>(std::lround(far)); };
+          BBIDrawAlphaLine(scene, ray, at(490, 80 * std::cos(turn)), at(130, 80 * std::sin(turn)),
+                           at(490, 120 * std::cos(turn)), at(130, 120 * std::sin(turn)));
+        }
+      });
+  Picture fence = scene.cut(535, 296, 96, 36);
+  gallery.show(
+      "Stroke repair: before", "BBIDrawLine(fence, x, 4, x, 30, 0, 0xFFD8C8A0);  // each post",
+      "A corner of the scene: posts of one colour, and a rail whose middle line lacks every third pixel.",
+      fence, [&] {
+        for (int x = 5; x < 95; x += 12) BBIDrawLine(fence, x, 4, x, 30, 0, 0xFFD8C8A0);
+        for (int x = 5; x < 95; ++x)
+          for (const int y : {9, 10, 11})
+            if (x % 3 != 2 || y != 10) BBIDrawColorFill(fence, x, y, 1, 1, 0, 0xFFD8C8A0);
+      });
+  gallery.show(
+      "Stroke repair: after",
+      "BBIDotThick(fence, 4, 10, 95, 10, 0, 0xFFD8C8A0);\n"
+      "BBILineThick(fence, 5, 23, 95, 23, 0, 0xFFD8C8A0, 4);",
+      "Holes with three neighbours of the colour are filled along one line; along the other, strokes "
+      "of the colour grow towards each point of the line from four sides.",
+      fence, [&] {
+        BBIDotThick(fence, 4, 10, 95, 10, 0, 0xFFD8C8A0);
+        BBILineThick(fence, 5, 23, 95, 23, 0, 0xFFD8C8A0, 4);
+      });
 }
 
 const gallery::Section section(400, "drawing", show_drawing);

@@ -11,15 +11,15 @@ using gallery::Picture;
 void show_blurs(Gallery& gallery) {
   const Picture photo = gallery.photo(0).fitted(480, 360);
   const int w = photo.width(), h = photo.height();
-  gallery.heading("Blur and one-axis scaling",
-                  "Box filters along the rows or the columns. Their cost does not depend on the radius; the "
-                  "time under each "
-                  "picture says so.");
-  {
+  gallery.heading("Blur and one-axis scaling", "Box filters along the rows or the columns.");
+  for (const int radius : {4, 100}) {
     Picture dst = photo;
-    gallery.show("Along the rows", "BBIBltUBlur(image, image, 0, 0, w, h, 0, 0, 20);",
-                 "In place. The window is cut at the ends, so that the rim neither darkens nor smears.", dst,
-                 [&] { BBIBltUBlur(dst, dst, 0, 0, w, h, 0, 0, 20); });
+    const std::string r = std::to_string(radius);
+    gallery.show("Along the rows, radius " + r, "BBIBltUBlur(image, image, 0, 0, w, h, 0, 0, " + r + ");",
+                 radius == 4
+                     ? "In place. The window is cut at the ends, so that the rim neither darkens nor smears."
+                     : "201 pixels a window instead of 9: the time hardly changes.",
+                 dst, [&] { BBIBltUBlur(dst, dst, 0, 0, w, h, 0, 0, radius); });
   }
   {
     Picture dst = photo;
@@ -41,22 +41,22 @@ void show_blurs(Gallery& gallery) {
     // A tile, blurred with both kinds of window, then laid twice side by side.
     const Picture tile = photo.cut(w / 4, h / 4, 120, 120);
     Picture dst(490, 240);
+    for (const bool loop : {false, true}) {
+      Picture half(120, 120), soft(120, 120);
+      (loop ? BBIBltUBlurLoop : BBIBltUBlur)(half, tile, 0, 0, 120, 120, 0, 0, 12);
+      (loop ? BBIBltVBlurLoop : BBIBltVBlur)(soft, half, 0, 0, 120, 120, 0, 0, 12);
+      for (const int x : {0, 120})
+        for (const int y : {0, 120}) BBIBlt(dst, soft, (loop ? 250 : 0) + x, y, 120, 120, 0, 0);
+    }
     gallery.show("A tile that still tiles",
-                 "BBIBltUBlur(tile, ...); BBIBltVBlur(tile, ...);  BBIBltUBlurLoop(tile, ...); "
-                 "BBIBltVBlurLoop(tile, ...);",
+                 "BBIBltUBlur(half, tile, 0, 0, 120, 120, 0, 0, 12);\nBBIBltVBlur(left, half, 0, 0, 120, "
+                 "120, 0, 0, 12);\n"
+                 "BBIBltUBlurLoop(half, tile, 0, 0, 120, 120, 0, 0, 12);\n"
+                 "BBIBltVBlurLoop(right, half, 0, 0, 120, 120, 0, 0, 12);",
                  "Left: the window is cut at the ends, and the seams between four copies show. Right: it "
-                 "wraps round, and they "
-                 "are gone.",
-                 dst, [&] {
-                   for (const bool loop : {false, true}) {
-                     Picture half(120, 120), soft(120, 120);
-                     (loop ? BBIBltUBlurLoop : BBIBltUBlur)(half, tile, 0, 0, 120, 120, 0, 0, 12);
-                     (loop ? BBIBltVBlurLoop : BBIBltVBlur)(soft, half, 0, 0, 120, 120, 0, 0, 12);
-                     for (const int x : {0, 120})
-                       for (const int y : {0, 120})
-                         BBIBlt(dst, soft, (loop ? 250 : 0) + x, y, 120, 120, 0, 0);
-                   }
-                 });
+                 "wraps round, and "
+                 "they are gone.",
+                 dst, {}, true);
   }
   {
     Picture dst = photo;
@@ -72,18 +72,20 @@ void show_blurs(Gallery& gallery) {
                  [&] { BBIBltVScale(dst, dst, 0, 0, w, h, 0, 0, 3, 2); });
   }
   {
-    Picture dst(w, h / 2 + h / 4 + h / 8 + 3);
-    gallery.show("A pyramid", "BBIBltHalfSize(dst, src, x, y, w / 2, h / 2, 0, 0);",
-                 "The mean of 2 x 2 pixels, again and again.", dst, [&] {
-                   Picture level = photo;
-                   for (int y = 0, k = 0; k < 3; ++k) {
-                     Picture smaller(level.width() / 2, level.height() / 2);
-                     BBIBltHalfSize(smaller, level, 0, 0, smaller.width(), smaller.height(), 0, 0);
-                     BBIBlt(dst, smaller, 0, y, smaller.width(), smaller.height(), 0, 0);
-                     y += smaller.height() + 1;
-                     level = smaller;
-                   }
-                 });
+    const int below = h / 2 + 1, last = below + h / 4 + 1;
+    Picture dst(w / 2, last + h / 8);
+    gallery.show(
+        "A pyramid",
+        "BBIBltHalfSize(dst, src, 0, 0, w / 2, h / 2, 0, 0);\n"
+        "BBIBltHalfSize(dst, dst, 0, below, w / 4, h / 4, 0, 0);\n"
+        "BBIBltHalfSize(dst, dst, 0, last, w / 8, h / 8, 0, below);",
+        "The mean of 2 x 2 pixels, again and again.", dst,
+        [&] {
+          BBIBltHalfSize(dst, photo, 0, 0, w / 2, h / 2, 0, 0);
+          BBIBltHalfSize(dst, dst, 0, below, w / 4, h / 4, 0, 0);
+          BBIBltHalfSize(dst, dst, 0, last, w / 8, h / 8, 0, below);
+        },
+        true);
   }
 }
 
@@ -125,15 +127,18 @@ void show_reduction(Gallery& gallery) {
     Picture dst = photo;
     gallery.show(
         title, code, notice, dst, [&] { choose(dst, photo, 0, 0); }, true);
+    Picture grey = dst;
+    gallery.show("… as grey", "BBIBltShiftAlpha(grey, dst, 0, 0, w, h, 0, 0);", "That alpha alone.", grey,
+                 [&] { BBIBltShiftAlpha(grey, dst, 0, 0, grey.width(), grey.height(), 0, 0); });
   };
   brightness("Alpha from the mean", "BBIChooseCA(dst, src, 0, 0);", "Dark places become transparent.",
              BBIChooseCA);
-  brightness("Alpha from luminance", "BBIChooseCATR(dst, src, 0, 0);", "Green counts most: the same by eye.",
+  brightness("Alpha from luminance", "BBIChooseCATR(dst, src, 0, 0);", "Green counts most, as for the eye.",
              BBIChooseCATR);
   {
     Picture dst = photo;
     gallery.show("A grey of any weights",
-                 "BBIChooseCATS(image, image, 2, 2, 1.0f, 0.0f, 0.0f); BBIChooseCA(image, image, 3, 3);",
+                 "BBIChooseCATS(image, image, 2, 2, 1.0f, 0.0f, 0.0f);\nBBIChooseCA(image, image, 3, 3);",
                  "First alpha from red alone, then that alpha as a grey.", dst, [&] {
                    BBIChooseCATS(dst, dst, 2, 2, 1.0f, 0.0f, 0.0f);
                    BBIChooseCA(dst, dst, 3, 3);
@@ -167,10 +172,10 @@ void show_region_paint(Gallery& gallery) {
        1, 0xFFFFFFFF, 0, 0);
   show("Fill with a two-colour border", "BBIPaintChoose(image, 2, 0xFFF0E0C0, key, 0xFFC02020, 0xFF202020);",
        "Red inside, black outside the edge.", 2, 0xFFF0E0C0, 0xFFC02020, 0xFF202020);
-  show("Outer outline", "BBIPaintChoose(image, 3, 0xFFFFFF00, key, 0, 0);",
+  show("Outline in the key area", "BBIPaintChoose(image, 3, 0xFFFFFF00, key, 0, 0);",
        "The key area loses a rim of one pixel.", 3, 0xFFFFFF00, 0, 0);
-  show("Inner outline", "BBIPaintChoose(image, 4, 0xFFFFFF00, key, 0, 0);", "The picture loses it instead.",
-       4, 0xFFFFFF00, 0, 0);
+  show("Outline in the picture", "BBIPaintChoose(image, 4, 0xFFFFFF00, key, 0, 0);",
+       "The picture loses it instead.", 4, 0xFFFFFF00, 0, 0);
   show("Specks removed", "BBIPaintChoose(image, 5, 0xFF404040, key, 200, 0);",
        "Regions of at most 200 pixels are painted grey; the large ones stay.", 5, 0xFF404040, 200, 0);
   {
@@ -198,8 +203,14 @@ void show_region_paint(Gallery& gallery) {
                  "Grey pixels of one level are filled from what surrounds them, pass after pass.", dst,
                  [&] { BBIPaintChoose(dst, 7, 0x78, 0x78, 0, 0); });
   }
-  show("Everything that has a colour", "BBIPaintChoose(image, 8, 0xFF000000, 0, 0, 0);",
-       "Only pure greys are left.", 8, 0xFF000000, 0, 0);
+  {
+    Picture dst = photo;
+    BBIBltToF(dst.pixels(), photo.pixels(), w * h, 8888, 0, 1.0f, 0.0f, 0, nullptr);
+    BBIBlt(dst, photo, w / 2, 0, w, h, w / 2, 0);
+    gallery.show("Everything that has a colour", "BBIPaintChoose(image, 8, 0xFFFFD040, 0, 0, 0);",
+                 "The left half had been made grey: only pure greys are left.", dst,
+                 [&] { BBIPaintChoose(dst, 8, 0xFFFFD040, 0, 0, 0); });
+  }
   {
     Picture dst = photo;
     gallery.show("A masked replace", "BBIPaintChoose(image, 10, 0xFFFFFFFF, 0x00C00000, 0x00C00000, 0);",

@@ -114,9 +114,8 @@ void show_stencils(Gallery& gallery) {
   };
   const Picture stencil = with_alpha(first, swirl);
   Picture grey(w, h);
-  BBIBltShiftAlpha(grey, stencil, 0, 0, w, h, 0, 0);
   gallery.show("The stencil", "BBIBltShiftAlpha(grey, stencil, 0, 0, w, h, 0, 0);",
-               "Its alpha, shown as grey.", grey, {});
+               "Its alpha, shown as grey.", grey, [&] { BBIBltShiftAlpha(grey, stencil, 0, 0, w, h, 0, 0); });
 
   const auto strip = [&](const char* title, const std::string& code, const char* notice, auto draw) {
     Picture all(frames * w + (frames - 1) * 4, h, 0xFFFFFFFF);

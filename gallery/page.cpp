@@ -102,9 +102,13 @@ class Page : public Gallery {
     // Small pictures are enlarged by a whole factor, so that every pixel is seen as a square.
     const int width = picture.width(), height = picture.height();
     const int zoom = std::max(1, std::min(480 / std::max(1, width), 360 / std::max(1, height)));
-    body_ += "<figure>\n<a href=\"" + file + "\"><img loading=\"lazy\" src=\"" + file + "\" alt=\"" +
-             escape(title) + "\"" + format(" width=\"%d\" height=\"%d\"", width * zoom, height * zoom) +
-             " class=\"" + (with_alpha ? "alpha " : "") + (zoom > 1 ? "pixels" : "") + "\"></a>\n";
+    const char* form = width <= 480 || width < 3 * height ? ""
+                       : width < 5 * height               ? " class=\"double\""
+                                                          : " class=\"wide\"";
+    body_ += std::string("<figure") + form + ">\n<a href=\"" + file + "\"><img loading=\"lazy\" src=\"" +
+             file + "\" alt=\"" + escape(title) + "\"" +
+             format(" width=\"%d\" height=\"%d\"", width * zoom, height * zoom) + " class=\"" +
+             (with_alpha ? "alpha " : "") + (zoom > 1 ? "pixels" : "") + "\"></a>\n";
     const std::string size =
         format("%d × %d", width, height) + (zoom > 1 ? format(", shown %d ×", zoom) : std::string());
     caption(title, code, notice, size, seconds);
@@ -130,9 +134,11 @@ class Page : public Gallery {
     body_ += "</figure>\n";
   }
 
-  void plot(const std::string& title, const std::string& notice, const std::vector<Series>& series) override {
+  void plot(const std::string& title, const std::string& notice, const std::string& x_axis,
+            const std::string& y_axis, const std::vector<Series>& series,
+            const std::vector<double>& marks) override {
     ++entries_;
-    body_ += "<figure class=\"double\">\n" + chart(series);
+    body_ += "<figure class=\"double\">\n" + chart(x_axis, y_axis, series, marks);
     caption(title, "", notice, "", -1);
     body_ += "</figure>\n";
   }
@@ -242,8 +248,9 @@ class Page : public Gallery {
     return (steps <= 1 ? 1 : steps <= 2 ? 2 : steps <= 5 ? 5 : 10) * power;
   }
 
-  static std::string chart(const std::vector<Series>& series) {
-    constexpr double left = 56, right = 708, top = 12, bottom = 232;
+  static std::string chart(const std::string& x_axis, const std::string& y_axis,
+                           const std::vector<Series>& series, const std::vector<double>& marks) {
+    constexpr double left = 56, right = 708, top = 26, bottom = 246;
     double low = INFINITY, high = -INFINITY;
     size_t count = 2;
     for (const Series& s : series) {
@@ -256,7 +263,12 @@ class Page : public Gallery {
     const double step = tick(high - low), across = std::max(1.0, tick(static_cast<double>(count - 1)));
     const auto px = [&](double x) { return left + (right - left) * x / static_cast<double>(count - 1); };
     const auto py = [&](double v) { return bottom - (bottom - top) * (v - low) / (high - low); };
-    std::string svg = "<svg class=\"plot\" viewBox=\"0 0 720 260\" role=\"img\">";
+    std::string svg = "<svg class=\"plot\" viewBox=\"0 0 720 290\" role=\"img\">";
+    svg += format("<text x=\"%.0f\" y=\"12\">", left) + escape(y_axis) + "</text>";
+    svg += format("<text x=\"%.0f\" y=\"%.0f\" class=\"x\">", (left + right) / 2, bottom + 38) +
+           escape(x_axis) + "</text>";
+    for (const double x : marks)
+      svg += format("<path class=\"mark\" d=\"M%.1f %.0fV%.0f\"/>", px(x), top, bottom);
     for (double v = std::ceil(low / step) * step; v <= high + step * 1e-9; v += step)
       svg += format(
           "<path class=\"grid\" d=\"M%.0f %.1fH%.0f\"/><text x=\"%.0f\" y=\"%.1f\" class=\"y\">%g</text>",

@@ -57,13 +57,14 @@ class Gallery {
   // The same for a sound: a plot of the waveform and a player.
   virtual void play(const std::string& title, const std::string& code, const std::string& notice,
                     Sound& sound, const std::function<void()>& call) = 0;
-  // A line plot: one or more named series over x = 0, 1, 2, ...
+  // A line plot: one or more named series over x = 0, 1, 2, ..., and dashed lines at the marks.
   struct Series {
     std::string name;
     std::vector<double> values;
   };
-  virtual void plot(const std::string& title, const std::string& notice,
-                    const std::vector<Series>& series) = 0;
+  virtual void plot(const std::string& title, const std::string& notice, const std::string& x_axis,
+                    const std::string& y_axis, const std::vector<Series>& series,
+                    const std::vector<double>& marks) = 0;
   // A table; the first row is the head.
   virtual void table(const std::string& title, const std::string& notice,
                      const std::vector<std::vector<std::string>>& rows) = 0;

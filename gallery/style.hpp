@@ -42,8 +42,8 @@ h3 { font-size: 1rem; margin: 0 0 .4rem; }
 .grid { display: grid; grid-template-columns: repeat(auto-fill, minmax(320px, 1fr)); gap: 1.4rem; align-items: start;
         grid-auto-flow: dense; }
 figure { margin: 0; background: var(--card); border: 1px solid var(--line); border-radius: 10px; overflow: hidden; }
-figure.wide { grid-column: 1 / -1; padding-top: 1rem; }
-figure.double { grid-column: span 2; padding-top: 1rem; }
+figure.wide { grid-column: 1 / -1; }
+figure.double { grid-column: span 2; }
 figure > a { display: grid; place-items: center; background: var(--code); }
 figure img { display: block; max-width: 100%; height: auto; }
 img.pixels { image-rendering: pixelated; }
@@ -59,16 +59,16 @@ audio { display: block; width: calc(100% - 2.2rem); margin: .9rem 1.1rem 0; heig
 svg { display: block; width: 100%; }
 svg.wave { height: 150px; background: var(--code); }
 svg.wave path { stroke-width: 1; fill: none; vector-effect: non-scaling-stroke; }
-svg.plot { max-width: 1100px; margin: 0 auto; font: 11px system-ui, sans-serif; }
+svg.plot { max-width: 1100px; margin: 1rem auto 0; font: 11px system-ui, sans-serif; }
 svg text { fill: var(--quiet); } svg text.y { text-anchor: end; } svg text.x { text-anchor: middle; }
-svg .grid { stroke: var(--line); } svg .line { fill: none; stroke-width: 1.6; stroke-linejoin: round; }
+svg .grid { stroke: var(--line); } svg .mark { stroke: var(--quiet); stroke-dasharray: 3 4; } svg .line { fill: none; stroke-width: 1.6; stroke-linejoin: round; }
 svg .c0 { stroke: var(--c0); } svg .c1 { stroke: var(--c1); } svg .c2 { stroke: var(--c2); }
 svg .c3 { stroke: var(--c3); } svg .c4 { stroke: var(--c4); } svg .c5 { stroke: var(--c5); }
 .legend { text-align: center; margin: .3rem 0 0; font-size: .85rem; }
 .legend span { margin: 0 .7rem; } .legend span::before { content: "━ "; }
 .legend .c0::before { color: var(--c0); } .legend .c1::before { color: var(--c1); } .legend .c2::before { color: var(--c2); }
 .legend .c3::before { color: var(--c3); } .legend .c4::before { color: var(--c4); } .legend .c5::before { color: var(--c5); }
-.table { overflow-x: auto; padding: 0 1.1rem; }
+.table { overflow-x: auto; padding: 1rem 1.1rem 0; }
 table { border-collapse: collapse; font-size: .88rem; font-variant-numeric: tabular-nums; }
 th, td { text-align: right; padding: .35rem .9rem; border-bottom: 1px solid var(--line); }
 th:first-child, td:first-child { text-align: left; padding-left: 0; }

@@ -58,15 +58,21 @@ void show_tone(Gallery& gallery) {
   }
 }
 
+// One strip a channel, each scaled to its highest level.
 void histogram(Gallery& gallery, const char* title, const char* notice, const Picture& p) {
-  std::vector<Gallery::Series> series{{"blue", std::vector<double>(256)},
-                                      {"green", std::vector<double>(256)},
-                                      {"red", std::vector<double>(256)}};
-  for (int i = 0; i < p.width() * p.height(); ++i)
-    for (int c = 0; c < 3; ++c) series[static_cast<size_t>(c)].values[p.pixels()[i] >> (8 * c) & 255] += 1;
-  for (auto& s : series)  // single peaks would flatten everything else
-    for (double& v : s.values) v = std::min(v, p.width() * p.height() / 60.0);
-  gallery.plot(title, notice, series);
+  constexpr int bar = 3, height = 72;
+  Picture shown(256 * bar, 3 * height, 0xFF202020);
+  const uint32_t colours[] = {0xFFF05050, 0xFF40B850, 0xFF5880F0};
+  for (int strip = 0; strip < 3; ++strip) {
+    int counts[256] = {};
+    for (int i = 0; i < p.width() * p.height(); ++i) ++counts[p.pixels()[i] >> (16 - 8 * strip) & 255];
+    const int highest = *std::max_element(counts, counts + 256);
+    for (int v = 0; v < 256; ++v) {
+      const int length = counts[v] * (height - 4) / highest;
+      BBIBltColor(shown, v * bar, (strip + 1) * height - length, bar, length, 0, 0, colours[strip]);
+    }
+  }
+  gallery.show(title, "", notice, shown, {});
 }
 
 void show_levels(Gallery& gallery) {
@@ -83,7 +89,10 @@ void show_levels(Gallery& gallery) {
     Picture p = dull;
     gallery.show("Before", "", "The haze has taken the contrast.", p, {});
   }
-  histogram(gallery, "Histogram before", "All levels lie close together in the middle.", dull);
+  histogram(gallery, "Histogram before",
+            "How often each level from 0, left, to 255 occurs in red, green and blue, each to its own scale. "
+            "All lie close together.",
+            dull);
   const struct {
     const char *title, *name, *notice;
     int32_t (*run)(ImageRecord*, int32_t);

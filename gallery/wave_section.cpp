@@ -172,27 +172,41 @@ void show_spectrum(Gallery& gallery) {
   gallery.heading("Waveforms: spectrum", "The transform of 4096 frames from the loudest place of the voice.");
   constexpr int32_t n = 4096;
   if (wave.count < n) return;
-  std::vector<double> re(n), im(n);
   size_t loudest = 0;
   for (size_t i = 0; i < voice.samples.size(); ++i)
     if (std::abs(voice.samples[i]) > std::abs(voice.samples[loudest])) loudest = i;
-  const int32_t start = std::clamp(static_cast<int32_t>(loudest) / voice.channels - n / 2, 0, wave.count - n);
-  std::vector<double> plain, blurred;
-  const auto levels = [&](std::vector<double>& into, const WaveBuffer& of) {
-    wavefft2(&of, start, n, re.data(), im.data());
-    for (size_t k = 1; k < n / 8; ++k) into.push_back(20 * std::log10(re[k] + 1e-3));
+  const auto channels = static_cast<size_t>(voice.channels);
+  const int32_t start = std::clamp(static_cast<int32_t>(loudest / channels) - n / 2, 0, wave.count - n);
+  // Without a window the ends of the block would leak into the notches.
+  const auto levels = [&](const Sound& of) {
+    Sound block = of;
+    block.samples.erase(block.samples.begin(), block.samples.begin() + start * voice.channels);
+    block.samples.resize(n * channels);
+    for (size_t i = 0; i < block.samples.size(); ++i) {
+      const double window = 0.5 - 0.5 * std::cos(2 * 3.14159265 * static_cast<double>(i / channels) / n);
+      block.samples[i] = static_cast<int16_t>(std::lround(block.samples[i] * window));
+    }
+    std::vector<double> re(n), im(n);
+    const WaveBuffer record = record_of(block);
+    wavefft2(&record, 0, n, re.data(), im.data());
+    re.resize(n / 8);
+    for (double& magnitude : re) magnitude = 20 * std::log10(magnitude + 1e-3);
+    return re;
   };
-  levels(plain, wave);
   Sound soft = voice;
   const WaveBuffer target = record_of(soft);
   waveBltBlur(&target, &wave, 0, 0, wave.count, 12);
-  levels(blurred, target);
-  gallery.plot("wavefft2(voice, start, 4096, magnitude, angle);",
-               "Magnitudes in decibels, up to an eighth of the sample rate. The comb is the voice's pitch "
-               "and its overtones; "
-               "the second line, the moving average of 25 frames, falls to notches where a whole number of "
-               "waves fits.",
-               {{"voice", plain}, {"after waveBltBlur", blurred}});
+  std::vector<double> plain = levels(voice), blurred = levels(soft);
+  const double highest = *std::max_element(plain.begin(), plain.end());
+  for (double& level : plain) level -= highest;
+  for (double& level : blurred) level -= highest;
+  gallery.plot(
+      "wavefft2(block, 0, 4096, magnitude, angle);",
+      "A Hann window lies over the block. The comb is the voice's pitch and its overtones; the second "
+      "line, the moving average of 25 frames, falls to notches where a whole number of waves fits "
+      "(dashed).",
+      "bin k, at k * " + std::to_string(voice.rate) + " / 4096 Hz", "dB, 0 is the highest bin",
+      {{"voice", plain}, {"after waveBltBlur", blurred}}, {n / 25.0, 2 * n / 25.0});
 }
 
 const gallery::Section blits(700, "waveform blits", show_blits);

@@ -49,22 +49,20 @@ void show_keys(Gallery& gallery) {
       [&] { BBIKeying(keyed, 0xFF00FF); }, true);
   {
     // A coarse stretch of a small part, with and without clean edges.
-    Picture small = keyed.cut(w / 2, h * 2 / 7, 60, 45), clean = small, shown(490, 180, 0xFF404040);
+    Picture small = keyed.cut(w / 2 - 30, h * 2 / 7, 60, 45), clean = small, shown(484, 180, 0xFF000000);
+    BBIKeyingFilter(clean);
+    int x = 0;
+    for (const Picture* from : {&small, &clean}) {
+      Picture halved(from->width() / 2, from->height() / 2);
+      BBIBltHalfSize(halved, *from, 0, 0, halved.width(), halved.height(), 0, 0);
+      BBIBltColor(shown, x, 0, 240, 180, 0, 0, 0xFFD8D8D8);
+      BBIExpandBlendBlt(shown, halved, x, 0, 240, 180, 0, 0, halved.width(), halved.height(), 1.0f);
+      x += 244;
+    }
     gallery.show("Clean edges", "BBIKeyingFilter(image);\nBBIBltHalfSize(dst, image, ...);",
                  "Left: scaled down after keying, the hidden magenta bleeds into the rim. Right: transparent "
-                 "pixels had "
-                 "taken the colour of their neighbours before.",
-                 shown, [&] {
-                   BBIKeyingFilter(clean);
-                   int x = 0;
-                   for (const Picture* from : {&small, &clean}) {
-                     Picture halved(from->width() / 2, from->height() / 2);
-                     BBIBltHalfSize(halved, *from, 0, 0, halved.width(), halved.height(), 0, 0);
-                     BBIExpandBlendBlt(shown, halved, x, 0, 240, 180, 0, 0, halved.width(), halved.height(),
-                                       1.0f);
-                     x += 250;
-                   }
-                 });
+                 "pixels had taken the colour of their neighbours before.",
+                 shown, {});
   }
   {
     Picture dst = photo;
@@ -158,16 +156,15 @@ void show_fills(Gallery& gallery) {
 
   Picture indexed = photo;
   BBIClearMask(indexed, 0, 0, 0, 0, 0xFFC0C0C0);
-  Picture palette_shown(16 * 28, 4 * 28, 0xFF808080);
   uint32_t palette[256];
-  gallery.show("Its palette", "n = BBIColorPalette(image, palette, 256);",
-               "The colours of the picture with two bits a channel, in the order in which they appear.",
-               palette_shown, [&] {
-                 const int32_t n = BBIColorPalette(indexed, palette, 256);
-                 for (int32_t i = 0; i < std::min(n, 64); ++i)
-                   BBIBltColor(palette_shown, i % 16 * 28 + 1, i / 16 * 28 + 1, 26, 26, 0, 0,
-                               palette[i] | 0xFF000000);
-               });
+  const int32_t colours = std::min(BBIColorPalette(indexed, palette, 256), 64);
+  Picture palette_shown(16 * 28, (colours + 15) / 16 * 28);
+  for (int32_t i = 0; i < colours; ++i)
+    BBIBltColor(palette_shown, i % 16 * 28 + 1, i / 16 * 28 + 1, 26, 26, 0, 0, palette[i] | 0xFF000000);
+  gallery.show(
+      "Its palette", "n = BBIColorPalette(image, palette, 256);",
+      "The colours of the picture with two bits a channel, in the order in which they appear.", palette_shown,
+      [&] { BBIColorPalette(indexed, palette, 256); }, true);
 }
 
 const gallery::Section turns(140, "mirrors and rotations", show_turns);
