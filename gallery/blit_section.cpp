@@ -58,11 +58,13 @@ void show_blits(Gallery& gallery) {
       "(d - s + 128) modulo 256: equal places are mid grey, large differences wrap round.");
   {
     Picture dst = first;
-    BBIBltXor2(dst, second, 0, 0, w, h, 0, 0);
     gallery.show(
         "… and back", "BBIBltXor2(dst, src, 0, 0, w, h, 0, 0);\nBBIBltXor3(dst, src, 0, 0, w, h, 0, 0);",
         "(d + s - 128) modulo 256 undoes the difference: the first photograph is back, every bit of it.", dst,
-        [&] { BBIBltXor3(dst, second, 0, 0, w, h, 0, 0); });
+        [&] {
+          BBIBltXor2(dst, second, 0, 0, w, h, 0, 0);
+          BBIBltXor3(dst, second, 0, 0, w, h, 0, 0);
+        });
   }
   two("Negative", "BBIBltNot", BBIBltNot, "~s: the negative of src.");
   two("Darker of the two", "BBIBltMin", BBIBltMin, "min(d, s), for each channel by itself.");

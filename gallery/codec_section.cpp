@@ -25,7 +25,7 @@ const Format formats[] = {
      "greys are "
      "cheap."},
     {"i of differences", "iEncoder", iEncoder, iDecoder, iDecoderSafe, true,
-     "The same behind ichshift4 and iwave11: smooth areas become small numbers, and cheap."},
+     "i behind ichshift4 and iwave11: smooth areas become small numbers, and cheap."},
     {"io", "ioEncoder", ioEncoder, ioDecoder, ioDecoderSafe, false,
      "Only exact repeats of a pixel cost less."},
     {"ib18Ex", "ib18EncoderEx", ib18EncoderEx, ib18DecoderEx, ib18DecoderExSafe, false,

@@ -166,12 +166,12 @@ void show_scaling(Gallery& gallery) {
          0.5f, 0, 0, white, 0, all, 0, 0, 0, 1);
 
   uint32_t table[256];
-  BBIAlphaTableCreate(table, 0.9f, 1);
   const auto render = [&](const char* title, const char* code, const char* notice, int32_t mode,
                           uint32_t tint) {
     Picture dst = photo;
     const int size = std::min(w, h) * 9 / 10;
     gallery.show(title, code, notice, dst, [&] {
+      if (mode == 0) BBIAlphaTableCreate(table, 0.9f, 1);  // the others go on with it
       BBILinearRender(dst, sprite, (w - size) / 2, (h - size) / 2, size, size, 0, 0, side, side, table, mode,
                       1, tint);
     });
