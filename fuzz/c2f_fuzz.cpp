@@ -7,7 +7,6 @@
 
 #include "tessaro/codec.h"
 
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size);
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   if (size < 2) return 0;
   const uint32_t count = data[0] | uint32_t{data[1]} << 8;

@@ -9,7 +9,6 @@
 
 // Between heap blocks of exactly the stated sizes. Where the one for streams from elsewhere finds the stream long enough, the
 // other must make the same of it without reading more.
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size);
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   if (size < 2) return 0;
   const uint32_t count = data[0] | uint32_t{data[1]} << 8;

@@ -67,7 +67,8 @@ TESSARO_API int32_t TESSARO_CALL ichshift4Decoder(const void* source, void* dest
  *
  * <name>DecoderSafe is for streams from elsewhere. It takes the stream's size in bytes and makes the same bytes,
  * or returns 1 when the stream ends before count bytes are made (destination then begins with those that were made;
- * inda, inabe and inabeEx make several at once, the last of which may be missing or wrong) or when count is 0. Whatever the stream holds, nothing is read behind it and nothing written behind count bytes.
+ * inda, inabe and inabeEx make several at once, the last of which may be missing or wrong) or when count is 0.
+ * Whatever the stream holds, nothing is read behind it and nothing written behind count bytes.
  *
  * Buffers need no alignment; source and destination must not overlap. */
 

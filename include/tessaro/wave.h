@@ -32,7 +32,7 @@ extern "C" {
  *
  * An invalid field in a format returns 1 and changes nothing; so does a parameter that is refused. Where neither is
  * so a frame count below 1 does nothing and returns 0, if not said otherwise. Rates are not compared: nothing
- * is resampled but by waveExpand. */
+ * is resampled but by waveExpand. Neither the record nor its samples need any alignment. */
 typedef struct WaveBuffer {
   int32_t format;
   int32_t count;
@@ -136,8 +136,8 @@ TESSARO_API int32_t TESSARO_CALL waveExpand(const WaveBuffer* dst, const WaveBuf
  * for the end of the block follows: gain * growth (limited to 1.0001..1.7, not-a-number counts as 1.0001), at least
  * 1 and at most 8, 4, 2 or 1 if a magnitude has bit 20, 21 or 22. The frames at *write_position are multiplied by a gain
  * that moves from the old to the new one in equal steps, and truncated; where a loud block follows, the first
- * products may not fit and then wrap; beyond 32 bits they count as -2^31. Both positions advance by count; the gains are written back. A count below 1
- * returns 1. */
+ * products may not fit and then wrap; beyond 32 bits they count as -2^31. Both positions advance by count; the gains
+ * are written back. A count below 1 returns 1. */
 TESSARO_API int32_t TESSARO_CALL waveEffectMaximizer24(const WaveBuffer* buffer, int32_t* look_position,
                                                        int32_t* write_position, int32_t count, double growth,
                                                        double* left_gain, double* right_gain);
@@ -170,10 +170,10 @@ TESSARO_API int32_t TESSARO_CALL waveNormal(const WaveBuffer* dst, const WaveBuf
  *   tap_table   30000 doubles: 10000 left gains, 10000 right gains, 10000 distances to the next tap in frames
  * level to taps are limited to these ranges.
  *
- * For every frame: ring frame (position + 199) * 0.005 is added to the frame, the ring frame at the position is cleared, and
- * (left + right) * level / 2 times the gains of each tap is added to the ring, split between the two frames
- * nearest to position + predelay + the distances before the tap. An echo is heard 199 frames before its
- * delay is over, and one of less than 200 frames never.
+ * For every frame: ring frame (position + 199) * 0.005 is added to the frame, the ring frame at the position is
+ * cleared, and (left + right) * level / 2 times the gains of each tap is added to the ring, split between the two
+ * frames nearest to position + predelay + the distances before the tap. An echo is heard 199 frames before its delay
+ * is over, and one of less than 200 frames never.
  *
  * Returns 1 and changes nothing for a count below 1, a buffer of 0 frames, or a ring of fewer frames or other bits. */
 TESSARO_API int32_t TESSARO_CALL waveEffectReverbA1(const WaveBuffer* buffer, int32_t* frame_position,

@@ -46,7 +46,7 @@ constexpr uint32_t scatter(uint32_t bytes) {
 
 template <unsigned kept>
 void pack(uint8_t* out, const uint8_t* block) {
-  constexpr unsigned bits = 8 * count_of(kept);
+  constexpr unsigned bits = 8 * count_of(kept), bytes = block_pixels * count_of(kept);
   uint64_t words[5] = {};
 #pragma GCC unroll 8
   for (unsigned i = 0; i < block_pixels; ++i) {
@@ -55,14 +55,14 @@ void pack(uint8_t* out, const uint8_t* block) {
     words[at / 64] |= v << shift;
     if (shift + bits > 64) words[at / 64 + 1] |= v >> (64 - shift) % 64;
   }
-  std::memcpy(out, words, bits);
+  std::memcpy(out, words, bytes);
 }
 
 template <unsigned kept>
 void unpack(uint8_t* block, const uint8_t* at, uint32_t base) {
-  constexpr unsigned bits = 8 * count_of(kept);
+  constexpr unsigned bits = 8 * count_of(kept), bytes = block_pixels * count_of(kept);
   uint64_t words[5] = {};
-  std::memcpy(words, at, bits);
+  std::memcpy(words, at, bytes);
 #pragma GCC unroll 8
   for (unsigned i = 0; i < block_pixels; ++i) {
     const unsigned from = i * bits, shift = from % 64;

@@ -250,7 +250,7 @@ int32_t decode(Source source, void* destination, uint32_t count) {
       out.repeat(last, size);
       continue;
     }
-    // The zero behind as many ones is part of the count.
+    // One more than the longest is asked for, so that the zero behind 32 ones is taken too; 33 ones count as 32.
     const unsigned short_width = in.read_ones(longest_field + 1);
     const Form form{short_width < longest_field ? short_width : longest_field, class_width[head.kind],
                     class_keep[head.kind]};

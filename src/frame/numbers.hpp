@@ -21,6 +21,12 @@ constexpr int32_t wrap_add(int32_t a, int32_t b) { return wrap32(static_cast<int
 constexpr int32_t wrap_sub(int32_t a, int32_t b) { return wrap32(static_cast<int64_t>(a) - b); }
 constexpr int32_t wrap_mul(int32_t a, int32_t b) { return wrap32(static_cast<int64_t>(a) * b); }
 
+// A parameter within its limits; not-a-number counts as too low.
+template <class T>
+constexpr T clamped(T v, T low, T high) {
+  return !(v >= low) ? low : v > high ? high : v;
+}
+
 // A colour component given as an integer of its own.
 constexpr uint32_t clamp_byte(int32_t v) { return v < 0 ? 0u : v > 255 ? 255u : static_cast<uint32_t>(v); }
 

@@ -9,12 +9,6 @@ using namespace tessaro;
 
 namespace {
 
-// Not-a-number counts as too low.
-float limited(float v, float low, float high) {
-  if (!(v >= low)) return low;
-  return v > high ? high : v;
-}
-
 // The runs of a blit at the scale of T.
 template <class T>
 struct Runs {
@@ -46,7 +40,7 @@ int32_t mix_scaled(const WaveBuffer* dst, const WaveBuffer* src, int32_t dst_sta
                    int32_t count, float gain, Operations& operations) {
   Wave to, from;
   if (!open_wave(dst, to) || !open_wave(src, from) || !(gain >= 0.0f)) return status_nothing;
-  mix(to, from, dst_start, src_start, count, operations, trunc32(limited(gain, 0.0f, 4.0f) * 256.0f));
+  mix(to, from, dst_start, src_start, count, operations, trunc32(clamped(gain, 0.0f, 4.0f) * 256.0f));
   return status_done;
 }
 
@@ -78,7 +72,7 @@ int32_t TESSARO_CALL waveBlt(const WaveBuffer* dst, const WaveBuffer* src, int32
                              int32_t src_start, int32_t count, float gain) {
   Wave to, from;
   if (!open_wave(dst, to) || !open_wave(src, from)) return status_nothing;
-  const int32_t factor = trunc32(limited(gain, 0.0f, 4.0f) * 64.0f);
+  const int32_t factor = trunc32(clamped(gain, 0.0f, 4.0f) * 64.0f);
   // Of 8 and 16-bit samples the lower 8 of the 24 bits are 0 on the way in and dropped on the way out.
   if (at_most_16_bits(to) && at_most_16_bits(from))
     amplify(Runs<int16_t>(to, from, dst_start, src_start), count, factor, stored16);
@@ -133,7 +127,7 @@ int32_t TESSARO_CALL waveBltAddNoise(const WaveBuffer* dst, const WaveBuffer* sr
                                      int32_t src_start, int32_t count, float amount) {
   Wave to, from;
   if (!open_wave(dst, to) || !open_wave(src, from)) return status_nothing;
-  const int32_t factor = trunc32(limited(amount, 0.0f, 1.0f) * 256.0f);
+  const int32_t factor = trunc32(clamped(amount, 0.0f, 1.0f) * 256.0f);
   const Runs<int16_t> run(to, from, dst_start, src_start, 2);
   int64_t drawn = 0;  // frames that have had their two draws
   transform(run.dst, run.src, count, false, [&](int16_t* out, const int16_t* in, int64_t i, int64_t n) {
@@ -153,7 +147,7 @@ int32_t TESSARO_CALL waveBltSin(const WaveBuffer* dst, const WaveBuffer* src, in
   Wave to, from;
   if (!open_wave(dst, to) || !open_wave(src, from)) return status_nothing;
   const Runs<int16_t> run(to, from, dst_start, src_start);
-  Oscillator oscillator(limited(amplitude, -1.0f, 1.0f) * 32768.0f, frequency, depth, rate);
+  Oscillator oscillator(clamped(amplitude, -1.0f, 1.0f) * 32768.0f, frequency, depth, rate);
   bool started = false;
   transform(run.dst, run.src, count, false, [&](int16_t* out, const int16_t* in, int64_t i, int64_t n) {
     if (!started) oscillator.skip(i);
@@ -193,9 +187,7 @@ int32_t TESSARO_CALL waveClear64(const WaveBuffer* dst, int32_t start, int32_t c
   Wave to;
   if (!open_wave(dst, to)) return status_nothing;
   const int64_t first = larger(start, 0), last = smaller(static_cast<int64_t>(start) + count, to.count);
-  if (first < last)
-    std::memset(to.at(first), to.stored == stored8 ? 128 : 0,
-                static_cast<size_t>(last - first) * to.frame_bytes());
+  if (first < last) to.silence(to.at(first), last - first);
   return status_done;
 }
 

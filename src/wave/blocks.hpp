@@ -75,9 +75,10 @@ class Side {
     const bool inside = at >= 0 && at < wave_.count;
     n = smaller(n, inside ? wave_.count - at : at < 0 ? smaller(-at, block_frames) : block_frames);
     if (inside && !apart) return wave_.at(at);
-    const size_t size = static_cast<size_t>(n) * wave_.frame_bytes();
-    inside ? std::memcpy(room, wave_.at(at), size)
-           : std::memset(room, wave_.stored == stored8 ? 128 : 0, size);
+    if (inside)
+      std::memcpy(room, wave_.at(at), static_cast<size_t>(n) * wave_.frame_bytes());
+    else
+      wave_.silence(room, n);
     return room;
   }
 

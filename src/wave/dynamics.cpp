@@ -27,12 +27,6 @@ double limit64(double peak) {
   return limit;
 }
 
-// Not-a-number counts as too low.
-double limited(double v, double low, double high) {
-  if (!(v >= low)) return low;
-  return v > high ? high : v;
-}
-
 // Calls see(samples, n) for the stored samples of the run that lie inside the buffer. Silence changes no peak.
 template <class T, class See>
 void look(const Side<T>& side, int64_t count, See see) {
@@ -109,7 +103,7 @@ int32_t TESSARO_CALL waveEffectMaximizer24(const WaveBuffer* buffer, int32_t* lo
                                            double* left_gain, double* right_gain) {
   Wave wave;
   if (!open_wave(buffer, wave) || count < 1) return status_nothing;
-  growth = limited(growth, 1.0001, 1.7);
+  growth = clamped(growth, 1.0001, 1.7);
   const DynamicsKernels& k = kernels<DynamicsKernels>();
 
   const Side<int32_t> seen(wave, load<int32_t>(look_position), 2);
@@ -142,7 +136,7 @@ int32_t TESSARO_CALL waveEffectMaximizer64(const WaveBuffer* dst, const WaveBuff
                                            double step, double* left_state, double* right_state) {
   Wave to, from;
   if (!open_wave(dst, to) || !open_wave(src, from) || count < 1) return status_nothing;
-  step = limited(step, 0.0, 9.9);
+  step = clamped(step, 0.0, 9.9);
   const DynamicsKernels& k = kernels<DynamicsKernels>();
 
   const Side<double> seen(from, load<int32_t>(look_position), 2);
@@ -187,7 +181,7 @@ int32_t TESSARO_CALL waveNormal(const WaveBuffer* dst, const WaveBuffer* src, in
   Wave to, from;
   if (!open_wave(dst, to) || !open_wave(src, from)) return status_nothing;
   // The level is never measured: the divisor is the greatest of 0.01 and two values that are at most 0.
-  const double gain = limited(static_cast<double>(target), 0.0, 1.0) / 0.01;
+  const double gain = clamped(static_cast<double>(target), 0.0, 1.0) / 0.01;
   scale(to, from, dst_start, src_start, count, gain);
   return status_done;
 }

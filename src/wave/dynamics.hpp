@@ -11,7 +11,7 @@ namespace tessaro {
 // Samples n at a time; tables are indexed by Stored. What out and in point to has no alignment.
 struct DynamicsKernels {
   // Stereo frames within one form times a gain that grows by step after every frame; gain is left at its next
-  // value. The last of the first is for a block's values; the second clamps. out may be in.
+  // value. ramp24's last entry is for a block's values; ramp64 clamps. out may be in.
   using Ramp = void (*)(uint8_t* out, const uint8_t* in, size_t frames, double gain[2], const double step[2]);
   Ramp ramp24[4], ramp64[4];
   // Lowers low and raises high to the extremes of the samples at even and at odd places; 8-bit ones without

@@ -48,9 +48,7 @@ void resample(const Wave& to, const Wave& from, double ratio, int32_t fine, Behi
     blend(out, in, static_cast<int32_t>(first), static_cast<int32_t>(i), static_cast<size_t>(n), ratio, fine);
     dst.write(i, n, out);
   }
-  if (inside < to.count)
-    std::memset(to.at(inside), to.stored == stored8 ? 128 : 0,
-                static_cast<size_t>(to.count - inside) * to.frame_bytes());
+  if (inside < to.count) to.silence(to.at(inside), to.count - inside);
 }
 
 }  // namespace

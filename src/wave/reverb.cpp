@@ -14,8 +14,6 @@ namespace {
 constexpr int64_t read_ahead = 199;
 constexpr double wet_level = 0.005;
 
-int32_t limited(int32_t v, int32_t low, int32_t high) { return v < low ? low : v > high ? high : v; }
-
 void clear_frames(uint8_t* ring, int64_t position, int64_t n) {
   std::memset(ring + 16 * position, 0, static_cast<size_t>(16 * n));
 }
@@ -41,14 +39,14 @@ extern "C" int32_t TESSARO_CALL waveEffectReverbA1(const WaveBuffer* buffer, int
                                                    int32_t count, double level, int32_t predelay,
                                                    int32_t spread, int32_t taps, const double* tap_table) {
   Wave wave, echoes;
-  if (count < 1 || ring->count < ring_frames) return status_nothing;
-  if (!open_wave(buffer, wave) || buffer->count == 0) return status_nothing;
+  if (count < 1 || load<WaveBuffer>(ring).count < ring_frames) return status_nothing;
+  if (!open_wave(buffer, wave) || load<WaveBuffer>(buffer).count == 0) return status_nothing;
   if (!open_wave(ring, echoes) || echoes.stored != stored64) return status_nothing;
   if (!(level > 0.0)) level = 0.0;
   if (level > 99.99) level = 99.99;
-  predelay = limited(predelay, 10, 88200);
-  spread = limited(spread, 1, 44100);
-  taps = limited(taps, 1, most_taps);
+  predelay = clamped(predelay, 10, 88200);
+  spread = clamped(spread, 1, 44100);
+  taps = clamped(taps, 1, static_cast<int32_t>(most_taps));
 
   const auto* table = reinterpret_cast<const uint8_t*>(tap_table);
   const double send = level * 0.5;

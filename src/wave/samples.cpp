@@ -65,8 +65,9 @@ double mean(double a, double b) { return (a + b) * 0.5; }
 
 namespace tessaro {
 
-bool open_wave(const WaveBuffer* record, Wave& wave) {
-  const int32_t channels = record->format & 7, bits = record->format & 248, rate = record->format >> 8;
+bool open_wave(const WaveBuffer* at, Wave& wave) {
+  const auto record = load<WaveBuffer>(at);
+  const int32_t channels = record.format & 7, bits = record.format & 248, rate = record.format >> 8;
   if (channels != 1 && channels != 2) return false;
   if (rate < 1000 || rate > 441000) return false;
   switch (bits) {
@@ -85,8 +86,8 @@ bool open_wave(const WaveBuffer* record, Wave& wave) {
     default:
       return false;
   }
-  wave.data = static_cast<uint8_t*>(record->data);
-  wave.count = record->count < 0 ? 0 : record->count;
+  wave.data = static_cast<uint8_t*>(record.data);
+  wave.count = record.count < 0 ? 0 : record.count;
   wave.lanes = channels;
   return true;
 }

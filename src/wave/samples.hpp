@@ -10,6 +10,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 
 #include "simd/dispatch.hpp"
 #include "tessaro/tessaro.h"
@@ -28,6 +29,9 @@ struct Wave {
   int lanes;  // channels
 
   size_t frame_bytes() const { return stored_bytes[stored] * static_cast<size_t>(lanes); }
+  void silence(uint8_t* to, int64_t frames) const {
+    std::memset(to, stored == stored8 ? 128 : 0, static_cast<size_t>(frames) * frame_bytes());
+  }
   uint8_t* at(int64_t frame) const {
     return data + static_cast<ptrdiff_t>(frame) * static_cast<ptrdiff_t>(frame_bytes());
   }
@@ -42,7 +46,8 @@ struct Wave {
 bool open_wave(const WaveBuffer* record, Wave& wave);
 
 // Adds a frame at the float scale to the one that is stored and saturates, each stored form in its own way:
-// 8-bit clamps only where the stored byte is below 128, 16-bit wraps and replaces only -32768, the others clamp.
+// 8-bit clamps only where the stored byte is below 128, 16-bit wraps and replaces only -32768, the others clamp. No export
+// mixes at that scale yet.
 void AddWave64(void* data, int32_t index, int32_t bits, int32_t channels, int32_t count, double left,
                double right);
 
@@ -86,8 +91,9 @@ struct SampleKernels {
   // s + (((noise modulo 65536 - 32768) * amount) >> 8)
   void (*noise16)(int16_t* d, const int16_t* s, size_t n, const uint32_t* noise, int32_t amount);
   void (*tone16)(int16_t* d, const int16_t* s, size_t frames, size_t lanes, const int32_t* tone);
-  // The moving average of pairs: sums[0] is the running sum before the first frame, those of the last `span`
-  // frames lie in front of it. Leaves sums[1..frames] behind.
+  // The moving average. running16: the first frame of sums is the running sum before the first frame of in, those of the
+  // last `span` frames lie in front of it; leaves the sums of all frames behind. mean_of_span: (ahead - behind) / span,
+  // truncated.
   void (*running16)(int32_t* sums, const int16_t* in, size_t frames, size_t lanes);
   void (*mean_of_span)(int16_t* out, const int32_t* ahead, const int32_t* behind, size_t n, int32_t span);
 };

@@ -50,7 +50,9 @@ TESSARO_INLINE Whole whole(Natural v) { return reinterpret_cast<Whole>(v); }
 TESSARO_INLINE Lanes real(Whole v) {  // which the compiler would do in two halves
   return reinterpret_cast<Lanes>(_mm512_cvtepi32_pd(reinterpret_cast<__m256i>(v)));
 }
-TESSARO_INLINE Whole truncated(Lanes v) { return __builtin_convertvector(v, Whole); }
+TESSARO_INLINE Whole truncated(Lanes v) {
+  return reinterpret_cast<Whole>(_mm512_cvttpd_epi32(reinterpret_cast<__m512d>(v)));
+}
 #else
 TESSARO_INLINE Lanes real(Whole v) {
   return {__builtin_convertvector(__builtin_shufflevector(v, v, 0, 1, 2, 3), Half),

@@ -25,7 +25,8 @@ TESSARO_INLINE constexpr Angle reduced(double a) {
   return {quarter, rest, (near - rest) + missed};
 }
 
-// Taylor series of the rest: at an eighth of a turn the first term left out is below 2^-62.
+// Taylor series of the rest: at an eighth of a turn the first term left out is below 2^-63 of the sine's and 2^-58 of the
+// cosine's.
 TESSARO_INLINE constexpr double sine_of_rest(Angle a) {
   const double z = a.rest * a.rest;
   const double series =

@@ -189,8 +189,8 @@ TEST(Blits, AgreeWithOneFrameAfterAnotherInEveryPairOfFormats) {
         }
 }
 
-TEST(Blits, EveryPairOfSixteenBitValuesMixesExactly) {
-  // All sources, in 24 bits the softest, against destinations at which sums and products turn over.
+TEST(Blits, EverySixteenBitSourceMixesExactly) {
+  // All sources, in 24-bit buffers the quietest 65536 codes, against destinations at which sums and products turn over.
   for (const int32_t bits : {16, 24}) {
     std::vector<uint8_t> source(3 * 65536), want = source, got = source;
     const Buffer s{source.data(), 65536, bits, 1}, d{want.data(), 65536, bits, 1};

@@ -1,4 +1,5 @@
 #include <cmath>
+#include <map>
 
 #include "models.hpp"
 #include "wave/ramp.hpp"
@@ -82,7 +83,7 @@ TEST(Dynamics, BothMaximizersStreamAsOneFrameAfterAnother) {
           const bool wild = random.between(0, 3) == 0;
           const int32_t look = random.between(-30, 300), write = random.between(-60, 30);
           const int32_t block = random.between(1, 700);
-          Gains mine = deep ? Gains{look, write, {-15, wild ? 0.0 : -14.5}}
+          Gains mine = deep ? Gains{look, write, {wild ? 1e3 : -15, wild ? 0.0 : -14.5}}
                             : Gains{look, write, {wild ? 1e9 : 1.2, wild ? -15.0 : 2.5}};
           Gains model = mine;
           expect_alike(
@@ -292,7 +293,8 @@ void transform_model(std::vector<long double>& re, std::vector<long double>& im)
   }
 }
 
-TEST(Spectrum, IsTheTransformToTwelveDigitsForEveryLength) {
+TEST(Spectrum, IsTheTransformToTwelveDigitsForEveryLengthOnEveryBackEndAlike) {
+  std::map<int32_t, std::vector<uint8_t>> first;
   for (const Forced backend : supported_backends())
     for (const int32_t n : {1,    2,    4,     8, 16, 32, 64, 128, 256,  512,  1024,
                             2048, 4096, 65536, 3, 6,  7,  12, 33,  1000, 1023, 1500}) {
@@ -322,6 +324,7 @@ TEST(Spectrum, IsTheTransformToTwelveDigitsForEveryLength) {
                                            want_im[k] - static_cast<long double>(load<double>(im + k))));
       }
       EXPECT_LT(worst, 1e-12L * largest) << n;
+      EXPECT_EQ(first.try_emplace(n, memory).first->second, memory) << n;
     }
 }
 
