@@ -2,7 +2,9 @@
 #include <map>
 
 #include "models.hpp"
+#include "wave/dynamics.hpp"
 #include "wave/ramp.hpp"
+#include "wave/samples.hpp"
 
 namespace tessaro::test {
 namespace {
@@ -119,7 +121,7 @@ TEST(Dynamics, ExtremePositionsAndStatesAreSafe) {
     for (const int32_t write : extreme_values)
       for (const int32_t count : {INT32_MIN, 0, 1, 90, INT32_MAX})
         for (const double gain : {1.0, -1e300, std::nan(""), static_cast<double>(INFINITY)})
-          arena.after([&](const Buffer& d, const Buffer& s) {
+          EXPECT_TRUE(arena.only_dst_differs(arena.after([&](const Buffer& d, const Buffer& s) {
             const WaveBuffer to = d.record(), from = s.record();
             for (const auto maximize : {maximize24, maximize64}) {
               Gains g{look, write, {gain, 3.0}};
@@ -127,7 +129,51 @@ TEST(Dynamics, ExtremePositionsAndStatesAreSafe) {
               EXPECT_EQ(g.look, count < 1 ? look : wrap_add(look, count));
               EXPECT_EQ(g.write, count < 1 ? write : wrap_add(write, count));
             }
-          });
+          })));
+}
+
+// Steps that fall halfway between two numbers, where the rounding of a sum depends on its last bit.
+TEST(Dynamics, RampsOfHalvedUnitsAddUpOnEveryBackEndAlike) {
+  for (const Forced backend : supported_backends())
+    for (const double gain : {0.5, 0.5 + 0x1p-53, 0.75 + 0x1p-53, 1.0, 1.0 + 0x1p-52, 1.5})
+      for (const double step : {0x1p-53, -0x1p-53, 0x3p-53, 0x3p-54, -0x3p-54, 0x5p-54}) {
+        const std::vector<double> in(64, 0.37);
+        std::vector<double> got(64), want(64);
+        const double steps[2] = {step, step};
+        double after[2] = {gain, gain}, model[2] = {gain, gain};
+        const auto run = [&](const DynamicsKernels& k, std::vector<double>& out, double gains[2]) {
+          k.ramp64[stored64](reinterpret_cast<uint8_t*>(out.data()),
+                             reinterpret_cast<const uint8_t*>(in.data()), 32, gains, steps);
+        };
+        run(kernels<DynamicsKernels>(), got, after);
+        run(KernelTables<DynamicsKernels>::scalar, want, model);
+        ASSERT_EQ(got, want) << gain << ' ' << step;
+        ASSERT_EQ(after[0], model[0]) << gain << ' ' << step;
+      }
+}
+
+// A gain that stands still is one multiplication by an integer, but for gains so close to a fraction that the roundings of
+// the doubles decide.
+TEST(Dynamics, SteadyGainsCloseToFractionsRoundAsDoublesDo) {
+  for (const Forced backend : supported_backends()) {
+    Random random(12);
+    for (int round = 0; round < 300; ++round) {
+      const int32_t bits = round % 4 ? 16 : 8, codes = 1 << bits;
+      const int32_t q = random.between(1, round % 4 ? 40000 : 300);
+      double gain = static_cast<double>(random.between(q, 16 * q)) / q;
+      for (int32_t ulps = random.between(-4, 4); ulps != 0; ulps += ulps < 0 ? 1 : -1)
+        gain = std::nextafter(gain, ulps < 0 ? 0.0 : 99.0);
+      std::vector<uint8_t> source(2 * 65536), got(source.size()), want(source.size());
+      const Buffer from{source.data(), codes, bits, 1}, to{got.data(), codes, bits, 1},
+          model{want.data(), codes, bits, 1};
+      for (int32_t i = 0; i < codes; ++i) from.put(i, 0, i - codes / 2);
+      Gains mine{-200000, 0, {gain - 16, gain - 16}}, other = mine;  // silence is looked at
+      const WaveBuffer s = from.record(), d = to.record();
+      ASSERT_EQ(maximize64(&d, &s, mine, codes, 0.0), 0);
+      maximizer64_model(model, from, other, codes, 0.0);
+      ASSERT_EQ(got, want) << bits << ' ' << gain;
+    }
+  }
 }
 
 TEST(Dynamics, SumsAreTheSameHoweverManyStepsAreTakenAtOnce) {
@@ -219,6 +265,34 @@ TEST(Reverb, StreamsBlockByBlockAsOneFrameAfterAnother) {
       EXPECT_EQ(f1, f2);
       EXPECT_EQ(r1, r2);
       ASSERT_EQ(std::memcmp(one->ring.data(), two->ring.data(), 8 * one->ring.size()), 0);
+    }
+}
+
+// The sound, the ring and the table of taps may lie in one another: then frame after frame.
+TEST(Reverb, MemoryThatIsSharedIsLeftAlikeByEveryBackEnd) {
+  std::vector<uint8_t> first[3];
+  for (const Forced backend : supported_backends())
+    for (size_t layout = 0; layout < 3; ++layout) {
+      std::vector<double> ring(2 << 19), table(30000), sound(800);
+      Random random(31);
+      for (auto* all : {&table, &sound, &ring})
+        for (double& v : *all) v = random.between(-100, 100) * 0.017;
+      double* taps = layout == 0 ? ring.data() + 3000 : table.data();
+      for (size_t t = 20000; t < 20040; ++t) taps[t] = 40.3;
+      const WaveBuffer echoes{waveFormatEnc(64, 2, 44100), 1 << 19, ring.data()},
+          wave{waveFormatEnc(64, 2, 44100), 400,
+               layout == 1   ? ring.data() + 1000
+               : layout == 2 ? table.data() + 10
+                             : sound.data()};
+      int32_t frame = 0, at = 0;
+      ASSERT_EQ(waveEffectReverbA1(&wave, &frame, &echoes, &at, 400, 3.3, 230, 1, 40, taps), 0);
+      std::vector<uint8_t> left;
+      for (const auto* all : {&table, &sound, &ring}) {
+        const auto* bytes = reinterpret_cast<const uint8_t*>(all->data());
+        left.insert(left.end(), bytes, bytes + 8 * all->size());
+      }
+      if (first[layout].empty()) first[layout] = left;
+      ASSERT_TRUE(first[layout] == left) << layout;
     }
 }
 

@@ -124,6 +124,13 @@ class Arena {
     run(d, s);
     return block;
   }
+  // Whether nothing but dst is changed in such a block.
+  bool only_dst_differs(const std::vector<uint8_t>& block) const {
+    const auto begin = static_cast<ptrdiff_t>(at_[0]);
+    const auto end = begin + static_cast<ptrdiff_t>(static_cast<size_t>(dst.count) * dst.frame_bytes());
+    return std::equal(block.begin(), block.begin() + begin, before_.begin()) &&
+           std::equal(block.begin() + end, block.end(), before_.begin() + end);
+  }
 
  private:
   std::vector<uint8_t> before_;
