@@ -40,7 +40,7 @@ int32_t TESSARO_CALL ThreadKill(void) {
   if (thread == nullptr) return 1;
   stop = 1;
   platform::close_thread(thread);
-  worker.compare_exchange_strong(thread, nullptr);
+  worker.compare_exchange_strong(thread, nullptr);  // not one that has begun meanwhile
   return 0;
 }
 

@@ -28,23 +28,15 @@ int32_t TESSARO_CALL BBIRotation(ImageRecord* dst, const ImageRecord* src, int32
   if (mode == 1 ? d.width != s.width || d.height != s.height : d.width != s.height || d.height != s.width)
     return status_nothing;
   if (s.height < 1 || s.width < 1) return status_done;
-  if (!rows_apart({d.pixels, d.pitch, d.width, d.height})) {  // the last pixel written to a place stays
-    for (int32_t y = 0; y < s.height; ++y)
-      for (int32_t x = 0; x < s.width; ++x) {
-        const int32_t right = s.width - 1 - x, below = s.height - 1 - y;
-        d.set(mode == 0   ? below
-              : mode == 1 ? right
-                          : y,
-              mode == 0   ? x
-              : mode == 1 ? below
-                          : right,
-              s.get(x, y));
-      }
-    return status_done;
-  }
   AreaPair areas = {d.pixels, d.pitch, s.pixels, s.pitch, s.width, s.height};
   if (mode == 1) {
     kernels<TurnKernels>().half_turn(areas);
+    return status_done;
+  }
+  if (!rows_apart({d.pixels, d.pitch, d.width, d.height})) {  // the last pixel written to a place stays
+    for (int32_t y = 0; y < s.height; ++y)
+      for (int32_t x = 0; x < s.width; ++x)
+        mode == 0 ? d.set(s.height - 1 - y, x, s.get(x, y)) : d.set(y, s.width - 1 - x, s.get(x, y));
     return status_done;
   }
   // A quarter turn is a transposition with the rows of one of the images upside down.

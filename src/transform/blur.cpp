@@ -108,7 +108,7 @@ void blur_rows(AreaPair n, ptrdiff_t r, bool loop) {
   for (; n.height > 0; --n.height, n.dst += n.dst_pitch, n.src += n.src_pitch) {
     // A whole row is read before it is written. In order, pixel i + r is read before pixel i is written, so that only
     // a destination further ahead of its source than that, or one that a loop comes back to, makes a difference.
-    if (const ptrdiff_t apart = distance(n); !sums || (rows_meet(n) && (loop || apart > 4 * r))) {
+    if (!sums || (rows_meet(n) && (loop || distance(n) > 4 * r))) {
       blur_in_order(n.dst, 4, n.src, 4, n.width, r, loop);
       continue;
     }

@@ -84,6 +84,3 @@ TESSARO_INLINE void write8(uint8_t* out, const V& v) {
 #endif
 
 }  // namespace
-
-#define TESSARO_INTEGER_FORMS(f) \
-  { f<S8>, f<S16>, f<S24> }

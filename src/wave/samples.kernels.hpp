@@ -280,6 +280,8 @@ void mean_of_span(I16* __restrict out, const int32_t* __restrict ahead, const in
 
 }  // namespace
 
+#define TESSARO_INTEGER_FORMS(f) \
+  { f<S8>, f<S16>, f<S24> }
 TESSARO_KERNELS(SampleKernels){
     .to16 = TESSARO_INTEGER_FORMS(to16),
     .to24 = TESSARO_INTEGER_FORMS(to24),
