@@ -7,7 +7,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "frame/numbers.hpp"
+#include "core/numbers.hpp"
 
 namespace tessaro {
 

@@ -6,7 +6,7 @@
 #include <cstring>
 
 #include "codec/bytes.hpp"
-#include "frame/numbers.hpp"
+#include "core/numbers.hpp"
 #include "tessaro/codec.h"
 
 namespace tessaro {

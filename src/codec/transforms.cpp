@@ -1,7 +1,7 @@
 // Transforms that go before a codec: differences to an earlier sample, and channels into planes.
 #include "codec/transforms.hpp"
 
-#include "frame/numbers.hpp"
+#include "core/numbers.hpp"
 #include "tessaro/codec.h"
 
 using namespace tessaro;

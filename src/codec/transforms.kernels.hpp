@@ -2,7 +2,7 @@
 #include <immintrin.h>
 
 #include "codec/transforms.hpp"
-#include "frame/numbers.hpp"
+#include "core/numbers.hpp"
 #include "simd/vocabulary.hpp"
 
 namespace {

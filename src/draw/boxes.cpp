@@ -1,8 +1,8 @@
 #include "draw/boxes.hpp"
 
+#include "core/clip.hpp"
 #include "draw/pen.hpp"
 #include "draw/run.hpp"
-#include "frame/clip.hpp"
 #include "tessaro/tessaro.h"
 
 using namespace tessaro;

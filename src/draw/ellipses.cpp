@@ -2,8 +2,8 @@
 
 #include <cmath>
 
+#include "core/clip.hpp"
 #include "draw/run.hpp"
-#include "frame/clip.hpp"
 #include "tessaro/tessaro.h"
 
 using namespace tessaro;

@@ -1,7 +1,7 @@
 // The pixel write of the one-colour operations.
 #pragma once
 
-#include "frame/image.hpp"
+#include "core/image.hpp"
 #include "pixel/blit.hpp"
 
 namespace tessaro {

@@ -1,7 +1,7 @@
 // Areas between two corner points, and the strips that areas are drawn in.
 #pragma once
 
-#include "frame/clip.hpp"
+#include "core/clip.hpp"
 
 namespace tessaro {
 

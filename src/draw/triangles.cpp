@@ -1,5 +1,5 @@
+#include "core/image.hpp"
 #include "draw/pen.hpp"
-#include "frame/image.hpp"
 #include "tessaro/tessaro.h"
 
 using namespace tessaro;

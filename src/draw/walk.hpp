@@ -2,7 +2,7 @@
 // points millions of pixels away costs no more than its steps inside the image.
 #pragma once
 
-#include "frame/image.hpp"
+#include "core/image.hpp"
 
 namespace tessaro {
 

@@ -1,7 +1,7 @@
 #include "mapping/maps.hpp"
 
-#include "frame/clip.hpp"
-#include "frame/heap.hpp"
+#include "core/clip.hpp"
+#include "core/heap.hpp"
 #include "tessaro/tessaro.h"
 
 using namespace tessaro;

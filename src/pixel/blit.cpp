@@ -1,6 +1,5 @@
 #include "pixel/blit.hpp"
 
-#include "frame/process.hpp"
 #include "tessaro/tessaro.h"
 
 using namespace tessaro;

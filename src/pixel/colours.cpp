@@ -1,6 +1,6 @@
 // The colours of an image, counted and collected.
-#include "frame/clip.hpp"
-#include "frame/heap.hpp"
+#include "core/clip.hpp"
+#include "core/heap.hpp"
 #include "tessaro/tessaro.h"
 
 using namespace tessaro;

@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "frame/clip.hpp"
+#include "core/clip.hpp"
 #include "simd/dispatch.hpp"
 
 namespace tessaro {

@@ -1,6 +1,6 @@
 #include "pixel/format.hpp"
 
-#include "frame/clip.hpp"
+#include "core/clip.hpp"
 #include "tessaro/tessaro.h"
 
 using namespace tessaro;

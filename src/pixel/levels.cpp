@@ -1,5 +1,5 @@
 // Automatic levels: measure where a picture's levels begin and end, and stretch them.
-#include "frame/clip.hpp"
+#include "core/clip.hpp"
 #include "tessaro/tessaro.h"
 
 using namespace tessaro;

@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "frame/image.hpp"
+#include "core/image.hpp"
 #include "simd/dispatch.hpp"
 
 namespace tessaro {

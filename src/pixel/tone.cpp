@@ -1,6 +1,6 @@
 #include "pixel/tone.hpp"
 
-#include "simd/weights.hpp"
+#include "core/weights.hpp"
 #include "tessaro/tessaro.h"
 
 using namespace tessaro;

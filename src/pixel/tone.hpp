@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-#include "frame/clip.hpp"
+#include "core/clip.hpp"
 #include "simd/dispatch.hpp"
 
 namespace tessaro {

@@ -23,7 +23,7 @@ struct WindowSystem {
   intptr_t (*procedure)(void* window);  // 0 = cannot be read
   void (*set_procedure)(void* window, intptr_t procedure);
   intptr_t (*call)(intptr_t procedure, void* window, uint32_t message, uintptr_t first, intptr_t second);
-  // The procedure that a hooked window gets: it hands its arguments to offer_message (frame/hooks.hpp).
+  // The procedure that a hooked window gets: it hands its arguments to offer_message (host/hooks.hpp).
   intptr_t (*replacement)();
 };
 extern const WindowSystem windows;

@@ -6,7 +6,7 @@
 // read pixels that the one-pixel form has already written. The walkers notice that.
 #pragma once
 
-#include "frame/clip.hpp"
+#include "core/clip.hpp"
 #include "simd/vocabulary.hpp"
 
 namespace {

@@ -5,7 +5,7 @@
 #include <array>
 #include <cstring>
 
-#include "frame/heap.hpp"
+#include "core/heap.hpp"
 #include "pixel/blit.hpp"
 #include "tessaro/tessaro.h"
 

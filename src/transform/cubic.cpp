@@ -1,8 +1,8 @@
 // Resizing of whole images with a cubic kernel of 4 x 4 taps.
 #include "transform/cubic.hpp"
 
-#include "frame/clip.hpp"
-#include "frame/numbers.hpp"
+#include "core/clip.hpp"
+#include "core/numbers.hpp"
 #include "tessaro/tessaro.h"
 
 using namespace tessaro;

@@ -3,8 +3,8 @@
 
 #include <cstdint>
 
-#include "frame/clip.hpp"
-#include "frame/heap.hpp"
+#include "core/clip.hpp"
+#include "core/heap.hpp"
 #include "simd/dispatch.hpp"
 
 namespace tessaro {

@@ -1,7 +1,7 @@
 #include "transform/flip.hpp"
 
+#include "core/weights.hpp"
 #include "pixel/blit.hpp"
-#include "simd/weights.hpp"
 #include "tessaro/tessaro.h"
 
 using namespace tessaro;

@@ -2,7 +2,7 @@
 
 #include <iterator>
 
-#include "simd/weights.hpp"
+#include "core/weights.hpp"
 #include "tessaro/tessaro.h"
 
 using namespace tessaro;

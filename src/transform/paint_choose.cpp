@@ -2,8 +2,8 @@
 #include <array>
 #include <cstring>
 
-#include "frame/heap.hpp"
-#include "frame/image.hpp"
+#include "core/heap.hpp"
+#include "core/image.hpp"
 #include "tessaro/tessaro.h"
 
 using namespace tessaro;

@@ -1,7 +1,7 @@
 #include "wave/dynamics.hpp"
 
-#include "frame/clip.hpp"
-#include "frame/numbers.hpp"
+#include "core/clip.hpp"
+#include "core/numbers.hpp"
 #include "wave/blocks.hpp"
 #include "wave/ramp.hpp"
 #include "wave/scale.hpp"

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "frame/numbers.hpp"
+#include "core/numbers.hpp"
 #include "wave/ramp.hpp"
 #include "wave/trigonometry.hpp"
 

@@ -1,6 +1,6 @@
 #include "wave/resample.hpp"
 
-#include "frame/clip.hpp"
+#include "core/clip.hpp"
 #include "wave/blocks.hpp"
 
 using namespace tessaro;

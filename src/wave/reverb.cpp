@@ -2,8 +2,8 @@
 
 #include <cstring>
 
-#include "frame/clip.hpp"
-#include "frame/numbers.hpp"
+#include "core/clip.hpp"
+#include "core/numbers.hpp"
 #include "wave/blocks.hpp"
 
 using namespace tessaro;

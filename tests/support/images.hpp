@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-#include "frame/image.hpp"
+#include "core/image.hpp"
 #include "simd/dispatch.hpp"
 #include "tessaro/tessaro.h"
 

@@ -1,4 +1,4 @@
-#include "simd/weights.hpp"
+#include "core/weights.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "frame/process.hpp"
+#include "core/random.hpp"
 #include "models.hpp"
 
 namespace tessaro::test {

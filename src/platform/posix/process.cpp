@@ -1,6 +1,6 @@
 #include <time.h>
 
-#include "frame/process.hpp"
+#include "host/process.hpp"
 #include "platform/platform.hpp"
 
 namespace tessaro::platform {

@@ -1,6 +1,6 @@
 #include <windows.h>
 
-#include "frame/hooks.hpp"
+#include "host/hooks.hpp"
 #include "platform/platform.hpp"
 
 namespace tessaro::platform {

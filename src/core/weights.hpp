@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-#include "frame/numbers.hpp"
+#include "core/numbers.hpp"
 
 namespace tessaro {
 

@@ -16,10 +16,4 @@ int32_t cpu_level_of(uint32_t flags);
 // Takes back the hooks that are left when the library goes.
 void unhook_all();
 
-// Seeds the generator behind GetRandom; draws one tempered word, or n as so many calls would; passes over n.
-void seed_random(uint32_t seed);
-uint32_t draw_random();
-void draw_random(uint32_t* out, int64_t n);
-void skip_random(int64_t n);
-
 }  // namespace tessaro

@@ -1,6 +1,6 @@
-#include "frame/hooks.hpp"
+#include "host/hooks.hpp"
 
-#include "frame/process.hpp"
+#include "host/process.hpp"
 
 namespace tessaro {
 

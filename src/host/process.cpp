@@ -1,7 +1,8 @@
-#include "frame/process.hpp"
+#include "host/process.hpp"
 
 #include <cpuid.h>
 
+#include "core/random.hpp"
 #include "platform/platform.hpp"
 #include "simd/dispatch.hpp"
 #include "tessaro/tessaro.h"

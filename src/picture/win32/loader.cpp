@@ -1,5 +1,5 @@
 // Pictures through the OLE picture loader.
-#include "platform/picture.hpp"
+#include "picture/loader.hpp"
 
 #include <windows.h>
 //

@@ -1,10 +1,10 @@
 // Pictures where the platform has no loader of its own. The device context is an image record.
-#include "platform/picture.hpp"
+#include "picture/loader.hpp"
 
 #include <cstring>
 
-#include "frame/image.hpp"
-#include "platform/posix/canvas.hpp"
+#include "core/image.hpp"
+#include "picture/posix/canvas.hpp"
 
 namespace tessaro::platform {
 namespace {

@@ -1,10 +1,9 @@
 // The Mersenne Twister MT19937 of M. Matsumoto and T. Nishimura (ACM TOMACS 8, 1998), with the seeding of its
 // first published version.
+#include "core/random.hpp"
+
 #include <array>
 #include <cstddef>
-
-#include "frame/process.hpp"
-#include "tessaro/tessaro.h"
 
 namespace tessaro {
 
@@ -89,11 +88,3 @@ void skip_random(int64_t n) {
 }
 
 }  // namespace tessaro
-
-extern "C" uint32_t TESSARO_CALL GetRandom(uint32_t n) {
-  const uint32_t y = tessaro::draw_random();
-  // A divisor of 0 faults as the processor's division does; the language would leave it undefined.
-  uint32_t quotient = y, rest = 0;
-  __asm__("divl %2" : "+a"(quotient), "+d"(rest) : "r"(n) : "cc");
-  return rest;
-}

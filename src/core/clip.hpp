@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-#include "frame/image.hpp"
+#include "core/image.hpp"
 
 namespace tessaro {
 

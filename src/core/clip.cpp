@@ -1,4 +1,4 @@
-#include "frame/clip.hpp"
+#include "core/clip.hpp"
 
 namespace tessaro {
 

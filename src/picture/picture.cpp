@@ -1,6 +1,6 @@
 // Picture files: the limits and results of the exports; the loading is the platform's.
-#include "platform/picture.hpp"
-#include "frame/numbers.hpp"
+#include "core/numbers.hpp"
+#include "picture/loader.hpp"
 #include "tessaro/codec.h"
 
 using namespace tessaro;

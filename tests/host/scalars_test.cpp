@@ -9,8 +9,9 @@
 #include <random>
 #include <vector>
 
-#include "frame/numbers.hpp"
-#include "frame/process.hpp"
+#include "core/numbers.hpp"
+#include "core/random.hpp"
+#include "host/process.hpp"
 #include "tessaro/tessaro.h"
 
 namespace tessaro {

@@ -1,7 +1,7 @@
 // Bitmap files (.bmp): uncompressed, of 1, 4, 8, 16, 24 or 32 bits a pixel, rows from the bottom or from the top.
 #include <cstring>
 
-#include "platform/posix/canvas.hpp"
+#include "picture/posix/canvas.hpp"
 
 namespace tessaro::platform {
 namespace {

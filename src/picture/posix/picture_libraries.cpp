@@ -8,7 +8,7 @@
 #include <jpeglib.h>
 #include <png.h>
 
-#include "platform/posix/canvas.hpp"
+#include "picture/posix/canvas.hpp"
 
 namespace tessaro::platform {
 namespace {

@@ -1,4 +1,4 @@
-#include "frame/hooks.hpp"
+#include "host/hooks.hpp"
 
 #include <gtest/gtest.h>
 

@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "frame/numbers.hpp"
+#include "core/numbers.hpp"
 #include "tessaro/types.h"
 
 namespace tessaro {
