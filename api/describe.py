@@ -64,6 +64,8 @@ class Comment:
                 item = None
                 self.text.append(line.rstrip())
         self.text = "\n".join(self.text).strip()
+        if not special(self):  # there @brief is only another way to begin
+            self.text = f"{self.argument('brief')}\n\n{self.text}".strip()
         prose = re.sub(r"`[^`]*`", "", "\n".join([self.text] + [item[1] for item in self.items]))
         if re.search(r"[<>]", prose):
             header.problem(self.line, "< and > have to stand in backticks")
@@ -143,7 +145,7 @@ class Bad(Exception):
 
 
 def expression(text, names):
-    """Checks an expression over parameters; returns the parameters in it that count as sizes."""
+    """Checks an expression over parameters; returns those that it uses."""
     source = text.strip()
     try:
         tree = ast.parse(source, mode="eval").body
@@ -151,31 +153,30 @@ def expression(text, names):
         raise Bad(f"'{source}' is no expression")
     used = set()
 
-    def visit(node, sizes):
+    def visit(node):
         operators = (ast.Add, ast.Sub, ast.Mult, ast.Div, ast.Mod, ast.LShift, ast.RShift, ast.BitAnd, ast.BitOr,
                      ast.BitXor)
         if isinstance(node, ast.BinOp) and isinstance(node.op, operators):
-            visit(node.left, sizes), visit(node.right, sizes)
+            visit(node.left), visit(node.right)
         elif isinstance(node, ast.UnaryOp) and isinstance(node.op, (ast.USub, ast.Invert)):
-            visit(node.operand, sizes)
+            visit(node.operand)
         elif isinstance(node, ast.Constant) and isinstance(node.value, int):
             pass
         elif isinstance(node, ast.Name) and node.id in names:
             if names[node.id].endswith("*"):
                 raise Bad(f"'{node.id}' is a pointer")
-            if sizes:
-                used.add(node.id)
+            used.add(node.id)
         elif isinstance(node, ast.Attribute) and isinstance(node.value, ast.Name) and node.value.id in names:
             record = names[node.value.id].replace("const ", "").rstrip("*")
             if node.attr not in FIELDS.get(record, ()):
                 raise Bad(f"'{ast.unparse(node)}' is no field of an image or a sound")
         elif isinstance(node, ast.Call) and isinstance(node.func, ast.Name) and node.func.id in CALLS:
             for argument in node.args:
-                visit(argument, sizes and node.func.id != "bytes_of")
+                visit(argument)
         else:
             raise Bad(f"'{ast.unparse(node)}' in '{source}' is neither a parameter nor an operation that is known")
 
-    visit(tree, True)
+    visit(tree)
     return used
 
 
@@ -233,7 +234,7 @@ def pointer(text, c_type, names, callbacks):
     if record in callbacks:
         wanted = "function"
     if wanted or text in ("image", "sound", "function"):
-        if text != wanted:
+        if text != wanted and c_type != "void*":
             raise Bad(f"[{text}] for a {c_type}")
         return {"kind": text}, set()
     if text in ("address", "handle"):
@@ -400,7 +401,7 @@ class Reader:
             except Bad as bad:
                 entry.header.problem(entry.line, f"{name}, {one}: {bad}")
         for one in listed:
-            if one["name"] in believed and not one.get("trusted"):
+            if one["name"] in believed and not one.keys() & {"trusted", "enum"}:
                 header.problem(place, f"{name}: memory is measured by {one['name']}, which is not said to be trusted")
 
         result = plain(node["type"]["qualType"].split("(")[0])
