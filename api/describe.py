@@ -88,6 +88,9 @@ class Header:
                          for match in re.finditer(r"/\*\*(?!/).*?\*/", self.text, re.S)]
         # Without comments, to see what lies between one and a name.
         self.code = re.sub(r"/\*.*?\*/", lambda match: re.sub(r"[^\n]", " ", match[0]), self.text, flags=re.S)
+        for number, line in enumerate(self.text.split("\n"), 1):
+            if len(line) > 110 and not line.startswith(" * |"):
+                self.problem(number, "over 110 columns")
         self.file = next((comment for comment in self.comments if comment.has("file")), None)
         if self.file is None:
             self.problem(1, "no @file comment")

@@ -9,8 +9,8 @@
 
 #include <stdint.h>
 
-/* The calling convention of every export: on 32-bit Windows the callee removes its arguments, each of which takes four
- * bytes (a pointer and a float too; a double takes eight); elsewhere the platform's C convention. */
+/* The calling convention of every export: on 32-bit Windows the callee removes its arguments, each of which
+ * takes four bytes (a pointer and a float too; a double takes eight); elsewhere the platform's C convention. */
 #if defined(_WIN32) && !defined(_WIN64)
 #define TESSARO_CALL __stdcall
 #define TESSARO_CDECL __cdecl
@@ -32,14 +32,14 @@ extern "C" {
 /**
  * An image: a block of the host's memory that begins with these two words.
  *
- * The library reads the record and its dimensions, reads or writes the pixels in place, and never allocates, resizes or
- * frees any of them. Both offsets are signed, so that dimensions and pixels may lie before or behind the record, within
- * 32 KiB of it.
+ * The library reads the record and its dimensions, reads or writes the pixels in place, and never allocates,
+ * resizes or frees any of them. Both offsets are signed, so that dimensions and pixels may lie before or
+ * behind the record, within 32 KiB of it.
  *
- * The pixel at column x, row y is the 32-bit word 0xAARRGGBB at `record + pixel_offset + y * pitch + 4 * x`; in memory
- * that is the bytes blue, green, red, alpha. Row 0 is the top one. Neither record, dimensions nor pixels need any
- * alignment. The record must be consistent: the `4 * width` bytes of each row belong to the host. An image whose width
- * or height is below 1 has no pixels.
+ * The pixel at column x, row y is the 32-bit word 0xAARRGGBB at `record + pixel_offset + y * pitch + 4 * x`;
+ * in memory that is the bytes blue, green, red, alpha. Row 0 is the top one. Neither record, dimensions nor
+ * pixels need any alignment. The record must be consistent: the `4 * width` bytes of each row belong to the
+ * host. An image whose width or height is below 1 has no pixels.
  */
 typedef struct ImageRecord {
   int16_t dims_offset;  /**< Bytes from the start of the record to its ImageDims. */
@@ -51,9 +51,9 @@ typedef struct ImageDims {
   int16_t width;  /**< Pixels in a row. */
   int16_t height; /**< Rows. */
   /**
-   * Bytes from the start of one row to the start of the next. Negative for rows stored bottom-up: row 0 then lies last
-   * in memory, and the record within 32 KiB of that, behind the pixels as a rule. Rows of more than 8191 pixels cannot
-   * follow one another, since their pitch would not fit.
+   * Bytes from the start of one row to the start of the next. Negative for rows stored bottom-up: row 0 then
+   * lies last in memory, and the record within 32 KiB of that, behind the pixels as a rule. Rows of more than
+   * 8191 pixels cannot follow one another, since their pitch would not fit.
    */
   int16_t pitch;
 } ImageDims;
