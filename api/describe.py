@@ -482,6 +482,8 @@ class Reader:
                 identifier, _, title = comment.argument("defgroup").partition(" ")
                 if not title or not comment.has("brief"):
                     header.problem(comment.line, "a group needs an identifier, a title and a @brief")
+                if identifier in {group["id"] for group in groups}:
+                    header.problem(comment.line, f"there is another group {identifier}")
                 groups.append({"id": identifier, "title": title.strip(), "header": header.name,
                                "brief": " ".join(comment.argument("brief").split()), "text": comment.text})
         return {

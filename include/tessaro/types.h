@@ -10,7 +10,7 @@
 #include <stdint.h>
 
 /* The calling convention of every export: on 32-bit Windows the callee removes its arguments, each of which
- * takes four bytes (a pointer and a float too; a double takes eight); elsewhere the platform's C convention. */
+ * takes four bytes (a pointer and a float too; a double takes eight); elsewhere it is the platform's own. */
 #if defined(_WIN32) && !defined(_WIN64)
 #define TESSARO_CALL __stdcall
 #define TESSARO_CDECL __cdecl
