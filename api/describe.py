@@ -31,16 +31,6 @@ FIELDS = {"ImageRecord": {"width", "height", "pitch"}, "WaveBuffer": {"format", 
 COMMANDS = {"file", "brief", "defgroup", "param", "retval", "return", "since", "see", "{", "}"}
 
 
-class Problems:
-    """What is wrong with the headers, each with its place."""
-
-    def __init__(self):
-        self.lines = []
-
-    def add(self, place, text):
-        self.lines.append((place, text))
-
-
 class Comment:
     """One documentation comment: its text, and its @ commands with the lines they stand on."""
 
@@ -94,9 +84,27 @@ class Header:
         self.file = next((comment for comment in self.comments if comment.has("file")), None)
         if self.file is None:
             self.problem(1, "no @file comment")
+        self.groups = list(self.read_groups())
+
+    def read_groups(self):
+        """The comment of each group, and the offset of its end."""
+        opened = None
+        for comment in self.comments:
+            if comment.has("{"):
+                if opened:
+                    self.problem(comment.line, "a group inside another")
+                opened = comment
+            elif comment.has("}"):
+                if opened:
+                    yield opened, comment.start
+                else:
+                    self.problem(comment.line, "the end of no group")
+                opened = None
+        if opened:
+            self.problem(opened.line, "the group has no end")
 
     def problem(self, line, text):
-        self.problems.add(f"include/tessaro/{self.name}:{line}", text)
+        self.problems.append((f"include/tessaro/{self.name}:{line}", text))
 
     def line(self, offset):
         return self.text.count("\n", 0, offset) + 1
@@ -114,20 +122,8 @@ class Header:
         return None
 
     def group_of(self, offset):
-        """The innermost open group at an offset."""
-        open_groups, last = [], None
-        for comment in self.comments:
-            if comment.start > offset:
-                break
-            last = comment if comment.has("defgroup") else last
-            if comment.has("{"):
-                open_groups.append(last)
-            if comment.has("}"):
-                if not open_groups:
-                    self.problem(comment.line, "@} without @{")
-                    continue
-                open_groups.pop()
-        return open_groups[-1] if open_groups else None
+        """The comment of the group that is open at an offset."""
+        return next((group for group, end in self.groups if group.end <= offset < end), None)
 
 
 def special(comment):
@@ -271,7 +267,6 @@ class Entry:
 
 class Reader:
     def __init__(self, clang, problems):
-        self.problems = problems
         self.headers = {}
         self.enums, self.types, self.callbacks, self.functions, self.entries = {}, [], {}, [], {}
         tree = self.parse(clang)
@@ -410,7 +405,7 @@ class Reader:
         result = plain(node["type"]["qualType"].split("(")[0])
         about = {"name": name, "header": header.name, "group": here.argument("defgroup").split()[0] if here else "",
                  **split(own.text if own else ""),
-                 "signature": f"{result} {name}({', '.join(spell(t, n) for n, t in names.items()) or 'void'})",
+                 "signature": f"{result} {name}({', '.join(f'{t} {n}' for n, t in names.items()) or 'void'})",
                  "returns": {"type": result, **self.results(name, source, place, levels, names, result)},
                  "parameters": listed,
                  "since": (own.argument("since") if own else "") or self.first,
@@ -502,10 +497,6 @@ def plain(c_type):
     return re.sub(r"\s*\*", "*", c_type.strip())
 
 
-def spell(c_type, name):
-    return f"{c_type} {name}"
-
-
 def split(text):
     brief, rest = sentence(text)
     return {"brief": brief, "text": rest}
@@ -567,23 +558,24 @@ def main():
     with open(os.path.join(ROOT, "CMakeLists.txt"), encoding="utf-8") as file:
         version = re.search(r"project\(tessaro VERSION ([0-9.]+)", file.read())[1]
 
-    problems = Problems()
+    problems = []  # places and texts
     exports, aliases = read_exports()
     reader = Reader(clang, problems)
     found = reader.description(version, aliases)
     declared = {function["name"] for function in found["functions"]}
     for name in sorted(declared ^ set(exports)):
-        problems.add("src/exports/exports.txt:1", f"{name} is {'not listed' if name in declared else 'in no header'}")
+        problems.append(("src/exports/exports.txt:1",
+                         f"{name} is {'not listed' if name in declared else 'in no header'}"))
     for function in found["functions"]:
         for other in function["see"]:
             if other not in declared:
-                problems.add(f"include/tessaro/{function['header']}:1", f"{function['name']}: @see {other}, which is "
-                                                                        "no function")
+                problems.append((f"include/tessaro/{function['header']}:1",
+                                 f"{function['name']}: @see {other}, which is no function"))
     wrong = mismatch(found, (schema := json.load(open(SCHEMA, encoding="utf-8"))), schema)
     if wrong:
-        problems.add("api/tessaro.schema.json:1", wrong)
+        problems.append(("api/tessaro.schema.json:1", wrong))
 
-    lines = [f"{place}: {text}" for place, text in dict.fromkeys(problems.lines)
+    lines = [f"{place}: {text}" for place, text in dict.fromkeys(problems)
              if not given.header or f"/{os.path.basename(given.header)}:" in place]
     if lines:
         print("\n".join(lines), file=sys.stderr)
