@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <cstring>
 
-#include "codec/bytes.hpp"
+#include "codec/stream/bytes.hpp"
 #include "core/numbers.hpp"
 #include "tessaro/codec.h"
 

@@ -4,7 +4,7 @@
 
 #include <cstring>
 
-#include "codec/bits.hpp"
+#include "codec/stream/bits.hpp"
 
 namespace tessaro {
 

@@ -1,5 +1,5 @@
 // io: 4-byte groups, a one bit for a repeat of the group before, a zero and the group otherwise.
-#include "codec/bits.hpp"
+#include "codec/stream/bits.hpp"
 #include "tessaro/codec.h"
 
 namespace tessaro {

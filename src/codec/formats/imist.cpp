@@ -1,6 +1,6 @@
 // imist: two pairs of bytes a pixel, blue and red, then green and alpha; a pair is sent as far as it differs from that
 // of the pixel before.
-#include "codec/pixels.hpp"
+#include "codec/stream/pixels.hpp"
 #include "tessaro/codec.h"
 
 namespace tessaro {

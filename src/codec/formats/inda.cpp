@@ -1,11 +1,11 @@
 // inda, the masked-reference format: blocks of eight bytes, each byte a literal or the rest of what it shares with a byte up
 // to eight places back.
-#include "codec/inda.hpp"
+#include "codec/formats/inda.hpp"
 
 #include <cstring>
 
-#include "codec/bits.hpp"
-#include "codec/bytes.hpp"
+#include "codec/stream/bits.hpp"
+#include "codec/stream/bytes.hpp"
 #include "tessaro/codec.h"
 
 namespace tessaro {

@@ -1,5 +1,5 @@
 // i: pairs of bytes against the pair before: a 3-bit code and what it leaves open.
-#include "codec/bits.hpp"
+#include "codec/stream/bits.hpp"
 #include "tessaro/codec.h"
 
 namespace tessaro {

@@ -1,5 +1,5 @@
 // kernels: IndaKernels for scalar sse2 avx2
-#include "codec/inda.hpp"
+#include "codec/formats/inda.hpp"
 #include "simd/vocabulary.hpp"
 
 #if defined(__SSE2__)

@@ -1,10 +1,9 @@
 // inabe: groups of 4 * 2^k bytes of one similarity, each byte in a few bits or behind an escape of that many ones.
 #include <cstring>
 
-#include "codec/bits.hpp"
-#include "codec/channel_order.hpp"
-#include "codec/group_payload.hpp"
-#include "codec/group_scan.hpp"
+#include "codec/stream/bits.hpp"
+#include "codec/stream/channel_order.hpp"
+#include "codec/stream/groups.hpp"
 #include "tessaro/codec.h"
 
 namespace tessaro {

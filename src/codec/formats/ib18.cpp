@@ -1,8 +1,8 @@
 // ib18: blocks of six bytes, each byte a repeat of the one before, the one predicted to follow it, or a literal.
 #include <emmintrin.h>
 
-#include "codec/bits.hpp"
-#include "codec/channel_order.hpp"
+#include "codec/stream/bits.hpp"
+#include "codec/stream/channel_order.hpp"
 #include "tessaro/codec.h"
 
 namespace tessaro {

@@ -1,6 +1,6 @@
 // ica: pixels whose bytes are each sent whole or cut to their low bits, as a five-bit head says.
-#include "codec/bytes.hpp"
-#include "codec/pixels.hpp"
+#include "codec/stream/bytes.hpp"
+#include "codec/stream/pixels.hpp"
 #include "tessaro/codec.h"
 
 namespace tessaro {

@@ -1,7 +1,6 @@
 // iabr: groups of 4 * 2^k bytes, each sent with 8, 5, 3 or 0 bits a byte.
-#include "codec/bits.hpp"
-#include "codec/group_payload.hpp"
-#include "codec/group_scan.hpp"
+#include "codec/stream/bits.hpp"
+#include "codec/stream/groups.hpp"
 #include "tessaro/codec.h"
 
 namespace tessaro {
