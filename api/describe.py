@@ -49,7 +49,7 @@ class Comment:
                 if command[1] not in COMMANDS:
                     header.problem(self.line + number, f"unknown command @{command[1]}")
             elif item and line.strip():  # a command lasts until the next one or an empty line
-                item[1] += ("\n" if item[1] else "") + line.strip()
+                item[1] += ("\n" if re.match(r"\s*(- |\|)", line) else " " if item[1] else "") + line.strip()
             else:
                 item = None
                 self.text.append(line.rstrip())
