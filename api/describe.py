@@ -277,16 +277,16 @@ class Reader:
         for node in tree["inner"]:
             place = node.get("loc", {})
             place = place.get("expansionLoc", place)
-            name = os.path.relpath(place.get("file", "/"), os.path.join(INCLUDE, "tessaro"))
+            name = os.path.relpath(place.get("file", "/"), "include/tessaro")
             if name in self.headers:
                 self.nodes.append((self.headers[name], place["offset"], node))
 
     @staticmethod
     def parse(clang):
         """Clang's tree, with the file of every place filled in: Clang names it only where it changes."""
-        command = [clang, "-fsyntax-only", "-ffreestanding", "-x", "c", "-std=c11", "-I", INCLUDE, "-Xclang",
-                   "-ast-dump=json", "-fparse-all-comments", os.path.join(INCLUDE, "tessaro", "tessaro.h")]
-        done = subprocess.run(command, stdout=subprocess.PIPE, check=False)
+        command = [clang, "-fsyntax-only", "-ffreestanding", "-x", "c", "-std=c11", "-Iinclude", "-Wdocumentation",
+                   "-Werror", "-Xclang", "-ast-dump=json", "include/tessaro/tessaro.h"]
+        done = subprocess.run(command, cwd=ROOT, stdout=subprocess.PIPE, check=False)
         if done.returncode:
             sys.exit(done.returncode)
         last = {"file": "/"}

@@ -2,15 +2,16 @@
  * @file
  * @brief What every header shares: the calling convention and the image record.
  *
- * C and C++; needs no macro of the user's.
+ * C and C++; needs no macro of the user's. On 32-bit Windows every export removes its arguments itself, each
+ * of which takes four bytes of stack (a pointer and a float too; a double takes eight); elsewhere calls
+ * follow the platform's C convention.
  */
 #ifndef TESSARO_TYPES_H
 #define TESSARO_TYPES_H
 
 #include <stdint.h>
 
-/* The calling convention of every export: on 32-bit Windows the callee removes its arguments, each of which
- * takes four bytes (a pointer and a float too; a double takes eight); elsewhere it is the platform's own. */
+/* The calling conventions of the exports, and of those host functions that follow C's. */
 #if defined(_WIN32) && !defined(_WIN64)
 #define TESSARO_CALL __stdcall
 #define TESSARO_CDECL __cdecl

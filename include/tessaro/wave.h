@@ -109,7 +109,8 @@ TESSARO_API int32_t TESSARO_CALL GetWave(const void* data, int32_t index, int32_
 /**
  * @brief Writes a frame at the 16-bit scale, without clamping.
  * @param[in,out] data [max(count, 0) * (bits / 8) * channels bytes] Frame 0.
- * @param left, right [value] The values; what does not fit loses its high bits.
+ * @param left [value] The left value; what does not fit loses its high bits.
+ * @param right [value] The right one.
  */
 TESSARO_API int32_t TESSARO_CALL LetWave(void* data, int32_t index, int32_t bits, int32_t channels,
                                          int32_t count, int32_t left, int32_t right);
@@ -123,7 +124,8 @@ TESSARO_API int32_t TESSARO_CALL GetWave24(const void* data, int32_t index, int3
 /**
  * @brief Writes a frame at the 24-bit scale, without clamping.
  * @param[in,out] data [max(count, 0) * (bits / 8) * channels bytes] Frame 0.
- * @param left, right [value] The values; what does not fit loses its high bits.
+ * @param left [value] The left value; what does not fit loses its high bits.
+ * @param right [value] The right one.
  */
 TESSARO_API int32_t TESSARO_CALL LetWave24(void* data, int32_t index, int32_t bits, int32_t channels,
                                            int32_t count, int32_t left, int32_t right);
@@ -137,7 +139,8 @@ TESSARO_API int32_t TESSARO_CALL GetWave64(const void* data, int32_t index, int3
 /**
  * @brief Writes a frame at the float scale, clamped to -1..1.
  * @param[in,out] data [max(count, 0) * (bits / 8) * channels bytes] Frame 0.
- * @param left, right [value, -1..1] The values; not a number counts as -1.
+ * @param left [value, -1..1] The left value; not a number counts as -1.
+ * @param right [value, -1..1] The right one.
  */
 TESSARO_API int32_t TESSARO_CALL LetWave64(void* data, int32_t index, int32_t bits, int32_t channels,
                                            int32_t count, double left, double right);
