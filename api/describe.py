@@ -35,7 +35,7 @@ class Comment:
     """One documentation comment: its text, and its @ commands with the lines they stand on."""
 
     def __init__(self, header, start, end, raw):
-        self.header, self.start, self.end = header, start, end
+        self.start, self.end = start, end
         self.trailing = raw.startswith("/**<")
         self.line = header.text.count("\n", 0, start) + 1
         self.text, self.items = [], []  # items: [command, argument text, line]
@@ -79,6 +79,8 @@ class Header:
         # Without comments, to see what lies between one and a name.
         self.code = re.sub(r"/\*.*?\*/", lambda match: re.sub(r"[^\n]", " ", match[0]), self.text, flags=re.S)
         for number, line in enumerate(self.text.split("\n"), 1):
+            if not line.isascii():  # Clang counts bytes
+                self.problem(number, "a character that is not ASCII")
             if len(line) > 110 and not line.startswith(" * |"):
                 self.problem(number, "over 110 columns")
         self.file = next((comment for comment in self.comments if comment.has("file")), None)
@@ -206,7 +208,7 @@ def bound(text, names):
 def number(text, names, enums):
     """The bracket of a number or of a result."""
     found = {}
-    for part in (part.strip() for part in text.split(",")):
+    for part in re.split(r"\s*,\s*(?![^(]*\))", text):
         choice = re.fullmatch(r"(one|flags) of (\w+)", part)
         if choice:
             if choice[2] not in enums:
@@ -303,8 +305,8 @@ class Reader:
         comment = header.comment_of(offset, member)
         if comment is None or not comment.text:
             header.problem(header.line(offset), f"{what} has no description")
-            return "", comment
-        return comment.text, comment
+            return ""
+        return comment.text
 
     def read_types(self):
         for header, offset, node in self.nodes:
@@ -312,10 +314,10 @@ class Reader:
             if kind == "EnumDecl" and "name" in node:
                 self.read_enum(header, offset, node)
             elif kind == "RecordDecl" and node.get("completeDefinition"):
-                text, _ = self.text_of(header, offset, node["name"])
+                text = self.text_of(header, offset, node["name"])
                 fields = []
                 for field in (inner for inner in node["inner"] if inner["kind"] == "FieldDecl"):
-                    about, _ = self.text_of(header, field["loc"]["offset"], f"{node['name']}.{field['name']}", True)
+                    about = self.text_of(header, field["loc"]["offset"], f"{node['name']}.{field['name']}", True)
                     fields.append({"name": field["name"], "type": plain(field["type"]["qualType"]),
                                    "text": " ".join(about.split())})
                 self.types.append({"name": node["name"], "kind": "record", "header": header.name,
@@ -324,18 +326,18 @@ class Reader:
                 self.read_callback(header, offset, node)
 
     def read_enum(self, header, offset, node):
-        text, _ = self.text_of(header, offset, node["name"])
+        text = self.text_of(header, offset, node["name"])
         constants, value = [], -1
         for constant in (inner for inner in node["inner"] if inner["kind"] == "EnumConstantDecl"):
             given = next((inner for inner in constant.get("inner", ()) if "value" in inner), None)
             value = int(given["value"]) if given else value + 1
-            about, _ = self.text_of(header, constant["loc"]["offset"], constant["name"], True)
+            about = self.text_of(header, constant["loc"]["offset"], constant["name"], True)
             constants.append({"name": constant["name"], "value": value, "text": " ".join(about.split())})
         self.enums[node["name"]] = {"name": node["name"], "header": header.name, **split(text),
                                     "constants": constants}
 
     def read_callback(self, header, offset, node):
-        text, _ = self.text_of(header, offset, node["name"])
+        text = self.text_of(header, offset, node["name"])
         rest = header.code[offset:header.code.index(";", offset)]
         parameters = [] if "(void)" in rest else [
             dict(zip(("type", "name"), re.fullmatch(r"\s*(.*?)\s*(\w+)\s*", one, re.S).groups()))
