@@ -38,7 +38,7 @@
  * @param dw, dh [pixels] The size of the rectangle in `dst`.
  * @param sw, sh [pixels] The size of the rectangle in `src`.
  * @param opacity [opacity, 0..1] Above 1 counts as 1; negative or not a number returns 1.
- * @param keep_mask [colour] The bits of d that stay: `(d & keep_mask) | (new & ~keep_mask)`.
+ * @param keep_mask [value] The bits of d that stay: `(d & keep_mask) | (new & ~keep_mask)`.
  * @param colour [colour] The new colour.
  * @retval 0 Done.
  * @retval 1 [untouched] An argument is unusable, or clipping left nothing.
@@ -76,14 +76,14 @@ TESSARO_API int32_t TESSARO_CALL BBIExpandBlendBlt(ImageRecord* dst, const Image
 /**
  * Replaces bits of each sample by a gradient between four corner colours, then mixes it in.
  *
- * The gradient spans the clipped destination rectangle. With `w(k, n) = trunc((float)(k / (n - 1)) * 256)`, 0
- * where n is 1, pixel (j, i) of it has
+ * The gradient spans the clipped destination rectangle. With
+ * `w(k, n) = trunc((float)((double)k / (n - 1)) * 256)`, 0 where n is 1, pixel (j, i) of it has
  * `G = mix(mix(top_left, bottom_left, w(i, dh)), mix(top_right, bottom_right, w(i, dh)), w(j, dw))`. The
  * sample becomes `(s & mask) | (G & ~mask)`, is mixed into d by its weight, and `keep_mask` is applied.
  *
  * Returns 1 also when there is no memory for the weights of a row.
  *
- * @param mask [colour] The bits of the sample that stay.
+ * @param mask [value] The bits of the sample that stay.
  * @param top_left [colour] The gradient's corner.
  * @param top_right [colour] The gradient's corner.
  * @param bottom_left [colour] The gradient's corner.
@@ -105,7 +105,7 @@ TESSARO_API int32_t TESSARO_CALL BBIExpandColorBlt(ImageRecord* dst, const Image
  * 3. saturation, in the colours: with `k = trunc(saturation * 1024)`, `m = (1024 - k) / 3` and
  *    `g = (red + green + blue) * m >> 10`, each becomes `(colour * k >> 10) + g`, clamped to 0..255
  * 4. levels, in the colours: with lo and hi, a colour's bytes of `level_low` and `level_high`, v becomes,
- *    whichever fits first, 255 - lo for v = lo = hi, 0 for v <= lo, 255 for v >= hi, else
+ *    whichever fits first, 255 - lo for v = lo = hi, 0 for `v <= lo`, 255 for `v >= hi`, else
  *    `255 * (v - lo) / (hi - lo)`
  * 5. weight: with `use_source_alpha` the alpha weight of s as it is now, else the constant weight
  * 6. mix: s = mix(base, s, weight). With `add_colour` the colours become `min(base + (s * weight >> 8), 255)`
@@ -129,10 +129,10 @@ TESSARO_API int32_t TESSARO_CALL BBIExpandColorBlt(ImageRecord* dst, const Image
  *     as 256.
  * @param level_low [colour] What becomes 0, for each colour; the top byte counts for nothing.
  * @param level_high [colour] What becomes 255, for each colour; the top byte counts for nothing.
- * @param keep_mask [colour] The bits of the base that stay.
- * @param mask [colour] The bits of the sample that stay.
+ * @param keep_mask [value] The bits of the base that stay.
+ * @param mask [value] The bits of the sample that stay.
  * @param colour [colour] What comes into the others.
- * @param invert_bits [colour] Where the sample comes into the others inverted.
+ * @param invert_bits [value] Where the sample comes into the others inverted.
  * @param add_colour [flag] Add the colours.
  * @param add_alpha [flag] Add the alpha.
  * @param source_is_base [flag] Mix with the sample as read, not with d.
@@ -158,7 +158,7 @@ TESSARO_API int32_t TESSARO_CALL BBIExpandChooseBlt(
  *
  * | | step | start |
  * |---|---|---|
- * | reducing, dw < sw | `(sw - 2) * 4096 / (dw - 1)` | 2048 |
+ * | reducing, `dw < sw` | `(sw - 2) * 4096 / (dw - 1)` | 2048 |
  * | else | `(sw - 1) * 4096 / dw` | `(sw - 1) * 2048 / dw` |
  *
  * `p >> 12` is the left (upper) of two pixels, `p >> 4 & 255` the weight of the right (lower) one. The sample
@@ -214,10 +214,10 @@ TESSARO_API void TESSARO_CALL BBIAlphaTableCreate(uint32_t* table, float opacity
 /**
  * Resizes all of `src` to all of `dst` with a cubic kernel.
  *
- * The corners of the images coincide: destination column x lies at `x * rx` with
- * `rx = (src width - 1) / (dst width - 1)`, 0 for a destination of one column; i is its integer part and t
- * the rest. The four columns from i - 1 on have the weights k(1 + t), k(t), k(1 - t), k(2 - t), where k(v) is
- * `1.0 - 2.0 * v * v + v * v * v` for v < 1 and `4.0 - 8.0 * v + 5.0 * v * v - v * v * v` else; rows
+ * The corners of the images coincide: destination column x lies at x times the quotient of width - 1 of `src`
+ * and of `dst`, or at 0 for a destination of one column; i is its integer part and t the rest. The four
+ * columns from i - 1 on have the weights k(1 + t), k(t), k(1 - t), k(2 - t), where k(v) is
+ * `1.0 - 2.0 * v * v + v * v * v` for `v < 1` and `4.0 - 8.0 * v + 5.0 * v * v - v * v * v` else; rows
  * likewise, all in double precision.
  *
  * A tap's weight is the product of its column's and its row's, rounded to single precision; below 0 it counts
@@ -241,9 +241,9 @@ TESSARO_API int32_t TESSARO_CALL BBILinear(ImageRecord* dst, const ImageRecord* 
  *     (1, 0) (0, -1) (-1, 0) (0, 1)   (1, -1) (-1, -1) (-1, 1) (1, 1)   (2, 0) (0, -2) (-2, 0) (0, 2)
  *     (2, -1) (-1, -2) (-2, 1) (1, 2)   (1, -2) (-2, -1) (-1, 2) (2, 1)
  *
- * Of these the first `min((sw / dw + sh / dh + 5) & ~3, 20)` take part, and only where they lie at sx < x <
- * sw and sy < y < sh: the clipped sizes serve as limits of coordinates. d becomes v. Rows of `src` are taken
- * to lie `pitch / 4 * 4` bytes apart.
+ * Of these the first `min((sw / dw + sh / dh + 5) & ~3, 20)` take part, and only where they lie at `sx < x`,
+ * `x < sw`, `sy < y` and `y < sh`: the clipped sizes serve as limits of coordinates. d becomes v. Rows of
+ * `src` are taken to lie `pitch / 4 * 4` bytes apart.
  */
 TESSARO_API int32_t TESSARO_CALL BBILinearBltTest(ImageRecord* dst, const ImageRecord* src, int32_t dx,
                                                   int32_t dy, int32_t dw, int32_t dh, int32_t sx, int32_t sy,
@@ -346,9 +346,8 @@ TESSARO_API int32_t TESSARO_CALL BBIBltVBlurLoop(ImageRecord* dst, const ImageRe
  *
  * A source pixel counts as num units, a destination pixel is the mean of den units.
  *
- * - Shrinking (num < den) starts at the first pixel: destination pixel k is made of the units k * den .. (k +
- *   1) * den - 1, and unit u is source pixel `min(u / num, n - 1)`. The end of the row repeats the last
- *   pixel.
+ * - Shrinking (`num < den`) starts at the first pixel: destination pixel k is made of den units from k * den
+ *   on, and unit u is source pixel `min(u / num, n - 1)`. The end of the row repeats the last pixel.
  * - Enlarging (and num = den) starts at the last pixel: destination pixel n - 1 - k is made of the same
  *   units, and unit u is source pixel `max(m - 1 - u / num, 0)` with `m = n * den / num`. What is left over
  *   at the start repeats pixel 0.
