@@ -156,9 +156,9 @@ TESSARO_API int32_t TESSARO_CALL BBIDrawColorTile(ImageRecord* image, int32_t x,
  *
  * With (sx, sy, sw, sh) the clipped source rectangle, the visible part begins at `(float)(sx / W)` and ends
  * at `(float)((sx + sw) / W)` across, down likewise with H. Column i of n visible ones lies at
- * `u = (1 - f) * begin + f * end` with f = i / (n - 1), row j at `v = (float)(...)` of the same. A weight is
- * `trunc(min(u, 1) * 256)`. The pixel is mix(mix(top_left, bottom_left, wv), mix(top_right, bottom_right,
- * wv), wu).
+ * `u = (1 - f) * begin + f * end` with `f = i / (n - 1)`; rows likewise, but v is rounded to float. A weight
+ * is `trunc(min(u, 1) * 256)`. With the weights wu and wv the pixel is
+ * `mix(mix(top_left, bottom_left, wv), mix(top_right, bottom_right, wv), wu)`.
  *
  * Where one column (row) is visible, its weight is 0: it shows the left (top) colours, wherever it lies in
  * the box.
@@ -178,9 +178,9 @@ TESSARO_API int32_t TESSARO_CALL BBIDrawBox(ImageRecord* image, int32_t x, int32
  * @defgroup patterned Boxes by corners
  * @brief Fill the box between two corners, both included and in any order, with colours of a pattern image.
  *
- * Rows go from y0 to y1 and pixels from x0 to x1, whichever is greater. The pixel (x, y) lies at u = (x - x0)
- * / (x1 - x0) and v = (y - y0) / (y1 - y0), 0 where the two are equal: corners in reverse order mirror the
- * pattern. All four bytes are replaced.
+ * Rows go from y0 to y1 and pixels from x0 to x1, whichever is greater. The pixel (x, y) lies at
+ * `u = (x - x0) / (x1 - x0)` and `v = (y - y0) / (y1 - y0)`, 0 where the two are equal: corners in reverse
+ * order mirror the pattern. All four bytes are replaced.
  *
  * @param[in] pattern [image] At least 2 x 2 pixels. It may be part of the image.
  * @retval 0 Done, also when nothing lies inside the image.

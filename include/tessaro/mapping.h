@@ -1,4 +1,21 @@
-/* Texture mapping and stencils. */
+/**
+ * @file
+ * @brief Texture mapping and stencils.
+ *
+ * The rectangle is clipped against `dst` first, then against each image that is read at (sx, sy): what is cut
+ * at the left or top moves the position in the other images along, what is cut at the right or bottom only
+ * shortens.
+ *
+ * Images may share memory: pixels go left to right and rows top to bottom without a copy, and where areas
+ * overlap later pixels see what earlier ones wrote. d is the pixel of `dst` before it is written. mix(a, b,
+ * w) with a weight w of 0..256 is `(a * (256 - w) + b * w) >> 8` in each of the four channels; trunc rounds
+ * toward zero. What is told in formulas is formed in double precision unless a cast to float stands there.
+ *
+ * @param[in,out] dst [image] The image that is changed.
+ * @param dx, dy [pixels] Where the rectangle begins in `dst`.
+ * @param cx, cy [pixels] The size of the rectangle.
+ * @param sx, sy [pixels] Where the rectangle begins in the images that are read.
+ */
 #ifndef TESSARO_MAPPING_H
 #define TESSARO_MAPPING_H
 
@@ -8,98 +25,162 @@
 extern "C" {
 #endif
 
-/* ---- Maps --------------------------------------------------------------------------------------------------
+/**
+ * @defgroup maps Maps
+ * @brief Recolour a rectangle through an image that serves as a table.
  *
- * Recolour the w x h rectangle of src at (sx, sy) into dst at (dx, dy) through a map image. Each channel of the
- * result is that channel of the map pixel whose column is a channel's value (0..255) and whose row depends on the
- * export: trunc(quantity * factor), with a factor in single precision. s is the source's pixel, d the destination's
- * before it is replaced, H the map's height, w and h the size of the clipped rectangle.
+ * Each channel of d becomes that channel of the pixel of `map` whose column is a channel's value, 0..255, and
+ * whose row depends on the function: `trunc(quantity * factor)`. In a name, UC takes the columns from s, the
+ * pixel of `src`, channel by channel; UD takes them from d. H is the height of the map; cx and cy are the
+ * clipped size.
  *
- * The rectangle is clipped against both images; 1 is returned when nothing is left of it, or when the map is
- * narrower than 256 pixels or has too few rows (one is enough, except where stated). Otherwise 0. The images may
- * share memory: pixels go left to right and top to bottom, channels blue, green, red, alpha, and each byte is read
- * where the walk stands. */
+ * In a pixel the quantity comes first, then blue, green, red, alpha: each byte, of the map too, is read just
+ * before it serves.
+ *
+ * @param[in] src [image] What is recoloured, or selects the row.
+ * @param[in] map [image] At least 256 pixels wide, of which the first 256 columns count, and one row high.
+ * @retval 0 Done.
+ * @retval 1 [untouched] Clipping left nothing, or the map is too small.
+ * @{
+ */
 
-/* The first map row, for every pixel; columns from s: a tone curve per channel. */
+/** A tone curve for each channel: row 0 for every pixel, columns from s. */
 TESSARO_API int32_t TESSARO_CALL BBIMapUC(ImageRecord* dst, const ImageRecord* src, const ImageRecord* map,
-                                          int32_t dx, int32_t dy, int32_t w, int32_t h, int32_t sx,
+                                          int32_t dx, int32_t dy, int32_t cx, int32_t cy, int32_t sx,
                                           int32_t sy);
 
-/* Row by the alpha of s, factor (H - 1) * 0.003921569 (a little above 1 / 255); columns from s. With 256 rows the row is
- * the alpha. */
+/**
+ * Row by the alpha of s, with the factor `(float)((H - 1) * 0.003921569f)`; columns from s.
+ *
+ * The constant is a little above 1 / 255. With 256 rows the row is the alpha.
+ */
 TESSARO_API int32_t TESSARO_CALL BBIMapUCVA(ImageRecord* dst, const ImageRecord* src, const ImageRecord* map,
-                                            int32_t dx, int32_t dy, int32_t w, int32_t h, int32_t sx,
+                                            int32_t dx, int32_t dy, int32_t cx, int32_t cy, int32_t sx,
                                             int32_t sy);
 
-/* The same row; columns from d: s only selects the row. */
+/** The row of BBIMapUCVA, columns from d: s only selects the row. */
 TESSARO_API int32_t TESSARO_CALL BBIMapUDVA(ImageRecord* dst, const ImageRecord* src, const ImageRecord* map,
-                                            int32_t dx, int32_t dy, int32_t w, int32_t h, int32_t sx,
+                                            int32_t dx, int32_t dy, int32_t cx, int32_t cy, int32_t sx,
                                             int32_t sy);
 
-/* As BBIMapUCVA and BBIMapUDVA, but the alpha of d stays, and a map of fewer than 256 rows is refused with 1. */
+/**
+ * As BBIMapUCVA, but the alpha of d stays.
+ *
+ * @param[in] map [image] At least 256 x 256 pixels.
+ */
 TESSARO_API int32_t TESSARO_CALL BBIMapMCUCVA(ImageRecord* dst, const ImageRecord* src,
-                                              const ImageRecord* map, int32_t dx, int32_t dy, int32_t w,
-                                              int32_t h, int32_t sx, int32_t sy);
+                                              const ImageRecord* map, int32_t dx, int32_t dy, int32_t cx,
+                                              int32_t cy, int32_t sx, int32_t sy);
+
+/**
+ * As BBIMapUDVA, but the alpha of d stays.
+ *
+ * @param[in] map [image] At least 256 x 256 pixels.
+ */
 TESSARO_API int32_t TESSARO_CALL BBIMapMCUDVA(ImageRecord* dst, const ImageRecord* src,
-                                              const ImageRecord* map, int32_t dx, int32_t dy, int32_t w,
-                                              int32_t h, int32_t sx, int32_t sy);
+                                              const ImageRecord* map, int32_t dx, int32_t dy, int32_t cx,
+                                              int32_t cy, int32_t sx, int32_t sy);
 
-/* Row by blue + green + red of s (0..765), factor (H - 1) * 0.0013071896; columns from s, and from d. */
+/**
+ * Row by blue + green + red of s, with the factor `(float)((H - 1) * 0.0013071896f)`; columns from s.
+ *
+ * The constant is about 1 / 765.
+ */
 TESSARO_API int32_t TESSARO_CALL BBIMapUCVC(ImageRecord* dst, const ImageRecord* src, const ImageRecord* map,
-                                            int32_t dx, int32_t dy, int32_t w, int32_t h, int32_t sx,
+                                            int32_t dx, int32_t dy, int32_t cx, int32_t cy, int32_t sx,
                                             int32_t sy);
+
+/** The row of BBIMapUCVC, columns from d. */
 TESSARO_API int32_t TESSARO_CALL BBIMapUDVC(ImageRecord* dst, const ImageRecord* src, const ImageRecord* map,
-                                            int32_t dx, int32_t dy, int32_t w, int32_t h, int32_t sx,
+                                            int32_t dx, int32_t dy, int32_t cx, int32_t cy, int32_t sx,
                                             int32_t sy);
 
-/* Row by the column x of the clipped rectangle, 4 * x times the factor (H - 1) / (4 * (w - 1)), or across its rows, y
- * times (H - 1) / (h - 1): from the first map row at the left (top) edge to the last at the right (bottom), as far as
- * the single-precision factor gets there. A rectangle one pixel wide (high) uses row 0. Columns from s. */
+/**
+ * Row by the column in the clipped rectangle: in column i,
+ * `trunc(4 * i * (float)((H - 1) / (4.0 * (cx - 1))))`; columns from s.
+ *
+ * So the left edge has the first row of the map and the right edge the last, or the one before it, as the
+ * rounding of the factor goes. One pixel wide, it has row 0.
+ */
 TESSARO_API int32_t TESSARO_CALL BBIMapUCVX(ImageRecord* dst, const ImageRecord* src, const ImageRecord* map,
-                                            int32_t dx, int32_t dy, int32_t w, int32_t h, int32_t sx,
+                                            int32_t dx, int32_t dy, int32_t cx, int32_t cy, int32_t sx,
                                             int32_t sy);
+
+/**
+ * The same downward: in row i of the rectangle, `trunc(i * (float)((H - 1) / (cy - 1.0)))`; one pixel high,
+ * row 0.
+ */
 TESSARO_API int32_t TESSARO_CALL BBIMapUCVY(ImageRecord* dst, const ImageRecord* src, const ImageRecord* map,
-                                            int32_t dx, int32_t dy, int32_t w, int32_t h, int32_t sx,
+                                            int32_t dx, int32_t dy, int32_t cx, int32_t cy, int32_t sx,
                                             int32_t sy);
 
-/* ---- Stencils ----------------------------------------------------------------------------------------------
- *
- * Transitions between two pictures: the alpha of a stencil decides, pixel by pixel, when the outgoing picture gives
- * way to the incoming one; low values go first. All sources are read at (sx, sy), dst is written at (dx, dy); the
- * rectangle is clipped against all of them, and 1 is returned when nothing is left of it, otherwise 0.
- *
- * progress    0 shows the outgoing picture, 1 the incoming one; clamped, not a number counts as 0
- * softness    0 and below (or not a number): a hard wipe, incoming where the stencil is below
- *             trunc(progress * 256). 1000 and above: a cross-fade whatever the stencil. Between: a ramp of this
- *             width, 1 being the whole range of the stencil, which slides from below 0 to above 1.
- *
- * Soft forms mix (incoming * (256 - w) + outgoing * w) >> 8 in all four channels. dst may be one of the sources. */
+/** @} */
 
-/* The incoming picture's own alpha is the stencil. `wide` is accepted and changes nothing. */
+/**
+ * @defgroup stencils Stencils
+ * @brief Let the alpha of a stencil decide, pixel by pixel, when one picture gives way to another.
+ *
+ * Low values of the stencil go first. With a the alpha of the stencil, p the progress and s the softness:
+ *
+ * - s of 0 and below, or not a number: a hard wipe. d becomes the incoming pixel where `a < trunc(p * 256)`,
+ *   else the outgoing one.
+ * - s of 1000 and above: a cross-fade whatever the stencil, with the weight `trunc((1 - p) * 256)`.
+ * - between: a ramp that is s wide, 1 being the whole range of the stencil, and slides from below 0 to above
+ *   1. With `v = (float)(a * 0.003921569f)`, `lo = (float)((s + 1) * p - s / 2 - s / 2)` and
+ *   `hi = (s + 1) * p - s / 2 + s / 2` the weight is 0 for `v <= lo`, 256 for `v >= hi`, else
+ *   `min(trunc((v - lo) / s * 256), 256)`.
+ *
+ * Where there is a weight, d becomes mix(incoming, outgoing, weight): 256 shows the outgoing picture.
+ *
+ * @param[in] outgoing [image] The picture that progress 0 shows.
+ * @param[in] incoming [image] The picture that progress 1 shows.
+ * @param[in] stencil [image] Its alpha decides.
+ * @param progress [factor, 0..1] How far the transition has gone; clamped, not a number counts as 0.
+ * @param softness [factor, 0..1000] The width of the edge.
+ * @retval 0 Done.
+ * @retval 1 [untouched] Clipping left nothing.
+ * @{
+ */
+
+/**
+ * The incoming picture's own alpha is the stencil.
+ *
+ * @param unused [flag] Counts for nothing.
+ */
 TESSARO_API int32_t TESSARO_CALL BBIStencilFlip(ImageRecord* dst, const ImageRecord* outgoing,
                                                 const ImageRecord* incoming, int32_t dx, int32_t dy,
-                                                int32_t w, int32_t h, int32_t sx, int32_t sy, float progress,
-                                                float softness, int32_t wide);
+                                                int32_t cx, int32_t cy, int32_t sx, int32_t sy,
+                                                float progress, float softness, int32_t unused);
 
-/* A stencil of its own; from first to second. */
-TESSARO_API int32_t TESSARO_CALL BBIStencilFlipLE(ImageRecord* dst, const ImageRecord* first,
-                                                  const ImageRecord* second, const ImageRecord* stencil,
-                                                  int32_t dx, int32_t dy, int32_t w, int32_t h, int32_t sx,
+/** A stencil of its own. */
+TESSARO_API int32_t TESSARO_CALL BBIStencilFlipLE(ImageRecord* dst, const ImageRecord* outgoing,
+                                                  const ImageRecord* incoming, const ImageRecord* stencil,
+                                                  int32_t dx, int32_t dy, int32_t cx, int32_t cy, int32_t sx,
                                                   int32_t sy, float progress, float softness);
 
-/* The same from second to first. */
-TESSARO_API int32_t TESSARO_CALL BBIStencilFlipLEFix(ImageRecord* dst, const ImageRecord* first,
-                                                     const ImageRecord* second, const ImageRecord* stencil,
-                                                     int32_t dx, int32_t dy, int32_t w, int32_t h, int32_t sx,
-                                                     int32_t sy, float progress, float softness);
+/** As BBIStencilFlipLE, with the two pictures in the other order. */
+TESSARO_API int32_t TESSARO_CALL BBIStencilFlipLEFix(ImageRecord* dst, const ImageRecord* incoming,
+                                                     const ImageRecord* outgoing, const ImageRecord* stencil,
+                                                     int32_t dx, int32_t dy, int32_t cx, int32_t cy,
+                                                     int32_t sx, int32_t sy, float progress, float softness);
 
-/* Shifts colours where the stencil (the alpha of src) is: with T = clamp(d + 2 * c - 255, 0, 255) for each colour byte
- * c of color and an alpha of 0, d becomes (d * (256 - a) + T * a) >> 8 in all four channels, a = trunc(alpha * opacity *
- * 0.003921569 * 256). 128 adds 1, 127 takes 1, 255 adds 255, 0 takes 255. The destination's alpha falls to 0 where the
- * stencil is opaque. opacity is clamped to 0..1, not a number counts as 0; the alpha of color is ignored. */
+/**
+ * Shifts colours up or down where the stencil, the alpha of `src`, is.
+ *
+ * d becomes mix(d, T, w): the colours of T are `min(max(d + 2 * c - 255, 0), 255)` with c the byte of
+ * `colour`, its alpha is 0. So 128 adds 1, 127 takes 1, 255 adds 255, 0 takes 255; and the alpha of `dst`
+ * falls to 0 where the stencil is opaque. w is `trunc(a * opacity * 0.003921569f * 256)` for a stencil of a,
+ * products from left to right.
+ *
+ * @param[in] src [image] The stencil.
+ * @param opacity [opacity, 0..1] Clamped; not a number counts as 0.
+ * @param colour [colour] The shift; its alpha counts for nothing.
+ */
 TESSARO_API int32_t TESSARO_CALL BBIStencilAddsigned(ImageRecord* dst, const ImageRecord* src, int32_t dx,
-                                                     int32_t dy, int32_t w, int32_t h, int32_t sx, int32_t sy,
-                                                     float opacity, uint32_t color);
+                                                     int32_t dy, int32_t cx, int32_t cy, int32_t sx,
+                                                     int32_t sy, float opacity, uint32_t colour);
+
+/** @} */
 
 #ifdef __cplusplus
 }
