@@ -2,10 +2,12 @@
 // as a host would, and digests what comes of it.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <cstring>
 #include <limits>
 #include <memory>
+#include <sstream>
 #include <string>
 #include <tuple>
 #include <type_traits>
@@ -51,17 +53,130 @@ enum class Range {
   extreme    // anything that 32 bits hold
 };
 
+// What to draw for the parameters of an export, one letter each; those that no letter is left for are drawn by type.
+//   x  a position           b  a flag, 0 as a rule     k  a mode, 0..11
+//   w  a size               l  a level, 0..255         0..9  a mode, from 0 to the digit
+//   F  a pixel format       V  a sample                B H R  sample bits, channels, rate
+//   P  a power of two       n  length of the source    N  length of its stream
+//   S  a source of n bytes  D  its stream              E  memory like the last, but for a byte
+//   O  an image of one colour with strays              o  that colour
+//   M  a map                W  256 weights             T  a table of reverb taps   Q  the reverb's ring
+// A row is for the exports that it names, a star standing for any end, or for those whose parameters begin with the
+// types in its parenthesis: I image, S sound, p and P memory that is read and written, i u f d numbers. The first counts.
+struct Drawn {
+  const char* exports;
+  const char* letters;
+};
+inline constexpr Drawn drawn[] = {
+    {"BBIBltHalfSize", "..223322"},
+    {"BBIBltAlpha", "..xxwwxxbbbb"},
+    {"BBIBltKeyingFX", "..xxwwxxbl"},
+    {"BBIBltUScale BBIBltVScale", "..xxwwxx99"},
+    {"BBILinearRender", "..xxwwxxwwW3b"},
+    {"BBIMap*", "..Mxxwwxx"},
+    {"BBIClear*", ".llll"},
+    {"BBIPaintChoose", ".k"},
+    {"BBIDotThick BBILineThick", "Oxxww.o"},
+    {"BBICompare", "..8"},
+    {"BBIRotation", "..2"},
+    {"BBIChooseRGBA", "..7777"},
+    {"BBIChoose*", "..33"},
+    {"BBIColorPalette", "..l"},
+    {"BBITrim BBIColorCount", ".b"},
+    {"BBIBltToBBIGet", "...F"},
+    {"waveFormatEnc", "BHR"},
+    {"waveEffectReverbA1", "..Q...99lT"},
+    {"wavefft*", ".9P"},
+    {"dllComp", ".El"},
+    {"SHR SAR SHL", "Vl"},
+    // Blits and what is called like them, one, two, three and four images; lines and boxes.
+    {"(IIiiiiiiii", "..xxwwxxww"},
+    {"(IIiiiiii", "..xxwwxx"},
+    {"(IIIiiiiii", "...xxwwxx"},
+    {"(IIIIiiiiii", "....xxwwxx"},
+    {"(IIiiii", "..xxww"},
+    {"(Iiiiiii", ".xxxxxx"},
+    {"(Iiiii", ".xxww"},
+    {"(Iii", ".xxw"},
+    // Packed pixels: with a colour, and from two sources.
+    {"(Ppiiuf", "...F"},
+    {"(Pppiif", "....F"},
+    // Samples that are read, and written.
+    {"(piiiiPP", ".9BHw"},
+    {"(Piiii", ".9BHwVV"},
+    // Encoders, decoders, and decoders that know the size of the stream.
+    {"(pPuP", "S.n"},
+    {"(pPuu", "D.Nn"},
+    {"(pPu", "D.n"},
+};
+
+template <class T>
+constexpr char letter_of() {
+  if constexpr (std::is_pointer_v<T>) {
+    using Pointed = std::remove_pointer_t<T>;
+    if constexpr (std::is_same_v<std::remove_cv_t<Pointed>, ImageRecord>)
+      return 'I';
+    else if constexpr (std::is_same_v<std::remove_cv_t<Pointed>, WaveBuffer>)
+      return 'S';
+    else
+      return std::is_const_v<Pointed> ? 'p' : 'P';
+  } else if constexpr (std::is_floating_point_v<T>) {
+    return sizeof(T) == 4 ? 'f' : 'd';
+  } else {
+    return std::is_unsigned_v<T> ? 'u' : 'i';
+  }
+}
+
+inline std::string letters_for(const std::string& name, const std::string& types) {
+  for (const Drawn& row : drawn) {
+    std::istringstream patterns(row.exports);
+    for (std::string pattern; patterns >> pattern;) {
+      const bool fits = pattern[0] == '('       ? types.starts_with(pattern.substr(1))
+                        : pattern.back() == '*' ? name.starts_with(pattern.substr(0, pattern.size() - 1))
+                                                : name == pattern;
+      if (fits) return row.letters;
+    }
+  }
+  return "";
+}
+
+// Pixels in runs, as coders like them: on the average once in `run` the next one is near the last one, or of any grey or
+// colour.
+inline std::vector<uint8_t> pixels_in_runs(Random& random, size_t bytes, uint32_t run) {
+  std::vector<uint8_t> source(bytes);
+  uint32_t pixel = 0;
+  for (size_t i = 0; i < bytes; ++i) {
+    if (i % 4 == 0 && random.one_in(run))
+      pixel = random.one_in(3)   ? pixel + 0x01010101
+              : random.one_in(3) ? random.word()
+                                 : 0x01010101 * (random.word() & 255);
+    source[i] = static_cast<uint8_t>(pixel >> i % 4 * 8);
+  }
+  return source;
+}
+
+// What a coder is given: pixels, and the stream that their format's encoder makes of them.
+struct Coded {
+  std::vector<uint8_t> source, stream;
+};
+
 // The arguments of one call and the memory that they point to.
 class Arguments {
  public:
-  // words: unsigned arguments are colours and masks, not lengths.
-  Arguments(uint64_t seed, Range range, bool words) : random_(seed), range_(range), words_(words) {
-    width_ = random_.between(1, 40);
-    height_ = random_.between(1, 24);
+  Arguments(uint64_t seed, Range range, std::string letters, Coded coded)
+      : random_(seed), range_(range), letters_(std::move(letters)), coded_(std::move(coded)) {
+    width_ = random_.between(4, 48);
+    height_ = random_.between(4, 32);
+    for (uint32_t& colour : colours_) {
+      static constexpr uint32_t plain[] = {0, 0xFF000000, 0xFFFFFFFF, 0xFF808080, 0x00FFFFFF};
+      colour = random_.one_in(2) ? random_.one_of(plain) : random_.word();
+    }
   }
 
   template <class T>
   T make() {
+    letter_ = place_ < letters_.size() ? letters_[place_] : '.';
+    ++place_;
     if constexpr (std::is_pointer_v<T>)
       return point(T{});
     else if constexpr (std::is_floating_point_v<T>)
@@ -70,18 +185,26 @@ class Arguments {
       return static_cast<T>(integer(std::is_unsigned_v<T>));
   }
 
-  // What the raw memory that a function only reads is to begin with.
-  void feed(std::vector<uint8_t> bytes) { feed_ = std::move(bytes); }
-
+  // Notes what the memory holds before the call.
+  void seal() {
+    for (const auto& block : blocks_) block->before = block->contents();
+  }
   void digest_memory(uint64_t& into) const {
     for (const auto& block : blocks_)
-      if (block->written) digest(into, block->bytes.data(), block->bytes.size());
+      if (block->written || block->image) digest(into, block->bytes.data(), block->bytes.size());
   }
-  // Whether every byte that no image, sound or buffer holds is as it was.
-  bool margins_intact() const {
+  bool memory_changed() const {
     for (const auto& block : blocks_)
+      if (block->written && block->contents() != block->before) return true;
+    return false;
+  }
+  // Whether what is only read, and every byte that no image, sound or buffer holds, is as it was.
+  bool rest_intact() const {
+    for (const auto& block : blocks_) {
       for (size_t i = 0; i < margin; ++i)
         if (block->bytes[i] != fence || block->bytes[block->bytes.size() - 1 - i] != fence) return false;
+      if (!block->written && block->contents() != block->before) return false;
+    }
     return true;
   }
 
@@ -90,9 +213,15 @@ class Arguments {
   static constexpr uint8_t fence = 0xA5;
   struct Block {
     std::vector<uint8_t> bytes;
-    bool written;
+    bool written, image;
     WaveBuffer sound;
+    uint64_t before;
     uint8_t* data() { return bytes.data() + margin; }
+    uint64_t contents() const {
+      uint64_t all = 0;
+      digest(all, bytes.data(), bytes.size());
+      return all;
+    }
   };
 
   Block& block(size_t bytes, bool written) {
@@ -102,35 +231,61 @@ class Arguments {
     return *blocks_.back();
   }
 
-  ImageRecord* image() {
-    if (last_image_ != nullptr && random_.one_in(6)) return last_image_;
-    const bool alike = !random_.one_in(3);
-    const int32_t width = alike ? width_ : random_.between(0, 50),
-                  height = alike ? height_ : random_.between(0, 30);
+  ImageRecord* image(bool written) {
+    if (last_image_ != nullptr && letter_ != 'M' && random_.one_in(6)) {
+      last_image_->written |= written;
+      return reinterpret_cast<ImageRecord*>(last_image_->data());
+    }
+    const bool alike = !random_.one_in(3), turned = !alike && random_.one_in(2);
+    int32_t width = alike    ? width_
+                    : turned ? height_
+                             : random_.between(0, 50),
+            height = alike    ? height_
+                     : turned ? width_
+                              : random_.between(0, 30);
+    if (letter_ == 'M' && !random_.one_in(8)) {
+      width = random_.between(256, 258);
+      height = random_.one_in(range_ == Range::extreme ? 64 : 2) ? random_.between(256, 258)
+                                                                 : random_.between(1, 20);
+    }
     const int32_t step = 4 * width + (random_.one_in(4) ? random_.between(0, 9) : 0);
-    const bool upwards = random_.one_in(4);
+    const bool upwards = letter_ != 'M' && random_.one_in(4);
     const int32_t head = 12 + random_.between(0, 5), rows = step * height;
-    Block& memory = block(static_cast<size_t>(head + rows), true);
+    Block& memory = block(static_cast<size_t>(head + rows), written);
+    memory.image = true;
+    last_image_ = &memory;
     uint8_t* record = memory.data();
     const int16_t fields[5] = {4, static_cast<int16_t>(head + (upwards && height > 0 ? rows - step : 0)),
                                static_cast<int16_t>(width), static_cast<int16_t>(height),
                                static_cast<int16_t>(upwards ? -step : step)};
     std::memcpy(record, fields, sizeof fields);
-    for (int32_t i = 0; i < rows; ++i) {
+    const bool flat = letter_ == 'O' || random_.one_in(2);  // few colours, in patches
+    const uint32_t run = letter_ == 'O' ? 5 : random_.one_in(4) ? 1u << 30 : 3;
+    uint32_t colour = random_.one_of(colours_);
+    for (int32_t i = 0; i < rows; i += 4) {
       const uint32_t v = random_.word();
-      record[head + i] = v & 0x700 ? static_cast<uint8_t>(v) : v & 0x800 ? uint8_t{255} : uint8_t{0};
+      if (v % run == 0)
+        colour = colours_[v >> 30];
+      else if (letter_ == 'O')
+        colour = colours_[0];
+      // Random bytes, and more than their share of those at which rules turn.
+      const uint32_t noise = v % 4 == 0 ? v | 0xFF000000 : v % 4 == 1 ? v & 0x00FFFF00 : random_.word();
+      const uint32_t pixel = flat ? colour : noise;
+      std::memcpy(record + head + i, &pixel, static_cast<size_t>(std::min(4, rows - i)));
     }
-    return last_image_ = reinterpret_cast<ImageRecord*>(record);
+    return reinterpret_cast<ImageRecord*>(record);
   }
 
   WaveBuffer* sound() {
     static constexpr int32_t bits[] = {8, 16, 24, 64}, rates[] = {8000, 22050, 44100, 96000};
-    const int32_t width = random_.one_of(bits), channels = random_.between(1, 2);
-    const int32_t count = random_.one_in(8) ? 0 : random_.between(1, 90);
-    const size_t samples = static_cast<size_t>(count * channels);
+    const bool ring = letter_ == 'Q' && !random_.one_in(4);
+    const int32_t width = ring ? 64 : random_.one_of(bits), channels = random_.between(1, 2);
+    const int32_t count = ring ? 524288 : random_.one_in(8) ? 0 : random_.between(1, 90);
+    const size_t samples = static_cast<size_t>(count) * static_cast<size_t>(ring ? 2 : channels);
     Block& memory = block(samples * static_cast<size_t>(width / 8), true);
+    if (ring) std::memset(memory.data(), 0, samples * 8);
     if (width == 64)
-      fill_reals(memory.data(), samples);
+      fill_reals(memory.data(), ring ? 1000 : samples);
     else
       for (size_t i = 0; i < samples * static_cast<size_t>(width / 8); ++i)
         memory.data()[i] = static_cast<uint8_t>(random_.word());
@@ -139,12 +294,16 @@ class Arguments {
   }
 
   // Raw memory, far larger than any ordinary count asks for; the pointer leaves room for negative offsets too.
-  static constexpr size_t before = 16384, after = 65536;
+  static constexpr size_t before = 4096;
   template <class T>
   T* buffer(bool written) {
+    const size_t after = letter_ == 'T' ? 30000 * sizeof(double) : 16384;
     Block& memory = block(before + after, written);
     uint8_t* at = memory.data();
-    if constexpr (std::is_same_v<T, double>) {
+    if (letter_ == 'E') {
+      std::memcpy(at, (blocks_.end() - 2)->get()->data(), before + after);
+      at[before + static_cast<size_t>(random_.between(0, 200))] ^= 1;
+    } else if constexpr (std::is_same_v<T, double>) {
       fill_reals(at, (before + after) / sizeof(double));
     } else if constexpr (std::is_same_v<T, int32_t>) {
       for (size_t i = 0; i < before + after; i += 4) {
@@ -152,14 +311,15 @@ class Arguments {
         std::memcpy(at + i, &position, 4);
       }
     } else {
-      const bool weights = std::is_same_v<T, uint32_t> && last_image_ != nullptr;  // 0..256, for tables
       uint32_t v = 0;
       for (size_t i = 0; i < before + after; i += 4) {
-        if (!random_.one_in(4)) v = weights ? random_.word() % 257 : random_.word();  // runs for the coders
+        if (!random_.one_in(4)) v = letter_ == 'W' ? random_.word() % 257 : random_.word();
         std::memcpy(at + i, &v, 4);
       }
     }
-    if (!written && !feed_.empty()) std::memcpy(at + before, feed_.data(), feed_.size());
+    const auto& given = letter_ == 'S' ? coded_.source : coded_.stream;
+    if ((letter_ == 'S' || letter_ == 'D') && !given.empty())
+      std::memcpy(at + before, given.data(), given.size());
     return reinterpret_cast<T*>(at + before);
   }
 
@@ -170,8 +330,8 @@ class Arguments {
     }
   }
 
-  ImageRecord* point(ImageRecord*) { return image(); }
-  const ImageRecord* point(const ImageRecord*) { return image(); }
+  ImageRecord* point(ImageRecord*) { return image(true); }
+  const ImageRecord* point(const ImageRecord*) { return image(false); }
   WaveBuffer* point(WaveBuffer*) { return sound(); }
   const WaveBuffer* point(const WaveBuffer*) { return sound(); }
   template <class T>
@@ -191,11 +351,52 @@ class Arguments {
                                             65536,      0x3FFFFFFF, 0xFFFF0000};
       return random_.one_of(values);
     }
+    static constexpr int32_t formats[] = {8888, 888, 565, 555, 1555, 4444, 777}, rates[] = {0, 8000, 44100},
+                             bits[] = {8, 16, 24, 64, 64, 12};
+    const auto between = [&](int32_t low, int32_t high) {
+      return static_cast<uint32_t>(random_.between(low, high));
+    };
+    const uint32_t length = static_cast<uint32_t>(coded_.source.size()),
+                   stream = static_cast<uint32_t>(coded_.stream.size());
+    switch (letter_) {
+      case 'x':
+        return random_.one_in(8) ? between(-10, 50) : between(0, random_.one_in(5) ? 30 : 6);
+      case 'w':
+        return random_.one_in(6) ? between(-3, 70) : between(1, 40);
+      case 'b':
+        return random_.one_in(3) ? 1 : 0;
+      case 'l':
+        return random_.one_in(8) ? between(-5, 300) : between(0, 255);
+      case 'k':
+        return between(0, 11);
+      case 'F':
+        return static_cast<uint32_t>(random_.one_of(formats));
+      case 'B':
+        return static_cast<uint32_t>(random_.one_of(bits));
+      case 'H':
+        return random_.one_in(8) ? 3 : between(1, 2);
+      case 'R':
+        return static_cast<uint32_t>(random_.one_of(rates));
+      case 'V':
+        return random_.one_in(2) ? between(-40000, 40000) : random_.word();
+      case 'n':
+        return random_.one_in(6) ? length + between(-9, 9) : length;
+      case 'N':
+        return random_.one_in(3) ? between(0, static_cast<int32_t>(stream)) : stream;
+      case 'o':
+        return colours_[0];
+      case 'P':
+        return 1u << between(0, 6);
+      default:
+        break;
+    }
+    if (letter_ >= '0' && letter_ <= '9') return between(0, letter_ - '0');
     if (is_unsigned)
-      return words_ && !random_.one_in(3)
-                 ? random_.word()
-                 : static_cast<uint32_t>(random_.between(0, random_.one_in(2) ? 250 : 90));
-    return static_cast<uint32_t>(random_.one_in(4) ? random_.between(-20, 90) : random_.between(0, 30));
+      return random_.one_in(3)   ? colours_[0]
+             : random_.one_in(3) ? random_.one_of(colours_)
+             : random_.one_in(2) ? random_.word()
+                                 : between(0, 250);
+    return random_.one_in(4) ? between(-20, 90) : between(0, 30);
   }
 
   template <class T>
@@ -210,10 +411,13 @@ class Arguments {
 
   Random random_;
   Range range_;
-  bool words_;
+  std::string letters_;
+  Coded coded_;
+  size_t place_ = 0;
+  char letter_ = '.';
   int32_t width_, height_;
-  ImageRecord* last_image_ = nullptr;
-  std::vector<uint8_t> feed_;
+  uint32_t colours_[4];
+  Block* last_image_ = nullptr;
   std::vector<std::unique_ptr<Block>> blocks_;
 };
 
@@ -246,16 +450,28 @@ inline uint32_t call_at(void* function, const uint32_t* arguments, uint32_t coun
 }
 #endif
 
+struct Outcome {
+  uint64_t digest = 0xCBF29CE484222325u;  // of the result and of all memory
+  uint64_t result = 0;
+  bool changed = false;  // memory
+  bool intact = false;   // it kept to its memory and balanced the stack
+};
+
 // One export. Calls with the same seed are the same call.
 struct Export {
-  std::string name;
-  bool comparable = false;  // the outcome depends on nothing but the arguments
-  bool images = false;      // takes images, and otherwise numbers and tables only
-  // Returns the digest of the result and of all memory; `intact` tells whether it kept to its memory and balanced the stack.
-  uint64_t (*call)(const Export& self, uint64_t seed, Range range, bool& intact) = nullptr;
+  std::string name = {};
+  std::string first_name = {};  // of the same function
+  bool comparable = false;      // the outcome depends on nothing but the arguments
+  bool images = false;          // takes images, and otherwise numbers and tables only
+  bool writes = false;          // its types let it change memory
+  Outcome (*call)(const Export& self, uint64_t seed, Range range) = nullptr;
   void* function = nullptr;
-  std::vector<uint8_t> (*feed)(const Export& self, uint64_t seed) = nullptr;
+  std::string letters = {};   // see `drawn`
+  Export* encoder = nullptr;  // whose streams a decoder reads
 };
+
+// A format's pixels and stream. Each has pixels of its own, or all decoders would give back the same.
+Coded code(const Export& self, uint64_t seed);
 
 template <class T>
 inline constexpr bool is_image = std::is_same_v<std::remove_cv_t<std::remove_pointer_t<T>>, ImageRecord>;
@@ -263,16 +479,16 @@ template <class T>
 inline constexpr bool is_raw = std::is_pointer_v<T> && !is_image<T> && !std::is_same_v<T, const uint32_t*>;
 
 template <class R, class... A>
-uint64_t call(const Export& self, uint64_t seed, Range range, bool& intact) {
-  Arguments arguments(seed, range, self.name.starts_with("BBI"));
-  if (self.feed != nullptr) arguments.feed(self.feed(self, seed));
+Outcome call(const Export& self, uint64_t seed, Range range) {
+  Arguments arguments(seed, range, self.letters, code(self, seed));
   std::tuple<A...> values{arguments.make<A>()...};
-  uint64_t outcome = 0xCBF29CE484222325u;
-  bool refused = false;  // a decoder leaves unspecified bytes behind when its stream is cut
-  intact = true;
+  arguments.seal();
+  Outcome outcome;
+  bool refused = false, balanced = true;  // a decoder leaves unspecified bytes behind when its stream is cut
   const auto note = [&]<class Result>(Result result) {
-    digest(outcome, &result, sizeof result);
-    refused = self.feed != nullptr && result != 0;
+    digest(outcome.digest, &result, sizeof result);
+    outcome.result = static_cast<uint64_t>(result);
+    refused = self.encoder != nullptr && result != 0;
   };
 #if defined(__i386__)
   std::vector<uint32_t> words;
@@ -289,7 +505,7 @@ uint64_t call(const Export& self, uint64_t seed, Range range, bool& intact) {
   int32_t unbalanced;
   const uint32_t result =
       call_at(self.function, words.data(), static_cast<uint32_t>(words.size()), seed % 4 * 4, unbalanced);
-  intact = unbalanced == 0;
+  balanced = unbalanced == 0;
   if constexpr (!std::is_void_v<R>) note(static_cast<R>(result));
 #else
   const auto function = reinterpret_cast<R(TESSARO_CALL*)(A...)>(self.function);
@@ -298,19 +514,25 @@ uint64_t call(const Export& self, uint64_t seed, Range range, bool& intact) {
   else
     note(std::apply(function, values));
 #endif
-  intact = intact && arguments.margins_intact();
-  if (!refused) arguments.digest_memory(outcome);
+  outcome.intact = balanced && arguments.rest_intact();
+  outcome.changed = !refused && arguments.memory_changed();
+  if (!refused) arguments.digest_memory(outcome.digest);
   return outcome;
 }
 
 template <class R, class... A>
-Export describe(const char* name, R(TESSARO_CALL* function)(A...)) {
-  Export row{name};
+Export describe(const char* name, const char* first_name, R(TESSARO_CALL* function)(A...)) {
+  Export row;
+  row.name = name;
+  row.first_name = first_name;
   row.function = reinterpret_cast<void*>(function);
   if constexpr (!((std::is_pointer_v<A> && std::is_function_v<std::remove_pointer_t<A>>) || ...)) {
     row.call = call<R, A...>;
     row.comparable = true;
     row.images = (is_image<A> || ...) && !(is_raw<A> || ...);
+    const std::string types = {letter_of<A>()...};
+    row.writes = types.find_first_of("PS") != types.npos || (std::is_same_v<A, ImageRecord*> || ...);
+    row.letters = letters_for(name, types);
   }
   return row;
 }

@@ -1,5 +1,5 @@
 #include <algorithm>
-#include <iterator>
+#include <cstring>
 
 #include "library/calls.hpp"
 
@@ -7,37 +7,27 @@ namespace host {
 
 namespace {
 
-// What a decoder is to read: data of the same seed as encoded by its partner.
-template <class Encoder>
-std::vector<uint8_t> encode(Encoder encoder, uint64_t seed) {
-  Random random(seed + 1000);
-  std::vector<uint32_t> source(64), stream(1024);
-  for (size_t i = 0; i < source.size(); ++i)
-    source[i] = i > 0 && random.one_in(2) ? source[i - 1] : random.word();
-  uint32_t written = 0;
-  encoder(source.data(), stream.data(), 4 * 64, &written);
-  const auto* bytes = reinterpret_cast<const uint8_t*>(stream.data());
-  return {bytes, bytes + std::min<size_t>(written, 4096)};
-}
-
 Export* find(std::vector<Export>& all, const std::string& name) {
   const auto found =
       std::find_if(all.begin(), all.end(), [&](const Export& row) { return row.name == name; });
   return found == all.end() ? nullptr : &*found;
 }
 
-std::vector<uint8_t> partner_encodes(const Export& decoder, uint64_t seed) {
-  std::string name = decoder.name.substr(0, decoder.name.size() - (decoder.name.ends_with("Safe") ? 4 : 0));
-  name.replace(name.find("Decoder"), 7, "Encoder");
-  const Export* partner = find(exports(), name);
-  if (partner == nullptr) return {};
-  using Encoder = int32_t(TESSARO_CALL*)(const void*, void*, uint32_t, uint32_t*);
-  return encode(reinterpret_cast<Encoder>(partner->function), seed);
+// inabeDecoderExSafe reads what inabeEncoder makes, ib18DecoderExSafe what ib18EncoderEx makes.
+Export* encoder_for(std::vector<Export>& all, std::string name) {
+  const size_t at = name.find("Decoder");
+  if (at == name.npos) return nullptr;
+  name.replace(at, 7, "Encoder");
+  for (const char* end : {"Safe", "Ex"}) {
+    if (Export* row = find(all, name)) return row;
+    if (name.ends_with(end)) name.resize(name.size() - std::strlen(end));
+  }
+  return find(all, name);
 }
 
 std::vector<Export> describe_all() {
   std::vector<Export> all = {
-#define EXPORT(Name) describe(#Name, Name),
+#define EXPORT(Name, First) describe(#Name, #First, Name),
 #include "exports.inc"
 #undef EXPORT
   };
@@ -46,12 +36,33 @@ std::vector<Export> describe_all() {
   for (const char* name : {"GetCpuID", "GetRandom", "waveBltAddNoise", "ThreadBegin", "ThreadKill",
                            "WindowProcLoad", "WindowProcUnload", "DecodeImage", "DecodeImageHead"})
     if (Export* row = find(all, name)) row->comparable = false;
-  for (Export& row : all)
-    if (row.name.find("Decoder") != std::string::npos) row.feed = partner_encodes;
+  for (Export& row : all) row.encoder = encoder_for(all, row.name);
   return all;
 }
 
 }  // namespace
+
+Coded code(const Export& self, uint64_t seed) {
+  if (self.letters.find_first_of("SD") == std::string::npos) return {};
+  uint64_t format = seed;
+  if (self.encoder != nullptr) digest(format, self.encoder->name.data(), self.encoder->name.size());
+  Random random(format);
+  // At least what the formats ask for; a decoder may be given only what was coded to the end, so pixels are repeated until
+  // they are.
+  const size_t length = static_cast<size_t>(random.between(520, 1500));
+  for (uint32_t run = static_cast<uint32_t>(random.between(1, 12));; run *= 2) {
+    Coded coded{pixels_in_runs(random, length, run), {}};
+    if (self.encoder == nullptr) return coded;
+    coded.stream.resize(4 * length);
+    uint32_t written = 0;
+    using Encoder = int32_t(TESSARO_CALL*)(const void*, void*, uint32_t, uint32_t*);
+    const auto encode = reinterpret_cast<Encoder>(self.encoder->function);
+    if (encode(coded.source.data(), coded.stream.data(), static_cast<uint32_t>(length), &written) != 0)
+      continue;
+    coded.stream.resize(written);
+    return coded;
+  }
+}
 
 std::vector<Export>& exports() {
   static std::vector<Export> all = describe_all();
