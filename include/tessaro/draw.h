@@ -30,10 +30,10 @@ extern "C" {
  * @defgroup lines Lines
  * @brief Draw along the way from (x0, y0) to (x1, y1), both of which may lie anywhere.
  *
- * **The walk** has `n = max(|x1 - x0|, |y1 - y0|)` steps. Each coordinate has an error term that starts at n
- * / 2, rounded down. In each step it grows by that coordinate's distance, |x1 - x0| or |y1 - y0|, and when it
- * has reached n it drops by n and the coordinate moves by one. The points of the walk are those after each
- * step: the end is among them, the start is not.
+ * **The walk** has `n = max(|x1 - x0|, |y1 - y0|)` steps. Each coordinate has an error term that starts at
+ * `n / 2`, rounded down. In each step it grows by that coordinate's distance, |x1 - x0| or |y1 - y0|, and
+ * when it has reached n it drops by n and the coordinate moves by one. The points of the walk are those after
+ * each step: the end is among them, the start is not.
  *
  * Ends differ: BBIDrawLine leaves out its start, BBIDrawGradationLine goes on past its end, BBIDrawAlphaLine
  * draws both.
@@ -73,11 +73,11 @@ TESSARO_API int32_t TESSARO_CALL BBILineThick(ImageRecord* image, int32_t x0, in
                                               int32_t y1, uint32_t mask, uint32_t colour, int32_t thickness);
 
 /**
- * A gradient line, one step late.
+ * Draws a gradient line, one step late.
  *
  * The walk here has n + 1 steps, in which an error term drops only when it exceeds n, and every step i = 0..n
- * draws the point it reaches. So from n = 2 on the line runs from one past its start to one past its end: (0,
- * 0) to (4, 0) draws x = 1 to 5. For n = 1 it draws its two ends, for n = 0 its start.
+ * draws the point it reaches. So from n = 2 on the line runs from one past its start to one past its end: a
+ * line from (0, 0) to (4, 0) draws x = 1 to 5. For n = 1 it draws its two ends, for n = 0 its start.
  *
  * All four bytes are stored: with c0, c1 the bytes of the two colours, t = i / n (0 for n = 0) and
  * `u = (float)(1 - t)`, each is `trunc(c1 * t + c0 * u)`. Between equal colours a byte may come out one less.
@@ -89,7 +89,7 @@ TESSARO_API int32_t TESSARO_CALL BBIDrawGradationLine(ImageRecord* image, const 
                                                       int32_t x0, int32_t y0, int32_t x1, int32_t y1);
 
 /**
- * An antialiased gradient line, blended by the alpha of its colours, which is part of the gradient.
+ * Draws an antialiased gradient line, blended by the alpha of its colours, which is part of the gradient.
  *
  * M is the greater of |x1 - x0| and |y1 - y0|, N the other; the line goes along x where |x1 - x0| is greater,
  * else along y. It begins at the end where that coordinate is less, and the colours c0 and c1 change places
@@ -130,12 +130,13 @@ TESSARO_API int32_t TESSARO_CALL BBIDrawAlphaLine(ImageRecord* image, const Imag
  * @{
  */
 
-/** One colour. */
+/** Fills with one colour. */
 TESSARO_API int32_t TESSARO_CALL BBIDrawColorFill(ImageRecord* image, int32_t x, int32_t y, int32_t cx,
                                                   int32_t cy, uint32_t mask, uint32_t colour);
 
 /**
- * A checkerboard: pixel (i, j) of the image has colour number `(i / tile_cx & 1) + 2 * (j / tile_cy & 1)`.
+ * Fills with a checkerboard of four colours: pixel (i, j) of the image has colour number
+ * `(i / tile_cx & 1) + 2 * (j / tile_cy & 1)`.
  *
  * The pattern begins at the image's corner, not at the box's.
  *
@@ -152,7 +153,7 @@ TESSARO_API int32_t TESSARO_CALL BBIDrawColorTile(ImageRecord* image, int32_t x,
                                                   uint32_t colour3);
 
 /**
- * A gradient between four corner colours; a clipped box shows its part of it.
+ * Fills with a gradient between four corner colours, of which a clipped box shows its part.
  *
  * With (sx, sy, sw, sh) the clipped source rectangle, the visible part begins at `(float)(sx / W)` and ends
  * at `(float)((sx + sw) / W)` across, down likewise with H. Column i of n visible ones lies at
@@ -189,7 +190,7 @@ TESSARO_API int32_t TESSARO_CALL BBIDrawBox(ImageRecord* image, int32_t x, int32
  */
 
 /**
- * A gradient between the upper left 2 x 2 pixels of the pattern, one for each corner.
+ * Fills with a gradient between the upper left 2 x 2 pixels of the pattern, one for each corner.
  *
  * With p(column, row) a byte of the pattern, read before the first pixel is written,
  * `left = (float)(v * p(0, 1) + (1 - v) * p(0, 0))` and `right = (float)(v * p(1, 1) + (1 - v) * p(1, 0))`,
@@ -207,7 +208,7 @@ TESSARO_API int32_t TESSARO_CALL BBIDrawGradationBox(ImageRecord* image, const I
 TESSARO_API int32_t TESSARO_CALL BBIDrawMultiplyLineBox(ImageRecord* image, const ImageRecord* pattern,
                                                         int32_t x0, int32_t y0, int32_t x1, int32_t y1);
 
-/** The same with `a + b`, above 255 folded back to `510 - (a + b)`. */
+/** As BBIDrawMultiplyLineBox, with `a + b`, above 255 folded back to `510 - (a + b)`. */
 TESSARO_API int32_t TESSARO_CALL BBIDrawExclusiveLineBox(ImageRecord* image, const ImageRecord* pattern,
                                                          int32_t x0, int32_t y0, int32_t x1, int32_t y1);
 
@@ -227,7 +228,7 @@ TESSARO_API int32_t TESSARO_CALL BBIDrawExclusiveLineBox(ImageRecord* image, con
  */
 
 /**
- * The pixels strictly inside: E(0, 1), E(1, 2) and E(2, 0) are all negative or all positive.
+ * Fills the pixels strictly inside: E(0, 1), E(1, 2) and E(2, 0) are all negative or all positive.
  *
  * No pixel on an edge is drawn, and none of a triangle without area.
  */
@@ -236,8 +237,8 @@ TESSARO_API int32_t TESSARO_CALL BBIDrawTriangle(ImageRecord* image, int32_t x0,
                                                  uint32_t colour);
 
 /**
- * The pixels inside and on the edges: where E(0, 1) is positive the other two are 0 or more, else they are 0
- * or less.
+ * Fills the pixels inside and on the edges: where E(0, 1) is positive the other two are 0 or more, else they
+ * are 0 or less.
  *
  * Of a triangle without area these are the pixels exactly on its segment. Where the corners are in clockwise
  * order as seen on the screen, as (0, 0), (4, 0), (0, 4) are, the edge from the first to the second is left
@@ -268,7 +269,7 @@ TESSARO_API int32_t TESSARO_CALL BBIDrawTriangleA(ImageRecord* image, int32_t x0
  */
 
 /**
- * From the first row of the palette.
+ * Fills with rings: from the first row of the palette.
  *
  * @retval 0 Done, also when nothing lies inside the image.
  * @retval 1 [untouched] The palette is narrower than 2 or has no row.
@@ -277,7 +278,7 @@ TESSARO_API int32_t TESSARO_CALL BBIDrawLineCircle(ImageRecord* image, const Ima
                                                    int32_t y0, int32_t x1, int32_t y1);
 
 /**
- * From the row that the angle selects.
+ * Fills with rings and rays: from the row of the palette that the angle selects.
  *
  * Here `v * v` in r is rounded to float. The fraction t of a turn is `atan(u / v) * 0.159154976`, plus 0.25
  * where v is negative and 0.75 where it is positive; where v is 0 it is 0.5 for a negative u, else 0. So 0 is

@@ -143,7 +143,7 @@ TESSARO_API int32_t TESSARO_CALL BBIMapUCVY(ImageRecord* dst, const ImageRecord*
  */
 
 /**
- * The incoming picture's own alpha is the stencil.
+ * A wipe or fade in which the incoming picture's own alpha is the stencil.
  *
  * @param unused [flag] Counts for nothing.
  */
@@ -152,7 +152,7 @@ TESSARO_API int32_t TESSARO_CALL BBIStencilFlip(ImageRecord* dst, const ImageRec
                                                 int32_t cx, int32_t cy, int32_t sx, int32_t sy,
                                                 float progress, float softness, int32_t unused);
 
-/** A stencil of its own. */
+/** A wipe or fade with a stencil of its own. */
 TESSARO_API int32_t TESSARO_CALL BBIStencilFlipLE(ImageRecord* dst, const ImageRecord* outgoing,
                                                   const ImageRecord* incoming, const ImageRecord* stencil,
                                                   int32_t dx, int32_t dy, int32_t cx, int32_t cy, int32_t sx,

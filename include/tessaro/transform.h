@@ -63,12 +63,12 @@ extern "C" {
  * @{
  */
 
-/** d = mix(d, s, constant weight): at opacity 1 a copy. */
+/** Stretches with one opacity: d = mix(d, s, constant weight), at opacity 1 a copy. */
 TESSARO_API int32_t TESSARO_CALL BBIExpandBlt(ImageRecord* dst, const ImageRecord* src, int32_t dx,
                                               int32_t dy, int32_t dw, int32_t dh, int32_t sx, int32_t sy,
                                               int32_t sw, int32_t sh, float opacity);
 
-/** d = mix(d, s, alpha weight of s). */
+/** Stretches by the alpha of the source: d = mix(d, s, alpha weight of s). */
 TESSARO_API int32_t TESSARO_CALL BBIExpandBlendBlt(ImageRecord* dst, const ImageRecord* src, int32_t dx,
                                                    int32_t dy, int32_t dw, int32_t dh, int32_t sx, int32_t sy,
                                                    int32_t sw, int32_t sh, float opacity);
@@ -175,7 +175,7 @@ TESSARO_API int32_t TESSARO_CALL BBIExpandChooseBlt(
  * @{
  */
 
-/** The sample replaces d. */
+/** Stretches with bilinear interpolation: the sample replaces d. */
 TESSARO_API int32_t TESSARO_CALL BBILinearBlt(ImageRecord* dst, const ImageRecord* src, int32_t dx,
                                               int32_t dy, int32_t dw, int32_t dh, int32_t sx, int32_t sy,
                                               int32_t sw, int32_t sh);
@@ -260,11 +260,11 @@ TESSARO_API int32_t TESSARO_CALL BBILinearBltTest(ImageRecord* dst, const ImageR
  * @{
  */
 
-/** Cross-fade: d = mix(d, s, constant weight). */
+/** Cross-fades with one opacity: d = mix(d, s, constant weight). */
 TESSARO_API int32_t TESSARO_CALL BBIFlip(ImageRecord* dst, const ImageRecord* src, int32_t dx, int32_t dy,
                                          int32_t cx, int32_t cy, int32_t sx, int32_t sy, float opacity);
 
-/** d = mix(d, s, alpha weight of s). */
+/** Mixes by the alpha of the source: d = mix(d, s, alpha weight of s). */
 TESSARO_API int32_t TESSARO_CALL BBIFlipBlend(ImageRecord* dst, const ImageRecord* src, int32_t dx,
                                               int32_t dy, int32_t cx, int32_t cy, int32_t sx, int32_t sy,
                                               float opacity);
@@ -328,9 +328,9 @@ TESSARO_API int32_t TESSARO_CALL BBIBltVBlur(ImageRecord* dst, const ImageRecord
 /**
  * Box blur of rows for images that tile: the mean of pixels i - radius to i + radius, counted modulo n.
  *
- * The pixels at both ends are read a second time, in the order of the window: n - radius .. n - 1, 0 .. n -
- * 1, 0 .. radius - 1. So the destination must not overlap the source; if it does, what was written is blurred
- * again.
+ * The pixels at both ends are read a second time, in the order of the window: the last radius, all, and the
+ * first radius pixels. So the destination must not overlap the source; if it does, what was written is
+ * blurred again.
  */
 TESSARO_API int32_t TESSARO_CALL BBIBltUBlurLoop(ImageRecord* dst, const ImageRecord* src, int32_t dx,
                                                  int32_t dy, int32_t cx, int32_t cy, int32_t sx, int32_t sy,
@@ -388,7 +388,7 @@ TESSARO_API int32_t TESSARO_CALL BBIBltHalfSize(ImageRecord* dst, const ImageRec
  */
 
 /**
- * For 5 bits: c becomes `min((c & 248) + ((c & 7) < m ? 0 : 8), 255)`.
+ * Dithers for 5 bits a colour: c becomes `min((c & 248) + ((c & 7) < m ? 0 : 8), 255)`.
  *
  * m at row y % 4, column x % 4 of
  *
@@ -400,7 +400,7 @@ TESSARO_API int32_t TESSARO_CALL BBIBltHalfSize(ImageRecord* dst, const ImageRec
 TESSARO_API int32_t TESSARO_CALL BBIColorCutDown1555(ImageRecord* image);
 
 /**
- * For 4 bits: c becomes `min((c & 240) + ((c & 15) < m ? 0 : 16), 255)`.
+ * Dithers for 4 bits a colour: c becomes `min((c & 240) + ((c & 15) < m ? 0 : 16), 255)`.
  *
  * m at row y % 4, column x % 4 of
  *
@@ -412,7 +412,7 @@ TESSARO_API int32_t TESSARO_CALL BBIColorCutDown1555(ImageRecord* image);
 TESSARO_API int32_t TESSARO_CALL BBIColorCutDown4444(ImageRecord* image);
 
 /**
- * For one bit: c becomes `(c >> 2) < m ? 0 : 255`.
+ * Dithers for one bit a colour: c becomes `(c >> 2) < m ? 0 : 255`.
  *
  * m at row y % 8, column x % 8 of
  *
@@ -450,16 +450,19 @@ enum TessaroChoose {
   TESSARO_CHOOSE_DST = 2,    /**< Added: the pixel of `dst`; else that of `src`. */
 };
 
-/** Brightness as `(red + green + blue) / 3`. */
+/** Makes colours and alpha from colours or alpha; brightness is `(red + green + blue) / 3`. */
 TESSARO_API int32_t TESSARO_CALL BBIChooseCA(ImageRecord* dst, const ImageRecord* src, int32_t colour_from,
                                              int32_t alpha_from);
 
-/** Brightness as `trunc(green * 0.7154 + blue * 0.0721 + red * 0.2125)`, in double precision. */
+/**
+ * As BBIChooseCA; brightness is `trunc(green * 0.7154 + blue * 0.0721 + red * 0.2125)`, in double precision.
+ */
 TESSARO_API int32_t TESSARO_CALL BBIChooseCATR(ImageRecord* dst, const ImageRecord* src, int32_t colour_from,
                                                int32_t alpha_from);
 
 /**
- * Brightness as `trunc(green * green_weight + blue * blue_weight + red * red_weight)`, in double precision.
+ * As BBIChooseCA; brightness is `trunc(green * green_weight + blue * blue_weight + red * red_weight)`, in
+ * double precision.
  *
  * The low 8 bits of that integer are taken, so that 256 gives 0. A sum that fits no 32-bit integer, or is not
  * a number, gives 0.
