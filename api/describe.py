@@ -230,6 +230,9 @@ def number(text, names, enums):
 
 def pointer(text, c_type, names, callbacks):
     """The bracket of a pointer, and the parameters that its size believes."""
+    if text.startswith("sound,"):  # its data is larger than its record says
+        found, used = measure(text.removeprefix("sound,"), names)
+        return {**pointer("sound", c_type, names, callbacks)[0], **found}, used
     record = c_type.replace("const ", "").rstrip("*").strip()
     wanted = {"ImageRecord": "image", "WaveBuffer": "sound"}.get(record)
     if record in callbacks:

@@ -419,9 +419,9 @@ TESSARO_API int32_t TESSARO_CALL waveEffectMaximizer64(const WaveBuffer* dst, co
  *
  * @param[in,out] buffer [sound] The sound. A buffer of 0 frames is refused.
  * @param[in,out] frame_position [1 words] The first frame; advanced by `count`.
- * @param[in,out] ring [sound] A 64-bit buffer of at least 524288 frames by its count, whatever its channels
- *   used as 524288 frames of two doubles: its data must be 8 MiB, cleared by the host before the first call.
- *   Its format and count may say one channel, but not less memory.
+ * @param[in,out] ring [sound, 8388608 bytes] A 64-bit buffer of at least 524288 frames by its count, whatever
+ *   its channels used as 524288 frames of two doubles: its data must be 8 MiB, cleared by the host before the
+ *   first call. Its format and count may say one channel, but not less memory.
  * @param[in,out] ring_position [1 words] The place in the ring, 0..524287; other values are taken modulo
  *   524288.
  * @param level [factor, 0..99.99] How loud the echoes are sent; limited to this range, not a number counts as
@@ -431,6 +431,7 @@ TESSARO_API int32_t TESSARO_CALL waveEffectMaximizer64(const WaveBuffer* dst, co
  * @param taps [count, 1..10000] How many echoes a frame has; limited to this range.
  * @param[in] tap_table [30000 doubles] 10000 left gains, 10000 right gains, 10000 distances from a tap to the
  *   next in frames; the first `taps` of each are read.
+ * @retval 0 Done.
  * @retval 1 [untouched] The count is below 1; the buffer is invalid or has 0 frames; the ring is invalid, has
  *   fewer frames or other bits.
  */
