@@ -23,6 +23,7 @@ EXPORTS = os.path.join(ROOT, "src", "exports", "exports.txt")
 JSON = os.path.join(ROOT, "api", "tessaro.json")
 SCHEMA = os.path.join(ROOT, "api", "tessaro.schema.json")
 
+FIRST_VERSION = "0.1"  # what has no @since is there from the beginning
 MEMORY_UNITS = {"bytes", "halfwords", "words", "floats", "doubles"}
 NUMBER_UNITS = set("pixels rows frames samples bytes words bits doubles colour alpha level factor opacity flag radians "
                    "degrees hertz milliseconds count index value".split())
@@ -413,7 +414,7 @@ class Reader:
                  "signature": f"{result} {name}({', '.join(f'{t} {n}' for n, t in names.items()) or 'void'})",
                  "returns": {"type": result, **self.results(name, source, place, levels, names, result)},
                  "parameters": listed,
-                 "since": (own.argument("since") if own else "") or self.first,
+                 "since": (own.argument("since") if own else "") or FIRST_VERSION,
                  "see": [one for item in (own.items if own else ()) if item[0] == "see"
                          for one in re.split(r"[\s,]+", item[1])]}
         second = [alias for alias, first in aliases.items() if first == name]
@@ -473,7 +474,6 @@ class Reader:
         return found
 
     def description(self, version, aliases):
-        self.first = ".".join(version.split(".")[:2])
         self.read_types()
         self.read_functions(aliases)
         groups = []

@@ -280,13 +280,13 @@ typedef void(TESSARO_CDECL* TessaroWorker)(void);
  * least once unless `ThreadKill` came before the thread did. Two threads must not call `ThreadBegin` at the
  * same moment.
  *
- * @param function [function] What the thread calls.
+ * @param fn [function] What the thread calls.
  * @retval 0 The thread has ended, or the system could not make one.
  * @retval 1 [untouched] There is a worker already; told at once. One that ended in another way than by
  *   `ThreadKill`, its function having left by `ExitThread` or `pthread_exit`, still counts until
  *   `ThreadKill`.
  */
-TESSARO_API int32_t TESSARO_CALL ThreadBegin(TessaroWorker function);
+TESSARO_API int32_t TESSARO_CALL ThreadBegin(TessaroWorker fn);
 
 /**
  * Stops the worker after its current call, and waits until it has ended, without a time limit.
