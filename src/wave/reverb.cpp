@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "core/clip.hpp"
+#include "core/heap.hpp"
 #include "core/numbers.hpp"
 #include "wave/blocks.hpp"
 
@@ -20,10 +21,13 @@ void clear_frames(uint8_t* ring, int64_t position, int64_t n) {
 
 // The echoes of several frames can be added tap by tap: the taps begin behind what the frames read and clear, keep the
 // distance that the kernel asks for, and end before the ring has gone round.
-bool well_spaced(double place, const double* step, int32_t taps) {
+bool well_spaced(double place, const Taps& taps) {
   if (place < read_ahead + echo_frames) return false;
-  for (int32_t t = 0; t + 1 < taps; place += step[t++])
-    if (!(step[t] >= 3)) return false;
+  for (size_t t = 0; t + 1 < taps.count; ++t) {
+    const double step = taps.spread * load<double>(taps.spacing + 8 * t);
+    if (!(step >= 3)) return false;
+    place += step;
+  }
   return place < ring_frames - 4;
 }
 
@@ -50,10 +54,6 @@ extern "C" int32_t TESSARO_CALL waveEffectReverbA1(const WaveBuffer* buffer, int
 
   const auto* table = reinterpret_cast<const uint8_t*>(tap_table);
   const double send = level * 0.5;
-  double step[most_taps];
-  for (int32_t t = 0; t < taps; ++t)
-    step[t] = spread * load<double>(table + 8 * (2 * most_taps + static_cast<size_t>(t)));
-  const Taps all = {table, table + 8 * most_taps, step, static_cast<size_t>(taps)};
   const ReverbKernels& kernel = kernels<ReverbKernels>();
 
   const int64_t start = load<int32_t>(frame_position), origin = load<int32_t>(ring_position);
@@ -67,9 +67,16 @@ extern "C" int32_t TESSARO_CALL waveEffectReverbA1(const WaveBuffer* buffer, int
   const Memory ring_memory = {echoes.address(0), 16 * ring_frames},
                table_memory = {static_cast<int64_t>(reinterpret_cast<uintptr_t>(table)), 24 * most_taps},
                sound_memory = {side.address(first), (last - first) * side.frame_bytes()};
-  const bool by_taps = kernel.scatter_block != nullptr && well_spaced(predelay, step, taps) &&
-                       apart(ring_memory, table_memory) && apart(ring_memory, sound_memory) &&
-                       apart(table_memory, sound_memory);
+  // The spacings are those from before the first frame, the gains those of the moment.
+  Taps all = {table, table + 8 * most_taps, table + 16 * most_taps, static_cast<double>(spread),
+              static_cast<size_t>(taps)};
+  const bool table_rests = apart(ring_memory, table_memory) && apart(table_memory, sound_memory);
+  HeapArray<uint8_t> spacings(table_rests ? 0 : 8 * all.count);
+  if (!table_rests && !spacings) return status_nothing;
+  if (!table_rests)
+    all.spacing = static_cast<const uint8_t*>(std::memcpy(spacings.data(), all.spacing, 8 * all.count));
+  const bool by_taps = kernel.scatter_block != nullptr && well_spaced(predelay, all) && table_rests &&
+                       apart(ring_memory, sound_memory);
   pass(0, first);
   for (int64_t i = first, n; i < last; i += n) {
     const int64_t position = (origin + i) & ring_mask;

@@ -13,11 +13,12 @@ inline constexpr size_t most_taps = 10000;
 // Frames whose echoes are added tap by tap.
 inline constexpr int64_t echo_frames = 16;
 
-// The taps that a call uses: gains per channel and the distance to the next tap.
+// The taps that a call uses: gains per channel and the distance to the next tap, which is spread times its spacing.
 struct Taps {
   const uint8_t* left;  // doubles of the host's
   const uint8_t* right;
-  const double* step;
+  const uint8_t* spacing;
+  double spread;
   size_t count;
 };
 

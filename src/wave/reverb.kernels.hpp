@@ -20,6 +20,10 @@ TESSARO_INLINE double* frame(uint8_t* ring, int64_t at) {
   return reinterpret_cast<double*>(ring + 16 * static_cast<size_t>(at & tessaro::ring_mask));
 }
 
+TESSARO_INLINE double step(const tessaro::Taps& taps, size_t t) {
+  return taps.spread * *reinterpret_cast<const F64*>(taps.spacing + 8 * t);
+}
+
 TESSARO_INLINE __m128d gains(const tessaro::Taps& taps, size_t t) {
   return _mm_set_pd(*reinterpret_cast<const F64*>(taps.right + 8 * t),
                     *reinterpret_cast<const F64*>(taps.left + 8 * t));
@@ -49,7 +53,7 @@ void scatter(uint8_t* ring, double x, double echo, const tessaro::Taps& taps) {
   for (size_t t = 0; t < taps.count; ++t) {
     const int64_t i = whole(x);
     deposit_both(ring, i, x - static_cast<double>(i), echo, gains(taps, t));
-    x += taps.step[t];
+    x += step(taps, t);
   }
 }
 
@@ -149,20 +153,21 @@ void scatter_block(uint8_t* ring, double x, const double* values, const tessaro:
     }
   }
   // Places are sums, rounded tap by tap, and so known from the first to the last: of every stretch of taps the first
-  // is kept, and the others are found again.
-  constexpr size_t stretch = 64;
-  Frames starts[tessaro::most_taps / stretch + 1], places[stretch], at;
+  // is kept, and the others are found again. The square root of their number needs the least room.
+  constexpr size_t stretch = 100;
+  static_assert(stretch * stretch == tessaro::most_taps);
+  Frames starts[tessaro::most_taps / stretch], places[stretch], at;
   for (int i = 0; i < 4; ++i) at.of[i] = x + (Four{0, 1, 2, 3} + 4.0 * i);
   for (size_t t = 0; t < taps.count; ++t) {
     if (t % stretch == 0) starts[t / stretch] = at;
-    advance(at, taps.step[t]);
+    advance(at, step(taps, t));
   }
   for (size_t end = taps.count; end > 0;) {
     const size_t start = (end - 1) / stretch * stretch;
     at = starts[start / stretch];
     for (size_t t = start; t < end; ++t) {
       places[t - start] = at;
-      advance(at, taps.step[t]);
+      advance(at, step(taps, t));
     }
     if (echoes.all)
       for (size_t t = end; t-- > start;) deposit_block<true>(ring, places[t - start], echoes, gains(taps, t));

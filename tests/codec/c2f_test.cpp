@@ -122,11 +122,19 @@ TEST(C2f, DamagedStreamsStayInside) {
   for (size_t i = 0; i < source.size(); ++i)
     source[i] = i % 700 < 400 ? static_cast<uint8_t>(i / 700) : random.byte();
   const Bytes stream = encode(source);
+  size_t made = 0;
   for (size_t size = 0; size <= stream.size(); ++size) {
-    Bytes out(source.size());
+    Bytes out(source.size(), 0xA5);
     EXPECT_EQ(decode(Bytes(stream.begin(), stream.begin() + static_cast<ptrdiff_t>(size)), out),
               size < stream.size());
+    // What was made before the end stays, and nothing behind it is touched.
+    const auto end = std::mismatch(out.begin(), out.end(), source.begin()).first;
+    const auto before = made;
+    made = static_cast<size_t>(end - out.begin());
+    ASSERT_LE(before, made) << size;
+    ASSERT_TRUE(std::all_of(end, out.end(), [](uint8_t byte) { return byte == 0xA5; })) << size;
   }
+  EXPECT_EQ(made, source.size());
   for (size_t room : {0u, 1u, 31u, 32u, 100u, 5951u}) {
     Bytes out(room);
     EXPECT_EQ(decode(stream, out), 1);

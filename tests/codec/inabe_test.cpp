@@ -71,11 +71,16 @@ Encoded model(const Bytes& data) {
 
 TEST(Iabr, CodesGroups) {
   check_codec({iabrEncoder, model<false>, iabrDecoder, iabrDecoderSafe, 257});
-  // A group of more bytes than any count asks for.
-  EXPECT_EQ(decode(iabrDecoderSafe, {0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0b01110000}, 1000), Bytes(1000));
+  // Groups of more bytes than any count asks for, and than 64 bits could count.
+  for (unsigned level : {30u, 31u, 40u, 61u, 62u, 63u, 64u, 1000u}) {
+    BitString stream;
+    for (unsigned i = 0; i < level; ++i) stream.put(1, 1);
+    stream.put(0b0111, 4);
+    EXPECT_EQ(decode(iabrDecoderSafe, stream.flushed().stream, 1000), Bytes(1000)) << level;
+  }
 }
 
-TEST(Inabe, CodesGroups) { check_codec({inabeEncoder, model<true>, inabeDecoder, inabeDecoderSafe, 257}); }
+TEST(Inabe, CodesGroups) { check_codec({inabeEncoder, model<true>, inabeDecoder, inabeDecoderSafe, 257, 8}); }
 
 TEST(Inabe, DecodesAllForms) {
   // Every width of field, escaped or not, also those above 7 that no encoder chooses.
@@ -105,6 +110,18 @@ TEST(Inabe, DecodesAllForms) {
       const Bytes bytes = stream.flushed().stream;
       EXPECT_EQ(decode(inabeDecoder, inabeDecoderSafe, bytes, 8), expected) << kind << ' ' << e;
     }
+}
+
+TEST(Inabe, EndsFieldsAt32Bits) {
+  // 33 ones and more are the width 32, without a zero behind them.
+  BitString stream;
+  stream.put(0, 2);
+  stream.put(~0u, 32);
+  stream.put(1, 1);
+  for (uint32_t value : {0x12345601u, 0x80u, 0xFFFFFFFEu}) stream.put(value, 32);
+  stream.put(~0u, 32);
+  stream.put(0x77, 8);
+  EXPECT_EQ(decode(inabeDecoder, inabeDecoderSafe, stream.flushed().stream, 4), (Bytes{1, 0x80, 0xFE, 0x77}));
 }
 
 // A host's pixels, channel by channel, as differences: what inabeDecoderEx undoes.

@@ -46,7 +46,7 @@ Encoded model(const Bytes& data) {
 
 TEST(Inda, FindsTheBestReferences) {
   for (const Forced backend : supported_backends())
-    check_codec({indaEncoder, model, indaDecoder, indaDecoderSafe, 65});
+    check_codec({indaEncoder, model, indaDecoder, indaDecoderSafe, 65, 8});
 }
 
 // Every level, distance and mask, also those that an encoder would not choose, and parameters that stay unsent while

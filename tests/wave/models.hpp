@@ -12,6 +12,15 @@ namespace tessaro::test {
 using Frame = std::array<int64_t, 2>;
 using Frame64 = std::array<double, 2>;
 
+// The low 32 bits with their sign; and what a conversion to 32 bits gives, the lowest of them where a number does not fit.
+inline int64_t wrapped(int64_t v) {
+  const int64_t low = v & 0xFFFFFFFF;
+  return low < 2147483648 ? low : low - 4294967296;
+}
+inline int64_t trunc_int(double v) {
+  return std::fabs(v) < 2147483648.0 ? static_cast<int64_t>(v) : -2147483648;
+}
+
 struct Buffer {
   uint8_t* data;
   int32_t count, bits, channels;
@@ -53,7 +62,7 @@ struct Buffer {
     if (!inside(i)) return;
     const auto code = [&](int64_t v) {
       const int64_t middle = int64_t{1} << (depth - 1);
-      return form() == 1   ? wrap32(v + middle) >> (depth - 8)
+      return form() == 1   ? wrapped(v + middle) >> (depth - 8)
              : form() == 2 ? v >> (depth - 16)
                            : v * (1 << (24 - depth));
     };
@@ -61,7 +70,7 @@ struct Buffer {
       put(i, 0, code(l));
       put(i, 1, code(r));
     } else {
-      put(i, 0, form() == 3 ? code(wrap32(l + r) / 2) : wrap32(code(l) + code(r)) / 2);
+      put(i, 0, form() == 3 ? code(wrapped(l + r) / 2) : wrapped(code(l) + code(r)) / 2);
     }
   }
   Frame64 get64(int64_t i) const {
@@ -149,6 +158,5 @@ void expect_alike(const Arena& arena, Call call, Model model) {
 
 inline int64_t within(int64_t v, int64_t low, int64_t high) { return std::clamp(v, low, high); }
 inline int64_t saturated(int64_t v) { return within(v, -32768, 32767); }
-inline int64_t trunc_int(double v) { return trunc32(v); }
 
 }  // namespace tessaro::test

@@ -18,9 +18,6 @@ constexpr unsigned all_bytes = 15;
 constexpr unsigned short_literals = 127, most_literals = 255 * 128;
 constexpr unsigned short_run = 15, most_run = short_run + 255;
 
-constexpr unsigned count_of(unsigned kept) {
-  return (kept & 1) + (kept >> 1 & 1) + (kept >> 2 & 1) + (kept >> 3 & 1);
-}
 constexpr uint32_t mask_of(unsigned kept) {
   uint32_t mask = 0;
   for (unsigned k = 0; k < 4; ++k)
@@ -46,7 +43,7 @@ constexpr uint32_t scatter(uint32_t bytes) {
 
 template <unsigned kept>
 void pack(uint8_t* out, const uint8_t* block) {
-  constexpr unsigned bits = 8 * count_of(kept), bytes = block_pixels * count_of(kept);
+  constexpr unsigned bits = 8 * bits_in(kept), bytes = block_pixels * bits_in(kept);
   uint64_t words[5] = {};
 #pragma GCC unroll 8
   for (unsigned i = 0; i < block_pixels; ++i) {
@@ -60,7 +57,7 @@ void pack(uint8_t* out, const uint8_t* block) {
 
 template <unsigned kept>
 void unpack(uint8_t* block, const uint8_t* at, uint32_t base) {
-  constexpr unsigned bits = 8 * count_of(kept), bytes = block_pixels * count_of(kept);
+  constexpr unsigned bits = 8 * bits_in(kept), bytes = block_pixels * bits_in(kept);
   uint64_t words[5] = {};
   std::memcpy(words, at, bytes);
 #pragma GCC unroll 8
@@ -110,7 +107,7 @@ bool pack_run(Encoder& e) {
   bool more;
   do {
     pack<kept>(e.out, e.at);
-    e.out += block_pixels * count_of(kept);
+    e.out += block_pixels * bits_in(kept);
     if (++count == short_run) extension = e.out++;
     more = e.next_block();
   } while (more && e.kept == kept && count < most_run);
@@ -121,7 +118,7 @@ bool pack_run(Encoder& e) {
 
 template <unsigned kept>
 void unpack_run(uint8_t* out, const uint8_t* at, size_t blocks, uint32_t base) {
-  for (; blocks; --blocks, out += block_bytes, at += block_pixels * count_of(kept))
+  for (; blocks; --blocks, out += block_bytes, at += block_pixels * bits_in(kept))
     unpack<kept>(out, at, base);
 }
 
@@ -153,7 +150,7 @@ class Decoder {
     return true;
   }
   bool blocks(size_t count, unsigned kept, uint32_t base) {
-    const size_t data = count * block_pixels * count_of(kept);
+    const size_t data = count * block_pixels * bits_in(kept);
     if (room() < count * block_bytes || left() < data) return false;
     unpack_runs[kept](out_, at_, count, base);
     at_ += data;

@@ -81,16 +81,12 @@ int32_t decode(Source source, void* destination, uint32_t count) {
 }
 
 // The code and fields of a pair.
-struct Code {
-  uint32_t bits;
-  unsigned width;
-};
-inline Code code_of(uint32_t a, uint32_t b, uint32_t a_before, uint32_t b_before) {
+inline BitField code_of(uint32_t a, uint32_t b, uint32_t a_before, uint32_t b_before) {
   const bool a_near = ((a ^ a_before) & 0xE0) == 0, b_near = ((b ^ b_before) & 0xE0) == 0;
   const unsigned a_width = a_near ? 5 : 8, b_width = b_near ? 5 : 8;
   const uint32_t a_bits = a_near ? a & 31 : a, b_bits = b_near ? b & 31 : b;
-  Code code{(2u * a_near + b_near) << (a_width + b_width) | a_bits << b_width | b_bits,
-            3 + a_width + b_width};
+  BitField code{(2u * a_near + b_near) << (a_width + b_width) | a_bits << b_width | b_bits,
+                3 + a_width + b_width};
   if (a == b) code = {4u << 8 | a, 11};
   if (a == b_before) code = {5u << 8 | b, 11};
   if (b == b_before) code = {6u << 8 | a, 11};
@@ -111,8 +107,7 @@ extern "C" int32_t TESSARO_CALL iEncoder(const void* source, void* destination, 
   BitWriter out(static_cast<uint8_t*>(destination));
   uint32_t a_before = 0, b_before = 0;
   const auto put = [&](uint32_t a, uint32_t b) {
-    const Code code = code_of(a, b, a_before, b_before);
-    out.put(code.bits, code.width);
+    out.put(code_of(a, b, a_before, b_before));
     a_before = a;
     b_before = b;
   };
@@ -144,7 +139,7 @@ extern "C" int32_t TESSARO_CALL iDecoder(const void* stream, void* destination, 
   return decode(Trusted(stream), destination, count);
 }
 
-extern "C" int32_t TESSARO_CALL iDecoderSafe(const void* stream, void* destination, uint32_t size,
+extern "C" int32_t TESSARO_CALL iDecoderSafe(const void* stream, void* destination, uint32_t stream_size,
                                              uint32_t count) {
-  return decode(Bounded(stream, size), destination, count);
+  return decode(Bounded(stream, stream_size), destination, count);
 }

@@ -58,10 +58,11 @@ extern "C" int32_t TESSARO_CALL iabrEncoder(const void* source, void* destinatio
       const Group group = scan_group(in, length, start);
       const uint32_t n = group.size < length - start ? group.size : length - start;
       const unsigned width = class_width[group.kind];
-      const BitField mark = class_mark[group.kind];
-      if (out.written() + 8 + uint64_t{n} * width / 8 < limit) {
-        out.put((1u << group.level) - 1, group.level);
-        out.put(mark.bits, mark.width + 1);
+      // The stream ends with the step that reaches the limit. Far below it nothing is tested.
+      const bool tested = out.written() + 8 + uint64_t{n} * width / 8 >= limit;
+      if (!put_size(out, group.level, tested, full)) return;
+      out.put(class_mark[group.kind]);
+      if (!tested) {
         switch (group.kind) {
           case 0:
             put_payload<8>(out, in + start, n);
@@ -73,15 +74,10 @@ extern "C" int32_t TESSARO_CALL iabrEncoder(const void* source, void* destinatio
             put_payload<3>(out, in + start, n);
             break;
         }
-      } else {  // close to the limit, where the stream ends after the step that reaches it
-        for (unsigned k = 0; k < group.level; ++k) {
-          out.put(1, 1);
-          if (full()) return;
-        }
-        out.put(mark.bits, mark.width + 1);
+      } else {
         if (full()) return;
         for (uint32_t k = 0; k < n && width != 0; ++k) {
-          out.put(in[start + k] & ~(~0u << width), width);
+          out.put(in[start + k] & ones(width), width);
           if (full()) return;
         }
       }
@@ -98,7 +94,7 @@ extern "C" int32_t TESSARO_CALL iabrDecoder(const void* stream, void* destinatio
   return decode(Trusted(stream), destination, count);
 }
 
-extern "C" int32_t TESSARO_CALL iabrDecoderSafe(const void* stream, void* destination, uint32_t size,
+extern "C" int32_t TESSARO_CALL iabrDecoderSafe(const void* stream, void* destination, uint32_t stream_size,
                                                 uint32_t count) {
-  return decode(Bounded(stream, size), destination, count);
+  return decode(Bounded(stream, stream_size), destination, count);
 }

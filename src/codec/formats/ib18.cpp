@@ -1,8 +1,10 @@
 // ib18: blocks of six bytes, each byte a repeat of the one before, the one predicted to follow it, or a literal.
-#include <emmintrin.h>
+#include "codec/formats/ib18.hpp"
 
 #include "codec/stream/bits.hpp"
+#include "codec/stream/bytes.hpp"
 #include "codec/stream/channel_order.hpp"
+#include "core/heap.hpp"
 #include "tessaro/codec.h"
 
 namespace tessaro {
@@ -12,6 +14,7 @@ constexpr uint32_t shortest = 512;
 constexpr uint32_t margin = 32;
 constexpr unsigned block_size = 6;
 constexpr unsigned all_of_block = 0x3F;
+constexpr uint64_t bytes_of_block = 0x0000FFFFFFFFFFFF;
 constexpr unsigned longest_run = 16;  // doublings of a block
 
 // What the encoder reads: the source in its order, and zeros behind it. block(i) is the six bytes from i on, the first
@@ -56,35 +59,7 @@ struct ChannelsOrder {
 inline uint64_t either(bool first, uint64_t a, uint64_t b) { return b ^ ((a ^ b) & (uint64_t{0} - first)); }
 
 // Flags of the bytes of a block that are the same in both.
-inline unsigned equal_bytes(uint64_t a, uint64_t b) {
-  const __m128i equal = _mm_cmpeq_epi8(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(&a)),
-                                       _mm_loadl_epi64(reinterpret_cast<const __m128i*>(&b)));
-  return static_cast<unsigned>(_mm_movemask_epi8(equal)) & all_of_block;
-}
-
-// How many of six bits are set.
-inline unsigned bits_in(unsigned flags) {
-  unsigned n = flags - (flags >> 1 & 0x15);
-  n = (n & 0x33) + (n >> 2 & 0x33);
-  return (n + (n >> 4)) & 0xF;
-}
-
-// For every byte the one that follows it most often; the smallest of equals, and never itself.
-void find_successors(const uint8_t* source, uint32_t n, uint8_t* successors) {
-  uint32_t counts[256][256] = {};
-  uint8_t before = 0;
-  for (uint32_t i = 0; i < n; ++i) {
-    ++counts[before][source[i]];
-    before = source[i];
-  }
-  for (unsigned p = 0; p < 256; ++p) {
-    counts[p][p] = UINT32_MAX;  // -1: the comparisons are signed
-    unsigned best = 0;
-    for (unsigned c = 1; c < 256; ++c)
-      if (static_cast<int32_t>(counts[p][c]) > static_cast<int32_t>(counts[p][best])) best = c;
-    successors[p] = static_cast<uint8_t>(best);
-  }
-}
+inline unsigned equal_bytes(uint64_t a, uint64_t b) { return zero_bytes((a ^ b) | ~bytes_of_block); }
 
 template <class Order>
 int32_t encode(const void* source, void* destination, uint32_t length, uint32_t* written) {
@@ -92,7 +67,15 @@ int32_t encode(const void* source, void* destination, uint32_t length, uint32_t*
   const Order in{static_cast<const uint8_t*>(source), length};
   auto* const begin = static_cast<uint8_t*>(destination);
   uint8_t successors[256];
-  find_successors(in.source, length, successors);
+  {
+    // A quarter of a MiB, which not every thread of a host has on its stack; a small table costs more passes.
+    HeapArray<uint32_t> table(256 * 256);
+    uint32_t small[8 * 256];
+    if (table)
+      find_successors<256>(in.source, length, table.data(), successors);
+    else
+      find_successors<8>(in.source, length, small, successors);
+  }
   std::memcpy(begin, successors, sizeof successors);
   uint8_t* out = begin + sizeof successors;
   const uint8_t* const limit = begin + (length - margin);
@@ -304,11 +287,11 @@ extern "C" int32_t TESSARO_CALL ib18Decoder(const void* stream, void* destinatio
 extern "C" int32_t TESSARO_CALL ib18DecoderEx(const void* stream, void* destination, uint32_t count) {
   return count == 0 ? 0 : decode<FourChannels>(Trusted(stream), destination, count);
 }
-extern "C" int32_t TESSARO_CALL ib18DecoderSafe(const void* stream, void* destination, uint32_t size,
+extern "C" int32_t TESSARO_CALL ib18DecoderSafe(const void* stream, void* destination, uint32_t stream_size,
                                                 uint32_t count) {
-  return count == 0 ? 1 : decode<Row>(Bounded(stream, size), destination, count);
+  return count == 0 ? 1 : decode<Row>(Bounded(stream, stream_size), destination, count);
 }
-extern "C" int32_t TESSARO_CALL ib18DecoderExSafe(const void* stream, void* destination, uint32_t size,
+extern "C" int32_t TESSARO_CALL ib18DecoderExSafe(const void* stream, void* destination, uint32_t stream_size,
                                                   uint32_t count) {
-  return count == 0 ? 1 : decode<FourChannels>(Bounded(stream, size), destination, count);
+  return count == 0 ? 1 : decode<FourChannels>(Bounded(stream, stream_size), destination, count);
 }

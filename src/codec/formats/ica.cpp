@@ -47,17 +47,13 @@ constexpr HeadChoice head_choice = [] {
   HeadChoice choice{};
   for (unsigned top5 = 0; top5 < 16; ++top5)
     for (unsigned top3 = 0; top3 < 16; ++top3) {
-      unsigned count5 = 0, count3 = 0;
-      for (unsigned k = 0; k < 4; ++k) {
-        count5 += top5 >> k & 1;
-        count3 += top3 >> k & 1;
-      }
-      choice.of[top3 << 4 | top5] = static_cast<uint8_t>(3 * count3 < 5 * count5 ? top5 << 1 | 1 : top3 << 1);
+      const bool by5 = 3 * bits_in(top3) < 5 * bits_in(top5);
+      choice.of[top3 << 4 | top5] = static_cast<uint8_t>(by5 ? top5 << 1 | 1 : top3 << 1);
     }
   return choice;
 }();
 
-inline PixelCode code_pixel(uint32_t pixel, uint32_t before) {
+inline BitField code_pixel(uint32_t pixel, uint32_t before) {
   const uint32_t changed = pixel ^ before;
   if (changed == 0) return {repeat_head, head_bits};
   const unsigned top5 = zero_bytes(changed & 0xF8F8F8F8) & 15, top3 = zero_bytes(changed & 0xE0E0E0E0) & 15;

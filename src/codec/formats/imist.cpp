@@ -38,11 +38,7 @@ constexpr FormIndex form_index = [] {
   return index;
 }();
 
-struct PairCode {
-  uint32_t bits;
-  unsigned width;
-};
-inline PairCode code_pair(uint32_t pair, uint32_t changed) {
+inline BitField code_pair(uint32_t pair, uint32_t changed) {
   const Form& form = forms[form_index.of[(changed | changed >> 16) & 0xFF]];
   const uint32_t sent = pair & pair_bytes & ~form.keep;
   return {uint32_t{form.mark} << 2 * form.width | (sent & 0xFF) << form.width | sent >> 16, form.bits};
@@ -78,9 +74,7 @@ extern "C" int32_t TESSARO_CALL imistEncoder(const void* source, void* destinati
                                              uint32_t* written) {
   if (length < least_length) return 1;
   return encode_pixels(source, destination, length, written, margin, [](uint32_t pixel, uint32_t before) {
-    const PairCode even = code_pair(pixel, pixel ^ before),
-                   odd = code_pair(pixel >> 8, (pixel ^ before) >> 8);
-    return PixelCode{uint64_t{even.bits} << odd.width | odd.bits, even.width + odd.width};
+    return code_pair(pixel, pixel ^ before) + code_pair(pixel >> 8, (pixel ^ before) >> 8);
   });
 }
 

@@ -13,8 +13,6 @@ constexpr uint32_t least_length = 257, margin = 256;
 // The widths that an encoder chooses from, and where a decoder stops to count: fields end at 32 bits.
 constexpr unsigned short_widths = 8, longest_field = 32;
 
-constexpr uint32_t ones(unsigned n) { return static_cast<uint32_t>((uint64_t{1} << n) - 1); }
-
 // Byte e of an entry is 1 where the value needs no escape in e bits: sums of entries count all widths at once.
 struct FitTable {
   uint64_t of[256];
@@ -68,15 +66,7 @@ class Encoder {
   }
   template <bool tested>
   bool code(const uint8_t* bytes, uint32_t size, Group group) {
-    if (tested) {
-      // Each of these ones leaves as soon as the scan has seen that the group is that large.
-      for (unsigned i = 0; i < group.level; ++i) {
-        out_.put(1, 1);
-        if (!room<tested>()) return false;
-      }
-    } else {
-      out_.put(ones(group.level), group.level);
-    }
+    if (!put_size(out_, group.level, tested, [&] { return !room<tested>(); })) return false;
     const BitField mark = class_mark[group.kind];
     switch (group.kind) {
       case 0:
@@ -86,7 +76,7 @@ class Encoder {
       case 2:
         return payload<tested, 3>(bytes, size, mark);
       default:
-        out_.put(mark.bits, 1 + mark.width);
+        out_.put(mark);
         return room<tested>();
     }
   }
@@ -95,7 +85,7 @@ class Encoder {
   bool payload(const uint8_t* bytes, uint32_t size, BitField mark) {
     const unsigned e = best_width<width>(bytes, size);
     const uint32_t escape = ones(e);
-    out_.put(mark.bits << (e + 1) | escape << 1, 1 + mark.width + e + 1);
+    out_.put(mark + BitField{escape << 1, e + 1});
     // Masks, because no branch foresees an escape.
     const uint32_t low = ones(width), mark_of_escape = escape << width;
     const auto code_of = [&](uint8_t byte) {
@@ -104,16 +94,14 @@ class Encoder {
     };
     uint32_t at = 0;
     const auto put_two = [&] {
-      const BitField a = code_of(bytes[at]), b = code_of(bytes[at + 1]);
-      out_.put(a.bits << b.width | b.bits, a.width + b.width);
+      out_.put(code_of(bytes[at]) + code_of(bytes[at + 1]));
       at += 2;
     };
     // All groups but a cut one consist of fours.
     if (!tested)
       while (size - at >= 4) put_two(), put_two();
     for (; at < size; ++at) {
-      const BitField c = code_of(bytes[at]);
-      out_.put(c.bits, c.width);
+      out_.put(code_of(bytes[at]));
       if (!room<tested>()) return false;
     }
     return true;

@@ -42,16 +42,17 @@ struct Layout {
 
 // Four bytes of a block, each in its own width: where they stand in up to 32 bits of the stream.
 struct Half {
-  uint32_t after;  // the bits up to and with each byte, a byte each
+  // The bits up to and with each byte, a byte each: at most 32, so that no byte of the product overflows.
+  uint32_t after;
   explicit Half(uint32_t widths) : after(widths * 0x01010101u) {}
   // Of the first n bytes, and behind byte j.
   unsigned bits(unsigned n = 4) const { return static_cast<unsigned>(uint64_t{after} << 8 >> 8 * n & 0xFF); }
   unsigned behind(unsigned j) const { return bits() - bits(j + 1); }
 };
-inline uint64_t gather(uint32_t bytes, Half half) {
+inline BitField gather(uint32_t bytes, Half half) {
   uint64_t bits = 0;
   for (unsigned j = 0; j < 4; ++j) bits |= uint64_t{bytes >> 8 * j & 0xFF} << half.behind(j);
-  return bits;
+  return {bits, half.bits()};
 }
 // What lies above a byte's own width is not its: the caller clears it.
 inline uint32_t scatter(uint64_t bits, Half half) {
@@ -71,39 +72,34 @@ class Encoder {
       const uint64_t changed = bytes ^ load<uint64_t>(at + now.distance - block_bytes);
       now.mask = zero_bytes(changed & (inda_levels.at[now.level].kept * each_byte));
     }
-    const Head head = head_of(now);
+    const BitField head = head_of(now);
     before_ = now;
     const Layout layout(now);
     const uint64_t sent = (bytes & ~layout.built) | ((bytes & layout.built & ~layout.kept) >> layout.shift);
     const Half first(static_cast<uint32_t>(layout.widths)),
         second(static_cast<uint32_t>(layout.widths >> 32));
-    const uint64_t first_bits = gather(static_cast<uint32_t>(sent), first),
+    const BitField first_bits = gather(static_cast<uint32_t>(sent), first),
                    second_bits = gather(static_cast<uint32_t>(sent >> 32), second);
     if (ahead) {
-      out_.put_ahead(uint64_t{head.bits} << first.bits() | first_bits, head.width + first.bits());
-      out_.put_ahead(second_bits, second.bits());
+      out_.put_ahead(head + first_bits);
+      out_.put_ahead(second_bits);
     } else {
-      out_.put(head.bits, head.width);
-      out_.put(static_cast<uint32_t>(first_bits), first.bits());
-      out_.put(static_cast<uint32_t>(second_bits), second.bits());
+      out_.put(head);
+      out_.put(first_bits);
+      out_.put(second_bits);
     }
   }
   uint32_t written() const { return out_.written(); }
   void flush() { out_.flush(); }
 
  private:
-  struct Head {
-    unsigned bits, width;
-  };
-  Head head_of(Parameters now) const {
+  BitField head_of(Parameters now) const {
     const unsigned changes = (now.mask != before_.mask ? mask_changes : 0u) |
                              (now.distance != before_.distance ? distance_changes : 0u) |
                              (now.level != before_.level ? level_changes : 0u);
-    Head head{changes, 3};
+    BitField head{changes, 3};
     const auto append = [&](bool there, unsigned value, unsigned n) {
-      n = there ? n : 0;
-      head.bits = head.bits << n | (there ? value : 0);
-      head.width += n;
+      head = head + BitField{there ? value : 0, there ? n : 0};
     };
     append(changes & level_changes, now.level, 4);
     append(now.level && changes & distance_changes, now.distance, 3);

@@ -97,7 +97,7 @@ extern "C" int32_t TESSARO_CALL ioDecoder(const void* stream, void* destination,
   return decode(Trusted(stream), destination, count);
 }
 
-extern "C" int32_t TESSARO_CALL ioDecoderSafe(const void* stream, void* destination, uint32_t size,
+extern "C" int32_t TESSARO_CALL ioDecoderSafe(const void* stream, void* destination, uint32_t stream_size,
                                               uint32_t count) {
-  return decode(Bounded(stream, size), destination, count);
+  return decode(Bounded(stream, stream_size), destination, count);
 }

@@ -13,12 +13,23 @@ namespace tessaro {
 
 inline uint64_t load_big_endian64(const uint8_t* at) { return __builtin_bswap64(load<uint64_t>(at)); }
 
+// Bits side by side, the last one lowest; nothing stands above them.
+struct BitField {
+  uint64_t bits;
+  unsigned width;  // at most 56
+  // These, then those.
+  constexpr BitField operator+(BitField next) const {
+    return {bits << next.width | next.bits, width + next.width};
+  }
+};
+constexpr uint32_t ones(unsigned n) { return static_cast<uint32_t>((uint64_t{1} << n) - 1); }  // n <= 32
+
 class BitWriter {
  public:
   explicit BitWriter(uint8_t* out) : begin_(out), at_(out) {}
 
-  // Appends n bits, n <= 32; there are none above them. Whole bytes leave at once: `pending_` still has those that left
-  // before, so one store of the last four rewrites them and touches nothing else.
+  // Appends n bits, n <= 32; nothing stands above them. Whole bytes leave at once, by a store of the last four: three of
+  // them have left before, and `pending_` still holds those, so that they are stored again as they are.
   void put(uint32_t bits, unsigned n) {
     pending_ = pending_ << n | bits;
     held_ += n;
@@ -30,11 +41,12 @@ class BitWriter {
       for (; held_ >= 8; held_ -= 8) *at_++ = static_cast<uint8_t>(pending_ >> (held_ - 8));
     }
   }
-  // Appends up to 56 bits in one store of 8 bytes, which may change the 7 bytes behind the stream so far: only for where
-  // at least 7 more are sure to follow.
-  void put_ahead(uint64_t bits, unsigned n) {
-    pending_ = pending_ << n | bits;
-    held_ += n;
+  void put(BitField field) { put(static_cast<uint32_t>(field.bits), field.width); }  // of 32 bits at most
+  // Appends a field in one store of 8 bytes, which may change the 7 bytes behind the stream so far: only for where at
+  // least 7 more are sure to follow.
+  void put_ahead(BitField field) {
+    pending_ = pending_ << field.width | field.bits;
+    held_ += field.width;
     // Nothing pending stores bytes that will be written again, whatever the shift.
     store(at_, __builtin_bswap64(pending_ << ((64 - held_) & 63)));
     at_ += held_ >> 3;
@@ -126,7 +138,7 @@ class BitReader {
     need(n);
     return take(n);
   }
-  // Counts the one bits up to a zero, which is taken too, or up to `most` of them.
+  // Counts the one bits up to a zero, which is taken too, or up to `most` of them; 2^30 and more count as 2^30.
   unsigned read_ones(unsigned most) {
     for (unsigned ones = 0;;) {
       need(1);
@@ -143,6 +155,7 @@ class BitReader {
         skip(1);
         return ones;
       }
+      if (ones > 1u << 30) ones = 1u << 30;
     }
   }
   bool ran_out() const { return ran_out_; }

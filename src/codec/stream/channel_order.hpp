@@ -1,4 +1,4 @@
-// The inverse rules of the transforms, for decoders that apply them in the same pass.
+// The order of pixels that are sent channel by channel, and the code of a difference: what decoders undo in the same pass.
 #pragma once
 
 #include <cstdint>

@@ -14,17 +14,6 @@ inline constexpr unsigned class_width[] = {8, 5, 3, 0};
 inline constexpr uint8_t class_keep[] = {0x00, 0xE0, 0xF8, 0xFF};  // what stays of the byte before
 inline constexpr unsigned repeats = 3;
 
-struct BitField {
-  uint32_t bits;
-  unsigned width;
-};
-inline constexpr BitField class_mark[] = {{0b0, 1}, {0b10, 2}, {0b110, 3}, {0b111, 3}};
-
-template <class Source>
-inline unsigned read_class(BitReader<Source>& in) {
-  return in.read_ones(repeats);
-}
-
 struct Group {
   uint32_t size;   // 4 * 2^level; the last group of a stream may be longer than what is left to code
   unsigned level;  // sent as that many ones and a zero
@@ -62,7 +51,22 @@ inline Group scan_group(const uint8_t* source, uint32_t length, uint32_t start) 
   return {4u << level, level, kind};
 }
 
-// Reads the head of a group: its size, which ends at 2^32 whatever a damaged stream asks for, and its class.
+// The head of a group: its size, then the zero that ends it with the class.
+inline constexpr BitField class_mark[] = {{0b00, 2}, {0b010, 3}, {0b0110, 4}, {0b0111, 4}};
+
+// Appends a size. Where `tested`, close to the limit, every one of its bits leaves on its own, as it does once a scan has
+// seen that the group is that large: false as soon as full().
+template <class Full>
+inline bool put_size(BitWriter& out, unsigned level, bool tested, Full full) {
+  if (!tested) out.put(ones(level), level);
+  for (unsigned k = 0; tested && k < level; ++k) {
+    out.put(1, 1);
+    if (full()) return false;
+  }
+  return true;
+}
+
+// A size ends at 2^32, whatever a damaged stream asks for.
 struct GroupHead {
   uint64_t size;
   unsigned kind;
@@ -70,7 +74,7 @@ struct GroupHead {
 template <class Source>
 inline GroupHead read_group_head(BitReader<Source>& in) {
   const unsigned level = in.read_ones(UINT32_MAX);
-  return {uint64_t{4} << (level < 30 ? level : 30), read_class(in)};
+  return {uint64_t{4} << (level < 30 ? level : 30), in.read_ones(repeats)};
 }
 
 // The low bits of four bytes side by side, first byte on top, and back.
@@ -78,7 +82,7 @@ template <unsigned width>
 inline uint32_t pack(uint32_t bytes) {
   if constexpr (width == 8) return bytes;
   if constexpr (width == 5) {
-    const uint32_t pairs = (bytes & 0x001F001F) | (bytes >> 3 & 0x03E003E0);
+    const uint32_t pairs = (bytes & 0x001F001F) | (bytes >> 3 & 0x03E003E0);  // 000000aa aaabbbbb, twice
     return (pairs & 0xFFFF) | pairs >> 16 << 10;
   }
   const uint32_t pairs = (bytes & 0x00070007) | (bytes >> 5 & 0x00380038);
@@ -106,7 +110,7 @@ inline uint8_t* read_payload(BitReader<Source>& in, uint8_t* out, uint32_t n, ui
 template <unsigned width>
 inline void put_payload(BitWriter& out, const uint8_t* from, uint32_t n) {
   for (; n >= 4; n -= 4, from += 4) out.put(pack<width>(__builtin_bswap32(load<uint32_t>(from))), 4 * width);
-  for (; n != 0; --n) out.put(*from++ & ~(~0u << width), width);
+  for (; n != 0; --n) out.put(*from++ & ones(width), width);
 }
 
 }  // namespace tessaro

@@ -8,12 +8,7 @@
 
 namespace tessaro {
 
-struct PixelCode {
-  uint64_t bits;
-  unsigned width;  // at most 56
-};
-
-// code(pixel, before) gives a PixelCode. Stops without a flush once `written` reaches the limit.
+// code(pixel, before) gives a BitField. Stops without a flush once `written` reaches the limit.
 template <class Code>
 inline int32_t encode_pixels(const void* source, void* destination, uint32_t length, uint32_t* written,
                              uint32_t margin, Code code) {
@@ -24,8 +19,7 @@ inline int32_t encode_pixels(const void* source, void* destination, uint32_t len
   // Far from the limit and from the end, where at least 7 more bytes follow.
   for (; left >= 4 * 64 && out.written() + 16 < limit; in += 4, left -= 4) {
     const auto pixel = load<uint32_t>(in);
-    const PixelCode c = code(pixel, before);
-    out.put_ahead(c.bits, c.width);
+    out.put_ahead(code(pixel, before));
     before = pixel;
   }
   while (left != 0) {
@@ -33,10 +27,10 @@ inline int32_t encode_pixels(const void* source, void* destination, uint32_t len
     const uint32_t n = left < 4 ? left : 4;
     uint32_t pixel = before;
     std::memcpy(&pixel, in, n);
-    const PixelCode c = code(pixel, before);
+    const BitField c = code(pixel, before);
     const unsigned low = c.width / 2;
     out.put(static_cast<uint32_t>(c.bits >> low), c.width - low);
-    out.put(static_cast<uint32_t>(c.bits & ((uint64_t{1} << low) - 1)), low);
+    out.put(static_cast<uint32_t>(c.bits) & ones(low), low);
     if (out.written() >= limit) {
       store(written, out.written());
       return 1;
@@ -59,7 +53,7 @@ inline int32_t decode_pixels(Source source, void* destination, uint32_t count, u
   BitReader<Source> in(source);
   auto* out = static_cast<uint8_t*>(destination);
   uint32_t pixel = 0;
-  // Before so many pixels of the end the stream goes on for the 8 bytes of a refill, whatever is held.
+  // While more pixels than these are to come the stream goes on for the 8 bytes of a refill and the 8 that may be held.
   const uint32_t end = 128 / least_bits + 1;
   const auto far_from_end = [&] { return count / 4 > end && in.can_refill(uint64_t{1} << 40); };
   for (; far_from_end(); out += 4, count -= 4) {
