@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <chrono>
+#include <cstdlib>
 #include <thread>
 #ifdef _WIN32
 #include <windows.h>
@@ -8,6 +10,7 @@
 #include <pthread.h>
 #endif
 
+#include "platform/platform.hpp"
 #include "tessaro/tessaro.h"
 
 namespace {
@@ -57,7 +60,41 @@ TEST(Worker, ThatEndsByItselfStaysUntilItIsKilled) {
   EXPECT_EQ(ThreadKill(), 1);
 }
 
-#ifndef _WIN32
+void kill_itself() {
+  ++calls;
+  ThreadKill();
+  ++calls;
+}
+
+// In a process of its own, which ends with the worker still waiting.
+TEST(WorkerDeathTest, ThatKillsItselfWaitsForEver) {
+  const auto wait_for_it = [] {
+    std::atomic<bool> returned = false;
+    std::thread([&] {
+      ThreadBegin(kill_itself);
+      returned = true;
+    }).detach();
+    await_calls(1);
+    std::this_thread::sleep_for(std::chrono::milliseconds(200));
+    std::_Exit(calls == 1 && !returned && ThreadBegin(count) == 1 ? 0 : 1);
+  };
+  calls = 0;
+  EXPECT_EXIT(wait_for_it(), testing::ExitedWithCode(0), "");
+}
+
+#ifdef _WIN32
+TEST(Worker, ThatIsClosedIsNotMistakenForWhatGetsItsHandleNext) {
+  using namespace tessaro::platform;
+  const Thread thread = start_thread([] {});
+  close_thread(thread);
+  HANDLE event = nullptr;  // set, and reset by the first wait
+  for (int i = 0; i < 1000 && event != thread; ++i) event = CreateEventA(nullptr, FALSE, TRUE, nullptr);
+  ASSERT_EQ(event, thread) << "the system no longer hands closed handles out again";
+  EXPECT_FALSE(thread_runs(thread));
+  EXPECT_EQ(WaitForSingleObject(event, 0), WAIT_OBJECT_0) << "somebody waited for it";
+  CloseHandle(event);
+}
+#else
 TEST(Worker, ThatCannotBeMadeLeavesNone) {
   pthread_attr_t usual, huge;  // a stack larger than any address space
   ASSERT_EQ(pthread_getattr_default_np(&usual), 0);

@@ -1,5 +1,6 @@
 #include <pthread.h>
 #include <sched.h>
+#include <unistd.h>
 
 #include <atomic>
 
@@ -48,7 +49,9 @@ bool thread_runs(Thread thread) {
 void close_thread(Thread thread) {
   pthread_mutex_lock(&closing);
   if (joinable == reinterpret_cast<uintptr_t>(thread)) {
-    pthread_join(joinable_thread, nullptr);
+    // The system refuses a thread that waits for its own end. Like any other it waits: for ever.
+    if (pthread_join(joinable_thread, nullptr) != 0)
+      while (thread_runs(thread)) usleep(1000);
     joinable = 0;
   }
   pthread_mutex_unlock(&closing);

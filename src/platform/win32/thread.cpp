@@ -1,10 +1,24 @@
 #include <windows.h>
 
+#include <atomic>
+
 #include "platform/platform.hpp"
 
 namespace tessaro::platform {
 
 namespace {
+
+// The system may give the value of a closed handle to another object at once, and waiting for that may change it (an event
+// is reset, a mutex taken). So a handle is closed, and asked about without waiting, under a lock.
+constinit HANDLE open = nullptr;
+constinit std::atomic_flag locked;
+
+struct Lock {
+  Lock() {
+    while (locked.test_and_set()) yield();
+  }
+  ~Lock() { locked.clear(); }
+};
 
 DWORD WINAPI run(LPVOID routine) {
   reinterpret_cast<void (*)()>(routine)();
@@ -14,14 +28,21 @@ DWORD WINAPI run(LPVOID routine) {
 }  // namespace
 
 Thread start_thread(void (*routine)()) {
-  return CreateThread(nullptr, 0, run, reinterpret_cast<LPVOID>(routine), 0, nullptr);
+  const Lock lock;
+  return open = CreateThread(nullptr, 0, run, reinterpret_cast<LPVOID>(routine), 0, nullptr);
 }
 
-bool thread_runs(Thread thread) { return WaitForSingleObject(thread, 0) == WAIT_TIMEOUT; }
+bool thread_runs(Thread thread) {
+  const Lock lock;
+  return thread != nullptr && thread == open && WaitForSingleObject(thread, 0) == WAIT_TIMEOUT;
+}
 
 void close_thread(Thread thread) {
   WaitForSingleObject(thread, INFINITE);
+  const Lock lock;
+  if (thread != open) return;
   CloseHandle(thread);
+  open = nullptr;
 }
 
 void yield() { Sleep(0); }
