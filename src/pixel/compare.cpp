@@ -39,11 +39,11 @@ int32_t TESSARO_CALL BBITrim(const ImageRecord* image, int32_t flag, uint32_t ma
                              int32_t* left, int32_t* top, int32_t* width, int32_t* height) {
   if (flag != 0) return status_nothing;
   const CompareKernels& k = kernels<CompareKernels>();
-  Area n;
-  const bool empty = !clip_whole(image, n);
+  Area n{};  // and so it stays for an image without pixels
+  clip_whole(image, n);
   const auto row = [&n](ptrdiff_t y) { return n.at + y * n.pitch; };
-  const size_t all = empty ? 0 : static_cast<size_t>(n.width);
-  ptrdiff_t first = 0, last = empty ? -1 : n.height - 1;
+  const size_t all = static_cast<size_t>(n.width);
+  ptrdiff_t first = 0, last = n.height - 1;
   while (first <= last && k.first_content(row(first), all, mask, key) == all) ++first;
   if (first > last) {
     store(left, int32_t{0});

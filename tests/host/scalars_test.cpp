@@ -29,6 +29,15 @@ TEST(Scalars, PeeksAndPokesTakeAnyAlignmentAndNegativeIndices) {
   EXPECT_EQ(BBI(-5), -5);
 }
 
+TEST(Scalars, ShiftsTakeTheirCountModulo32) {
+  EXPECT_EQ(SHR(0xFFFFFFF8, 1), 0x7FFFFFFCu);
+  EXPECT_EQ(SHR(0x80000000, 63), 1u);
+  EXPECT_EQ(SAR(-8, 1), -4);
+  EXPECT_EQ(SAR(INT32_MIN, 63), -1);
+  EXPECT_EQ(SHL(1, 33), 2u);
+  EXPECT_EQ(SHL(3, 31), 0x80000000u);
+}
+
 TEST(Scalars, CompareAndExclusiveOr) {
   const char a[] = "abcdef", b[] = "abcdeg";
   EXPECT_EQ(dllComp(a, b, 5), 0);
@@ -57,7 +66,10 @@ TEST(Scalars, CompareAndExclusiveOr) {
   EXPECT_EQ(CopyMemoryEx(nullptr, nullptr, 5, 0, 1), 0);
 }
 
-TEST(Scalars, HashesReadNoFurtherThanTheyMay) {
+TEST(Scalars, HashesAreThoseOfStoredFilesAndReadNoFurtherThanTheyMay) {
+  EXPECT_EQ(hash32A("The quick brown fox\xFF"), 0x007F6B0Du);
+  EXPECT_EQ(hash32W("The quick brown fox\xFF", 20), 0x2505F3B1u);
+  EXPECT_EQ(hash32A(""), 0xA82976E5u);
   EXPECT_EQ(hash32W(nullptr, INT32_MIN), 0xA82976E5u);
   const std::string text(64, 'x');
   // The 65th byte does not exist for it, not even as an end.
@@ -66,8 +78,16 @@ TEST(Scalars, HashesReadNoFurtherThanTheyMay) {
   EXPECT_EQ(hash32W("a\0b", 3), hash32W("ab", 2));
 }
 
-TEST(Scalars, ColourBlendTakesWhatIsNotANumberAs0) {
-  EXPECT_EQ(dwColorBlend(0x10FF2003, 0xF0010507, std::numeric_limits<float>::quiet_NaN()), 0x10FF2003u);
+TEST(Scalars, ColourBlendTruncatesEachChannelAndLimitsTheFactor) {
+  const float nan = std::numeric_limits<float>::quiet_NaN();
+  for (const auto& [factor, mixed] : {std::pair{0.5f, 0x80801205u},
+                                      {0.3f, 0x52B31704u},  // weights 180 and 76
+                                      {0.0f, 0x10FF2003u},
+                                      {-1.0f, 0x10FF2003u},
+                                      {nan, 0x10FF2003u},
+                                      {1.0f, 0xF0010507u},
+                                      {7.0f, 0xF0010507u}})
+    EXPECT_EQ(dwColorBlend(0x10FF2003, 0xF0010507, factor), mixed) << factor;
 }
 
 TEST(Scalars, CallsThroughPointers) {

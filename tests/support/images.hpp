@@ -10,6 +10,7 @@
 #include <ostream>
 #include <random>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "core/image.hpp"
@@ -112,9 +113,13 @@ class Forced {
 };
 
 // Areas of so many pixels are written past the caches, for the life of the object.
-struct Streamed {
-  explicit Streamed(ptrdiff_t pixels) { streamed_area = pixels; }
-  ~Streamed() { streamed_area = never; }
+class Streamed {
+ public:
+  explicit Streamed(ptrdiff_t pixels) : before_(std::exchange(streamed_area, pixels)) {}
+  ~Streamed() { streamed_area = before_; }
+
+ private:
+  ptrdiff_t before_;
 };
 
 // Each of them in turn, while the body of the loop runs: for (const Forced backend : supported_backends()) ...
