@@ -248,7 +248,7 @@ TESSARO_API intptr_t TESSARO_CALL StdCallBack(TessaroCallback2 fn, intptr_t a, i
  * process and no lock: of two threads that draw at the same moment both may get the same number, and a host
  * that minds locks for itself.
  *
- * @param n [count, 1..] The limit, unsigned. 0 divides by zero and faults.
+ * @param n [count, 1.., trusted] The limit, unsigned. 0 divides by zero and faults.
  * @return [value, 0..n - 1] The next output modulo `n`; each call draws one, also with 1.
  */
 TESSARO_API uint32_t TESSARO_CALL GetRandom(uint32_t n);

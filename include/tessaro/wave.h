@@ -89,8 +89,8 @@ typedef struct WaveBuffer {
  * ones do nothing for bits other than 8, 16, 24 and 64. An index outside `0..count - 1` reads zeros and
  * writes nothing; unknown bits at the float scale together with such an index read zeros too.
  *
- * @param[in] data [max(count, 0) * (bits / 8) * channels bytes] Frame 0. For the integer functions, bits
- *   other than 8, 16 and 24 count as 24 and channels other than 2 as 1.
+ * @param[in] data [max(count, 0) * (2 * min(abs(bits - 8), 1) + min(abs(bits - 16), 1)) *
+ *   (2 - min(abs(channels - 2), 1)) bytes] Frame 0: 1, 2 or 3 bytes a sample, 1 or 2 samples.
  * @param index [index] The frame.
  * @param bits [one of TessaroSampleBits] The width of a stored sample.
  * @param channels [one of TessaroChannels] Samples a frame.
@@ -108,7 +108,8 @@ TESSARO_API int32_t TESSARO_CALL GetWave(const void* data, int32_t index, int32_
                                          int32_t count, int32_t* left, int32_t* right);
 /**
  * @brief Writes a frame at the 16-bit scale, without clamping.
- * @param[in,out] data [max(count, 0) * (bits / 8) * channels bytes] Frame 0.
+ * @param[in,out] data [max(count, 0) * (2 * min(abs(bits - 8), 1) + min(abs(bits - 16), 1)) *
+ *   (2 - min(abs(channels - 2), 1)) bytes] Frame 0.
  * @param left [value] The left value; what does not fit loses its high bits.
  * @param right [value] The right one.
  */
@@ -123,7 +124,8 @@ TESSARO_API int32_t TESSARO_CALL GetWave24(const void* data, int32_t index, int3
                                            int32_t count, int32_t* left, int32_t* right);
 /**
  * @brief Writes a frame at the 24-bit scale, without clamping.
- * @param[in,out] data [max(count, 0) * (bits / 8) * channels bytes] Frame 0.
+ * @param[in,out] data [max(count, 0) * (2 * min(abs(bits - 8), 1) + min(abs(bits - 16), 1)) *
+ *   (2 - min(abs(channels - 2), 1)) bytes] Frame 0.
  * @param left [value] The left value; what does not fit loses its high bits.
  * @param right [value] The right one.
  */
@@ -131,6 +133,7 @@ TESSARO_API int32_t TESSARO_CALL LetWave24(void* data, int32_t index, int32_t bi
                                            int32_t count, int32_t left, int32_t right);
 /**
  * @brief Reads a frame at the float scale.
+ * @param[in] data [max(count, 0) * (bits / 8) * (2 - min(abs(channels - 2), 1)) bytes] Frame 0.
  * @param[out] left [1 doubles] The left sample, or the only one; untouched for unknown bits.
  * @param[out] right [1 doubles] The right sample, or the only one; untouched for unknown bits.
  */
@@ -138,7 +141,7 @@ TESSARO_API int32_t TESSARO_CALL GetWave64(const void* data, int32_t index, int3
                                            int32_t count, double* left, double* right);
 /**
  * @brief Writes a frame at the float scale, clamped to -1..1.
- * @param[in,out] data [max(count, 0) * (bits / 8) * channels bytes] Frame 0.
+ * @param[in,out] data [max(count, 0) * (bits / 8) * (2 - min(abs(channels - 2), 1)) bytes] Frame 0.
  * @param left [value, -1..1] The left value; not a number counts as -1.
  * @param right [value, -1..1] The right one.
  */
