@@ -131,7 +131,7 @@ class Row {
   static constexpr unsigned step = 1;
   Row(void* out, uint32_t count) : at_(static_cast<uint8_t*>(out)), end_(at_ + count) {}
   bool put(uint8_t byte) {
-    *at_++ = byte;
+    *at_++ = byte;  // NOLINT(clang-analyzer-core.NullDereference): room() may be null, this never is
     return at_ != end_;
   }
   uint8_t* room(uint32_t n) { return static_cast<size_t>(end_ - at_) > n ? at_ : nullptr; }
@@ -145,7 +145,7 @@ class FourChannels {
   static constexpr unsigned step = 4;
   FourChannels(void* out, uint32_t count) : out_(static_cast<uint8_t*>(out)), order_(count) {}
   bool put(uint8_t byte) {
-    out_[order_.position()] = byte;
+    out_[order_.position()] = byte;  // NOLINT(clang-analyzer-core.NullDereference): as above
     return order_.next();
   }
   uint8_t* room(uint32_t n) { return order_.has(n) ? out_ + order_.position() : nullptr; }
