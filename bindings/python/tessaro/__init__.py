@@ -1,0 +1,5 @@
+"""Raster images, byte-stream codecs and waveforms."""
+
+from . import constants, functions
+
+__all__ = ["constants", "functions"]
