@@ -26,12 +26,22 @@ converters = {"int32_t": "signed", "uint32_t": "unsigned", "intptr_t": "word"}
 
 
 def names_in(expression):
-    return {node.id for node in ast.walk(ast.parse(expression.replace("\n", " "), mode="eval")) if isinstance(node, ast.Name)}
+    return {
+        node.id
+        for node in ast.walk(ast.parse(expression.replace("\n", " "), mode="eval"))
+        if isinstance(node, ast.Name)
+    }
 
 
 def python_of(expression):
     """An expression of the description in Python."""
-    builtins = {"min": "_min", "max": "_max", "abs": "_abs", "ceil_div": "_a.ceil_div", "bytes_of": "_a.bytes_of"}
+    builtins = {
+        "min": "_min",
+        "max": "_max",
+        "abs": "_abs",
+        "ceil_div": "_a.ceil_div",
+        "bytes_of": "_a.bytes_of",
+    }
 
     def walk(node):
         if isinstance(node, ast.BinOp):
@@ -78,7 +88,11 @@ class Function:
         self.parameters = data["parameters"]
         # A decoder that trusts its stream has a twin that is told the stream's size.
         self.twin = api.functions.get(self.name + "Safe")
-        self.sizes = set().union(*(names_in(p["size"]) for p in self.parameters if "size" in p)) if self.parameters else set()
+        self.sizes = (
+            set().union(*(names_in(p["size"]) for p in self.parameters if "size" in p))
+            if self.parameters
+            else set()
+        )
 
     def c_type(self, type_name):
         if type_name.endswith("*"):
@@ -132,7 +146,10 @@ class Function:
         if p.get("unit"):
             told.append(p["unit"])
         if "range" in p:
-            low, high = (("" if v is None else f"{v:g}" if isinstance(v, float) else str(v)) for v in (p["range"]["low"], p["range"]["high"]))
+            low, high = (
+                ("" if v is None else f"{v:g}" if isinstance(v, float) else str(v))
+                for v in (p["range"]["low"], p["range"]["high"])
+            )
             told.append(f"{low}..{high}")
         return ", ".join(told)
 
@@ -142,10 +159,16 @@ class Function:
         if d["text"]:
             lines += ["", *d["text"].splitlines()]
         if self.twin:
-            lines += ["", f"A buffer has an end, so the work is done by `{self.name}Safe`: a stream that is damaged or cut off returns",
-                      "1 here, and nothing behind it is read."]
+            lines += [
+                "",
+                f"A buffer has an end, so the work is done by `{self.name}Safe`: a stream that is damaged or cut off returns",
+                "1 here, and nothing behind it is read.",
+            ]
         if any("at" in p for p in self.parameters):
-            lines += ["", "Each buffer is the whole block from its lowest address on: where rows go upwards, its last row comes first."]
+            lines += [
+                "",
+                "Each buffer is the whole block from its lowest address on: where rows go upwards, its last row comes first.",
+            ]
         if self.parameters:
             lines += ["", "Parameters", "----------"]
             for p in self.parameters:
@@ -160,9 +183,13 @@ class Function:
         if returns["type"] != "void":
             lines += ["", "Returns", "-------", "int"]
             if "value" in returns:
-                lines += textwrap.wrap(returns["value"]["text"], 104, initial_indent="    ", subsequent_indent="    ")
+                lines += textwrap.wrap(
+                    returns["value"]["text"], 104, initial_indent="    ", subsequent_indent="    "
+                )
             for case in returns.get("cases", ()):
-                lines += textwrap.wrap(f"{case['value']}: {case['text']}", 104, initial_indent="    ", subsequent_indent="      ")
+                lines += textwrap.wrap(
+                    f"{case['value']}: {case['text']}", 104, initial_indent="    ", subsequent_indent="      "
+                )
         if d["see"]:
             lines += ["", "See Also", "--------", ", ".join(d["see"])]
         if d.get("alias_of"):
@@ -191,7 +218,13 @@ class Function:
                     checks.append(f'_a.within("{name}", {name}, {low!r}, {high!r})')
             else:
                 passed[name] = convert
-        measured = {n.split(".")[0] for p in others for e in (p.get("size"), p.get("at", {}).get("offset")) if e for n in re.findall(r"\w+\.\w+", e)}
+        measured = {
+            n.split(".")[0]
+            for p in others
+            for e in (p.get("size"), p.get("at", {}).get("offset"))
+            if e
+            for n in re.findall(r"\w+\.\w+", e)
+        }
         for p in sorted(others, key=lambda p: p["name"] not in measured):
             name, written = p["name"], "out" in p.get("direction", "")
             if p["kind"] == "image":
@@ -249,7 +282,9 @@ class Function:
         return "\n".join(lines)
 
     def binding(self):
-        types = [self.c_type(self.data["returns"]["type"])] + [self.c_type(p["type"]) for p in self.parameters]
+        types = [self.c_type(self.data["returns"]["type"])] + [
+            self.c_type(p["type"]) for p in self.parameters
+        ]
         line = f'_{self.name} = _function("{self.name}", {", ".join(types)})'
         if len(line) > 110:
             line = f'_{self.name} = _function(\n' + textwrap.fill(
@@ -272,9 +307,17 @@ class Api:
         yield "constants.py", self.constants()
 
     def functions_module(self, made):
-        out = [head.format("All functions of the library by name.\n\nArguments are checked, so that no call reads or writes outside the memory it is given: a buffer that is too\nshort, or read-only where it is written, raises ValueError. Results are returned as they are: what a status\nmeans, its function tells. Images are `tessaro.Image`, or buffers that begin with an image record; sounds are\n`tessaro.Sound`, or tuples of format code, frames and memory; buffers are whatever has the buffer protocol, an\nimage and a sound standing for their pixels and samples.")]
-        out.append("from __future__ import annotations\n\nimport builtins as _builtins\nimport ctypes as _c\n")
-        out.append("from . import _arguments as _a\nfrom ._library import callback as _callback\nfrom ._library import function as _function\n")
+        out = [
+            head.format(
+                "All functions of the library by name.\n\nArguments are checked, so that no call reads or writes outside the memory it is given: a buffer that is too\nshort, or read-only where it is written, raises ValueError. Results are returned as they are: what a status\nmeans, its function tells. Images are `tessaro.Image`, or buffers that begin with an image record; sounds are\n`tessaro.Sound`, or tuples of format code, frames and memory; buffers are whatever has the buffer protocol, an\nimage and a sound standing for their pixels and samples."
+            )
+        ]
+        out.append(
+            "from __future__ import annotations\n\nimport builtins as _builtins\nimport ctypes as _c\n"
+        )
+        out.append(
+            "from . import _arguments as _a\nfrom ._library import callback as _callback\nfrom ._library import function as _function\n"
+        )
         out.append(
             "_i32, _u32, _u16, _f32, _f64 = _c.c_int32, _c.c_uint32, _c.c_uint16, _c.c_float, _c.c_double\n"
             "_word, _uword, _pointer = _c.c_ssize_t, _c.c_size_t, _c.c_void_p"
@@ -313,7 +356,9 @@ class Api:
         flags = {p["enum"] for f in self.data["functions"] for p in f["parameters"] if p.get("flags")}
         out = [head.format("The named constants of the library."), "from enum import IntEnum, IntFlag\n\n"]
         for enum in self.data["enums"]:
-            out.append(f"class {class_name(enum['name'])}({'IntFlag' if enum['name'] in flags else 'IntEnum'}):")
+            out.append(
+                f"class {class_name(enum['name'])}({'IntFlag' if enum['name'] in flags else 'IntEnum'}):"
+            )
             doc = "\n\n".join(filter(None, (enum["brief"], enum["text"])))
             doc = textwrap.indent(doc, "    ").strip()
             out.append(f'    """{doc}' + ('\n    """\n' if "\n" in doc else '"""\n'))
@@ -322,12 +367,14 @@ class Api:
                 out += textwrap.wrap(c["text"], 104, initial_indent="    #: ", subsequent_indent="    #: ")
                 out.append(f"    {c['name'][len(prefix):]} = {c['value']}")
             out.append("\n")
-        out.append("__all__ = [\n" + "".join(f'    "{class_name(e["name"])}",\n' for e in self.data["enums"]) + "]")
+        out.append(
+            "__all__ = [\n" + "".join(f'    "{class_name(e["name"])}",\n' for e in self.data["enums"]) + "]"
+        )
         return "\n".join(out) + "\n"
 
 
 def class_name(enum):
-    return enum[len("Tessaro"):] if enum.startswith("Tessaro") else enum
+    return enum[len("Tessaro") :] if enum.startswith("Tessaro") else enum
 
 
 def common_prefix(names):
@@ -336,7 +383,7 @@ def common_prefix(names):
     best = "TESSARO_"
     for k in range(1, min(map(len, words))):
         prefix = "_".join(words[0][:k]) + "_"
-        if all(n.startswith(prefix) and n[len(prefix):].isidentifier() for n in names):
+        if all(n.startswith(prefix) and n[len(prefix) :].isidentifier() for n in names):
             best = prefix
     return best
 
@@ -350,7 +397,9 @@ def main():
         elif not path.exists() or path.read_text() != text:
             stale.append(name)
     if stale:
-        sys.exit(f"bindings/python: {', '.join(stale)}: not what the description says; run bindings/python/generate.py")
+        sys.exit(
+            f"bindings/python: {', '.join(stale)}: not what the description says; run bindings/python/generate.py"
+        )
 
 
 if __name__ == "__main__":

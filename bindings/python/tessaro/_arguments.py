@@ -1,4 +1,4 @@
-"""What every argument goes through on its way to the library: nothing that could reach foreign memory gets by."""
+"""What every argument goes through on its way to the library: nothing gets by that reaches foreign memory."""
 
 import ctypes
 import struct
@@ -62,7 +62,9 @@ def view_of(name, value):
     try:
         view = memoryview(value)
     except TypeError:
-        raise TypeError(f"{name}: expected an object with the buffer protocol, not {type(value).__name__}") from None
+        raise TypeError(
+            f"{name}: expected an object with the buffer protocol, not {type(value).__name__}"
+        ) from None
     if not view.c_contiguous:
         raise ValueError(f"{name}: the memory is not contiguous; pass a copy")
     return view
@@ -116,7 +118,7 @@ class ImageMemory:
         def inside(what, at, size):
             if at < 0 or at + size > total:
                 raise ValueError(
-                    f"the image record lies: {what} would be bytes {at}..{at + size - 1} of a memory of {total} bytes"
+                    f"the image record lies: {what} would be bytes {at}..{at + size - 1} of {total}"
                 )
 
         inside("the record", offset, 4)

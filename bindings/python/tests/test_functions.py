@@ -19,7 +19,9 @@ blocking = {"ThreadBegin", "ThreadKill"}
 def record(width=8, height=6, pitch=None, pixels=10, dims=4, room=0):
     """A buffer with an image record at its start."""
     pitch = 4 * width if pitch is None else pitch
-    head = struct.pack("<hh", dims, pixels).ljust(max(dims, 4), b"\0") + struct.pack("<hhh", width, height, pitch)
+    head = struct.pack("<hh", dims, pixels).ljust(max(dims, 4), b"\0") + struct.pack(
+        "<hhh", width, height, pitch
+    )
     return bytearray(head.ljust(pixels, b"\0") + bytes(4 * width * height + room))
 
 
@@ -49,7 +51,9 @@ class Sizes(unittest.TestCase):
                 continue
             call = getattr(functions, f["name"])
             arguments = [plain(p) for p in f["parameters"]]
-            memories = [k for k, p in enumerate(f["parameters"]) if p["kind"] == "memory" and p["name"] != "text"]
+            memories = [
+                k for k, p in enumerate(f["parameters"]) if p["kind"] == "memory" and p["name"] != "text"
+            ]
             wanted = {}
             for _ in memories:  # each call tells of the first buffer that is too short
                 try:
@@ -65,7 +69,9 @@ class Sizes(unittest.TestCase):
                 for at, size in wanted.items():
                     p = f["parameters"][at]
                     less = arguments[:at] + [bytearray(size - 1)] + arguments[at + 1 :]
-                    with self.assertRaisesRegex(ValueError, rf"^{p['name']}: {size} bytes are needed, {size - 1} given"):
+                    with self.assertRaisesRegex(
+                        ValueError, rf"^{p['name']}: {size} bytes are needed, {size - 1} given"
+                    ):
                         call(*less)
                     if "out" in p["direction"]:
                         sealed = arguments[:at] + [bytes(size)] + arguments[at + 1 :]
@@ -137,7 +143,13 @@ class Arguments(unittest.TestCase):
 
     def test_buffers_of_every_kind(self):
         source = bytes(range(200))
-        for made in (source, bytearray(source), memoryview(source)[0:200], array("B", source), (ctypes.c_ubyte * 200)(*source)):
+        for made in (
+            source,
+            bytearray(source),
+            memoryview(source)[0:200],
+            array("B", source),
+            (ctypes.c_ubyte * 200)(*source),
+        ):
             out, written = array("B", bytes(200)), ctypes.c_uint32()
             self.assertEqual(functions.iwave11Encoder(made, out, 200, written), 0)
             self.assertEqual(written.value, 200)
@@ -189,7 +201,9 @@ class Arguments(unittest.TestCase):
         self.assertEqual(functions.StdCallBack(lambda a, b: a - b, 50, 8), 42)
         self.assertEqual(functions.ThreadKill(), 1)
         calls = []
-        worker = threading.Thread(target=functions.ThreadBegin, args=(lambda: calls.append(time.sleep(0.001)),))
+        worker = threading.Thread(
+            target=functions.ThreadBegin, args=(lambda: calls.append(time.sleep(0.001)),)
+        )
         worker.start()
         while not calls:
             time.sleep(0.001)
@@ -202,7 +216,9 @@ class Form(unittest.TestCase):
         names = [f["name"] for f in api["functions"]]
         self.assertEqual(functions.__all__, names)
         for f in api["functions"]:
-            self.assertTrue(getattr(functions, f["name"]).__doc__.startswith(f["brief"].split("`")[0].split("\\")[0]))
+            self.assertTrue(
+                getattr(functions, f["name"]).__doc__.startswith(f["brief"].split("`")[0].split("\\")[0])
+            )
         named = {c["value"] for e in api["enums"] for c in e["constants"]}
         made = {m.value for n in constants.__all__ for m in getattr(constants, n).__members__.values()}
         self.assertEqual(named, made)
