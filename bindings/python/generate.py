@@ -305,6 +305,7 @@ class Api:
         yield "functions.py", self.functions_module(made)
         yield "functions.pyi", self.stubs(made)
         yield "constants.py", self.constants()
+        yield "_version.py", head.format("The version of the library.") + f'\n__version__ = "{self.data["version"]}"\n'
 
     def functions_module(self, made):
         out = [

@@ -9,6 +9,7 @@ library by name, `tessaro.constants` the names of their modes and flags.
 """
 
 from . import constants, functions
+from ._version import __version__
 from .codecs import DamagedStream, Stream, decode, encode, formats, transforms
 from .constants import *  # noqa: F403
 from .constants import __all__ as _constants

@@ -1,6 +1,7 @@
 """Picture files, and what is optional."""
 
 import ctypes
+import glob
 import os
 import sys
 
@@ -44,11 +45,10 @@ def _missing():
     """What keeps every picture from being loaded, if anything does."""
     if sys.platform == "win32":
         return None
-    pictures = os.path.join(os.path.dirname(os.path.realpath(_library.path)), "libtessaro-pictures.so")
-    if not os.path.exists(pictures):
-        return None
+    beside = os.path.join(os.path.dirname(os.path.realpath(_library.path)), "libtessaro-pictures.so*")
     try:
-        ctypes.CDLL(pictures)
+        for module in glob.glob(beside):
+            ctypes.CDLL(module)
     except OSError as error:
         return (
             f"a library for picture files is missing ({error}). Install it (Debian: libjpeg62-turbo, libpng16-16, "
