@@ -14,7 +14,7 @@ const DifferenceKernels& kernels_for(const void* source, const void* destination
   // A destination before the source counts as far behind it.
   const auto ahead = reinterpret_cast<uintptr_t>(destination) - reinterpret_cast<uintptr_t>(source);
   return ahead == 0 || ahead >= difference_block ? kernels<DifferenceKernels>()
-                                                 : KernelTables<DifferenceKernels>::scalar;
+                                                 : kernels<DifferenceKernels>(Backend::scalar);
 }
 
 }  // namespace

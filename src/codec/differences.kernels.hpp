@@ -1,4 +1,4 @@
-// kernels: DifferenceKernels for scalar sse2 avx2 avx512
+// kernels: DifferenceKernels
 #include <immintrin.h>
 
 #include "codec/differences.hpp"

@@ -11,7 +11,7 @@ namespace {
 // The kernels of this processor, or one byte after another where the memories overlap.
 const PlaneKernels& kernels_for(const void* source, const void* destination, size_t n) {
   const auto ahead = reinterpret_cast<uintptr_t>(destination) - reinterpret_cast<uintptr_t>(source);
-  return ahead >= n && 0 - ahead >= n ? kernels<PlaneKernels>() : KernelTables<PlaneKernels>::scalar;
+  return ahead >= n && 0 - ahead >= n ? kernels<PlaneKernels>() : kernels<PlaneKernels>(Backend::scalar);
 }
 
 }  // namespace

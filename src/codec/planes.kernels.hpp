@@ -1,4 +1,4 @@
-// kernels: PlaneKernels for scalar sse2 avx2 avx512
+// kernels: PlaneKernels
 #if defined(__AVX2__)
 #include <immintrin.h>
 #endif

@@ -1,4 +1,4 @@
-// kernels: BoxKernels for scalar sse2 avx2 avx512
+// kernels: BoxKernels
 #include "draw/boxes.hpp"
 #include "simd/rows.hpp"
 

@@ -1,4 +1,4 @@
-// kernels: EllipseKernels for scalar sse2 avx2 avx512
+// kernels: EllipseKernels
 #include "draw/arctan.hpp"
 #include "draw/ellipses.hpp"
 #include "simd/vocabulary.hpp"

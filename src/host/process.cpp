@@ -1,24 +1,14 @@
 #include "host/process.hpp"
 
-#include <cpuid.h>
-
 #include "core/random.hpp"
 #include "platform/platform.hpp"
 #include "simd/dispatch.hpp"
+#include "simd/processor.hpp"
 #include "tessaro/tessaro.h"
 
 namespace tessaro {
 
-namespace {
-
-int32_t cpu_level = 0;  // what GetCpuID reports
-
-uint32_t feature_flags() {
-  unsigned a = 0, b = 0, c = 0, d = 0;
-  return __get_cpuid(1, &a, &b, &c, &d) ? d : 0;
-}
-
-}  // namespace
+static int32_t cpu_level = 0;  // what GetCpuID reports
 
 int32_t cpu_level_of(uint32_t flags) {
   const auto bit = [flags](int n) { return static_cast<int32_t>(flags >> n & 1); };
@@ -27,7 +17,7 @@ int32_t cpu_level_of(uint32_t flags) {
 }
 
 void on_load() {
-  cpu_level = cpu_level_of(feature_flags());
+  cpu_level = cpu_level_of(processor::feature_flags());
   choose_backend();
   seed_random(platform::tick_count());
 }

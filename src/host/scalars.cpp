@@ -5,6 +5,7 @@
 
 #include "core/numbers.hpp"
 #include "core/random.hpp"
+#include "simd/processor.hpp"
 #include "tessaro/tessaro.h"
 
 using namespace tessaro;
@@ -107,12 +108,6 @@ intptr_t TESSARO_CALL dllMethod4(TessaroMethod4 fn, intptr_t a, intptr_t b, intp
 }
 intptr_t TESSARO_CALL StdCallBack(TessaroCallback2 fn, intptr_t a, intptr_t b) { return fn(a, b); }
 
-uint32_t TESSARO_CALL GetRandom(uint32_t n) {
-  const uint32_t y = tessaro::draw_random();
-  // A divisor of 0 faults as the processor's division does; the language would leave it undefined.
-  uint32_t quotient = y, rest = 0;
-  __asm__("divl %2" : "+a"(quotient), "+d"(rest) : "r"(n) : "cc");
-  return rest;
-}
+uint32_t TESSARO_CALL GetRandom(uint32_t n) { return processor::remainder(draw_random(), n); }
 
 }  // extern "C"

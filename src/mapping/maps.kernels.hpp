@@ -1,6 +1,5 @@
-// kernels: MapKernels for scalar sse2 avx512
+// kernels: MapKernels -avx2 -avx512 +avx512vbmi
 #include "mapping/maps.hpp"
-#include "simd/permutes.hpp"
 
 namespace {
 
@@ -46,7 +45,7 @@ void plain_by_value(uint8_t* dst, const uint8_t* src, size_t width, const MapByV
     look_up_by_value<by_sum, from_dest, keep_alpha>(dst + x, src + x, m);
 }
 
-#ifdef __AVX512BW__
+#ifdef __AVX512VBMI__
 
 // 64 pixels, one register a channel.
 struct Planes {
@@ -96,7 +95,7 @@ TESSARO_INLINE void join_planes(const Planes& p, uint8_t* at, const __mmask16 (&
 // A map row as four tables of 256 bytes.
 constexpr __mmask16 all_parts[4] = {0xFFFF, 0xFFFF, 0xFFFF, 0xFFFF};
 struct RowTables {
-  ByteTable channel[4];
+  ByteTable<Px> channel[4];
   TESSARO_INLINE void load(const uint8_t* row) {
     for (int i = 0; i < 4; ++i) {
       const Planes p = split(row + 256 * i, all_parts);
@@ -104,8 +103,8 @@ struct RowTables {
     }
   }
 };
-TESSARO_VBMI inline void look_up(const RowTables& t, Planes& p) {
-  for (int k = 0; k < 4; ++k) p.channel[k] = look_up(t.channel[k], p.channel[k]);
+TESSARO_INLINE void look_up(const RowTables& t, Planes& p) {
+  for (int k = 0; k < 4; ++k) p.channel[k] = look_up(t.channel[k], Px{p.channel[k]}).v;
 }
 struct BlockMask {
   __mmask16 part[4];
@@ -117,7 +116,7 @@ struct BlockMask {
   }
 };
 
-TESSARO_VBMI void permute_by_one_row(const AreaPair& n, const uint8_t* row) {
+void permute_by_one_row(const AreaPair& n, const uint8_t* row) {
   RowTables tables;
   tables.load(row);
   uint8_t* dst = n.dst;
@@ -136,8 +135,7 @@ TESSARO_VBMI void permute_by_one_row(const AreaPair& n, const uint8_t* row) {
 // A block of several rows: the pixels of each row that is there often go together by permutes, the others one by one, and
 // all of them where hardly two neighbours agree.
 template <bool by_sum, bool from_dest, bool keep_alpha>
-[[gnu::noinline]] TESSARO_VBMI void permute_mixed(uint8_t* dst, const uint8_t* src, uint64_t all,
-                                                  const MapByValue& m) {
+[[gnu::noinline]] void permute_mixed(uint8_t* dst, const uint8_t* src, uint64_t all, const MapByValue& m) {
   constexpr int few = 6;     // pixels of one row that are not worth its tables
   constexpr int often = 12;  // changes of the row from pixel to pixel
   const __m512i deciding = _mm512_set1_epi32(by_sum ? 0x00FFFFFF : static_cast<int>(0xFF000000));
@@ -185,7 +183,7 @@ template <bool by_sum, bool from_dest, bool keep_alpha>
 
 // Blocks of one row keep the tables of the last such row.
 template <bool by_sum, bool from_dest, bool keep_alpha>
-TESSARO_VBMI void permute_by_value(uint8_t* dst, const uint8_t* src, size_t width, const MapByValue& m) {
+void permute_by_value(uint8_t* dst, const uint8_t* src, size_t width, const MapByValue& m) {
   RowTables tables;
   bool loaded = false;
   int32_t loaded_offset = 0;
@@ -242,8 +240,8 @@ TESSARO_INLINE void transpose(__m512i (&v)[4]) {
 // 16 columns of 64 rows, transposed so that a register holds one channel of one column, and back. At the edges of the area
 // there are fewer: then the last row stands for those that are missing.
 template <bool whole>
-TESSARO_VBMI TESSARO_INLINE void tile_by_tables(const AreaPair& n, const uint8_t* tables,
-                                                const int32_t* table_of_column, bool more) {
+TESSARO_INLINE void tile_by_tables(const AreaPair& n, const uint8_t* tables, const int32_t* table_of_column,
+                                   bool more) {
   alignas(64) __m512i tile[4][16];  // of each line, 16 bytes of four rows: the first 16, the second ...
   const auto some = static_cast<__mmask16>(whole || n.width >= 16 ? 0xFFFF : (1u << n.width) - 1);
   __m512i v[4], w[16];
@@ -263,9 +261,9 @@ TESSARO_VBMI TESSARO_INLINE void tile_by_tables(const AreaPair& n, const uint8_t
     for (int x = 0; x < 4; ++x) {
       const uint8_t* table = tables + table_of_column[4 * j + x];
       for (int k = 0; k < 4; ++k, table += 256) {
-        ByteTable column;
+        ByteTable<Px> column;
         for (int q = 0; q < 4; ++q) column.part[q] = _mm512_loadu_si512(table + 64 * q);
-        w[4 * x + k] = look_up(column, w[4 * x + k]);
+        w[4 * x + k] = look_up(column, Px{w[4 * x + k]}).v;
       }
     }
     transpose(w);
@@ -287,7 +285,7 @@ TESSARO_VBMI TESSARO_INLINE void tile_by_tables(const AreaPair& n, const uint8_t
     }
   }
 }
-TESSARO_VBMI void by_tables(const AreaPair& n, const uint8_t* tables, const int32_t* table_of_column) {
+void by_tables(const AreaPair& n, const uint8_t* tables, const int32_t* table_of_column) {
   for (ptrdiff_t y = 0; y < n.height; y += 64)
     for (ptrdiff_t x = 0; x < n.width; x += 16) {
       const AreaPair rest{n.dst + y * n.dst_pitch + 4 * x,
@@ -314,16 +312,16 @@ void split_row(const uint8_t* row, uint8_t* table) {
 #endif
 
 bool has_tables() {
-#ifdef __AVX512BW__
-  return has_byte_permutes();
+#ifdef __AVX512VBMI__
+  return true;
 #else
   return false;
 #endif
 }
 
 void by_one_row(const AreaPair& n, const uint8_t* row) {
-#ifdef __AVX512BW__
-  if (has_byte_permutes()) return permute_by_one_row(n, row);
+#ifdef __AVX512VBMI__
+  return permute_by_one_row(n, row);
 #endif
   for (ptrdiff_t y = 0; y < n.height; ++y)
     plain_by_one_row(n.dst + y * n.dst_pitch, n.src + y * n.src_pitch, static_cast<size_t>(n.width), row);
@@ -331,8 +329,8 @@ void by_one_row(const AreaPair& n, const uint8_t* row) {
 
 template <bool by_sum, bool from_dest, bool keep_alpha>
 void by_value_of(uint8_t* dst, const uint8_t* src, size_t width, const MapByValue& m) {
-#ifdef __AVX512BW__
-  if (has_byte_permutes()) return permute_by_value<by_sum, from_dest, keep_alpha>(dst, src, width, m);
+#ifdef __AVX512VBMI__
+  return permute_by_value<by_sum, from_dest, keep_alpha>(dst, src, width, m);
 #endif
   plain_by_value<by_sum, from_dest, keep_alpha>(dst, src, width, m);
 }
@@ -353,7 +351,7 @@ TESSARO_KERNELS(MapKernels){
     .by_column = by_column,
     .by_value = by_value,
     .has_tables = has_tables,
-#ifdef __AVX512BW__
+#ifdef __AVX512VBMI__
     .split_row = split_row,
     .by_tables = by_tables,
 #else

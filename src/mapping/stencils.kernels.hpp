@@ -1,4 +1,4 @@
-// kernels: StencilKernels for scalar sse2 avx2 avx512
+// kernels: StencilKernels
 #include "mapping/stencils.hpp"
 #include "simd/rows.hpp"
 #include "simd/rules.hpp"

@@ -1,5 +1,6 @@
-// kernels: BlitKernels for scalar sse2 avx2 avx512
+// kernels: BlitKernels
 #include "pixel/blit.hpp"
+#include "simd/processor.hpp"
 #include "simd/rows.hpp"
 #include "simd/rules.hpp"
 
@@ -117,11 +118,8 @@ void fill(Area n, uint32_t colour) {
     n.height = 1;
   }
   if (n.width < long_row) return walk1<Fill>(n, colour);
-  for (; n.height > 0; --n.height, n.at += n.pitch) {
-    void* to = n.at;
-    auto count = static_cast<size_t>(n.width);
-    __asm__ volatile("rep stosl" : "+D"(to), "+c"(count) : "a"(colour) : "memory");
-  }
+  for (; n.height > 0; --n.height, n.at += n.pitch)
+    tessaro::processor::fill(n.at, colour, static_cast<size_t>(n.width));
 }
 
 void copy(AreaPair n) {

@@ -1,4 +1,4 @@
-// kernels: CompareKernels for scalar sse2 avx2 avx512
+// kernels: CompareKernels
 #include "pixel/compare.hpp"
 
 #include "simd/walk.hpp"

@@ -42,8 +42,9 @@ struct FormatKernels {
   void (*looked_up)(uint8_t* dst, const uint8_t* src, size_t count, const uint8_t* table);
   // Saturation, looked_up and mixed_with_colour, where the table does not meet dst. False, and nothing is done, where the
   // three in turn are to be called; null likewise.
-  bool (*looked_up_to[format_count])(uint8_t* dst, const uint8_t* src, size_t count, SaturationParts parts,
-                                     const uint8_t* table, uint32_t colour, uint32_t weight);
+  using LookedUp = bool (*)(uint8_t* dst, const uint8_t* src, size_t count, SaturationParts parts,
+                            const uint8_t* table, uint32_t colour, uint32_t weight);
+  LookedUp looked_up_to[format_count];
 };
 TESSARO_DECLARE_KERNELS(FormatKernels);
 

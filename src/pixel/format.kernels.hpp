@@ -1,11 +1,12 @@
-// kernels: FormatKernels for scalar sse2 avx2 avx512
+// kernels: FormatKernels +avx512vbmi
 #include "pixel/format.hpp"
 
 #include "pixel/narrow.hpp"
-#include "simd/permutes.hpp"
 #include "simd/rules.hpp"
 
 namespace {
+
+using tessaro::FormatKernels;
 
 // Bits first..first + count - 1 of every pixel, moved up to bit `to`.
 template <int first, int count, int to, class P>
@@ -15,11 +16,11 @@ TESSARO_INLINE P field_up(P a) {
 
 // The channels of a block apart, 16 bits each, in the order of Words.
 template <class P>
-struct Channels {
+struct Apart {
   typename P::Half blue, green, red, alpha;
   // Colours are moved up by so many bits.
   template <int up = 0>
-  TESSARO_INLINE static Channels of(Pair<P> a) {
+  TESSARO_INLINE static Apart of(Pair<P> a) {
     const Words<P> w = words(a.first, a.second);
     if constexpr (up == 0)
       return {even(w.lower), odd(w.lower), even(w.upper), odd(w.upper)};
@@ -27,16 +28,16 @@ struct Channels {
       return {even_up<up>(w.lower), odd_up<up>(w.lower), even_up<up>(w.upper), odd(w.upper)};
   }
   // In the upper bytes; the lower ones are not cleared.
-  TESSARO_INLINE static Channels tops_of(Words<P> w) {
+  TESSARO_INLINE static Apart tops_of(Words<P> w) {
     const auto lower = halves(w.lower), upper = halves(w.upper);
     return {shl<8>(lower), lower, shl<8>(upper), upper};
   }
-  TESSARO_INLINE static Channels of_colour(uint32_t colour) {
+  TESSARO_INLINE static Apart of_colour(uint32_t colour) {
     const auto byte = [colour](int at) { return P::Half::splat(colour >> at & 255); };
     return {byte(0), byte(8), byte(16), byte(24)};
   }
   // In the upper bytes.
-  TESSARO_INLINE static Channels mixed(Channels d, Channels s, uint32_t weight) {
+  TESSARO_INLINE static Apart mixed(Apart d, Apart s, uint32_t weight) {
     const auto w = P::Half::splat(weight), rest = P::Half::splat(256 - weight);
     return {d.blue * rest + s.blue * w, d.green * rest + s.green * w, d.red * rest + s.red * w,
             d.alpha * rest + s.alpha * w};
@@ -67,7 +68,7 @@ TESSARO_INLINE H field(H top) {
 struct As565 {
   static constexpr size_t bytes = 2;
   template <class P>
-  TESSARO_INLINE static auto encode(Channels<P> a) {
+  TESSARO_INLINE static auto encode(Apart<P> a) {
     return shr<11>(a.blue) | field<0x07E0, 5>(a.green) | field<0xF800, 0>(a.red);
   }
   template <class P>
@@ -78,7 +79,7 @@ struct As565 {
 struct As555 {
   static constexpr size_t bytes = 2;
   template <class P>
-  TESSARO_INLINE static auto encode(Channels<P> a) {
+  TESSARO_INLINE static auto encode(Apart<P> a) {
     return shr<11>(a.blue) | field<0x03E0, 6>(a.green) | field<0x7C00, 1>(a.red);
   }
   template <class P>
@@ -89,7 +90,7 @@ struct As555 {
 struct As1555 {
   static constexpr size_t bytes = 2;
   template <class P>
-  TESSARO_INLINE static auto encode(Channels<P> a) {
+  TESSARO_INLINE static auto encode(Apart<P> a) {
     return As555::encode(a) | field<0x8000, 0>(a.alpha);
   }
   template <class P>
@@ -100,7 +101,7 @@ struct As1555 {
 struct As4444 {
   static constexpr size_t bytes = 2;
   template <class P>
-  TESSARO_INLINE static auto encode(Channels<P> a) {
+  TESSARO_INLINE static auto encode(Apart<P> a) {
     return shr<12>(a.blue) | field<0x00F0, 8>(a.green) | field<0x0F00, 4>(a.red) | field<0xF000, 0>(a.alpha);
   }
   template <class P>
@@ -148,7 +149,7 @@ TESSARO_INLINE void write_block(uint8_t* dst, Pair<Px> a, Pair<Px> b) {
   }
 }
 template <class Format>
-TESSARO_INLINE void write_block(uint8_t* dst, Channels<Px> a, Channels<Px> b) {
+TESSARO_INLINE void write_block(uint8_t* dst, Apart<Px> a, Apart<Px> b) {
   store_words(dst, Format::encode(a));
   store_words(dst + 4 * Px::lanes, Format::encode(b));
 }
@@ -157,7 +158,7 @@ TESSARO_INLINE void write_one(uint8_t* dst, Pair<One> a) {
   store_one<Format::bytes>(dst, Format::encode(a.first));
 }
 template <class Format>
-TESSARO_INLINE void write_one(uint8_t* dst, Channels<One> a) {
+TESSARO_INLINE void write_one(uint8_t* dst, Apart<One> a) {
   store_one<2>(dst, One{Format::encode(a).v});
 }
 
@@ -189,7 +190,7 @@ void encode(uint8_t* dst, const uint8_t* src, size_t count) {
                      [src]<class P>(P, size_t x, size_t n) {
                        const auto a = Pair<P>::load(src + 4 * x, n);
                        if constexpr (of_words<Format>)
-                         return Channels<P>::tops_of(words(a.first, a.second));
+                         return Apart<P>::tops_of(words(a.first, a.second));
                        else
                          return a;
                      });
@@ -199,7 +200,7 @@ void encode(uint8_t* dst, const uint8_t* src, size_t count) {
 template <class Format, class P>
 TESSARO_INLINE auto mixed(Pair<P> d, Pair<P> s, uint32_t weight) {
   if constexpr (of_words<Format>) {
-    return Channels<P>::mixed(Channels<P>::of(d), Channels<P>::of(s), weight);
+    return Apart<P>::mixed(Apart<P>::of(d), Apart<P>::of(s), weight);
   } else {
     const ConstantMix<P> mix(weight);
     return Pair<P>{mix(d.first, s.first), mix(d.second, s.second)};
@@ -247,10 +248,10 @@ void encode_saturated(uint8_t* dst, const uint8_t* src, size_t count, tessaro::S
         auto a = Pair<P>::load(src + 4 * x, n);
         if constexpr (P::lanes == 1) a.first = saturate(a.first);
         constexpr int up = P::lanes == 1 ? 0 : 5;
-        auto c = Channels<P>::template of<up>(a);
+        auto c = Apart<P>::template of<up>(a);
         if constexpr (P::lanes > 1)
           saturate.apart(c.blue, c.green, c.red, [](auto c, auto grey) { return sum_in_byte(c, grey); });
-        return Channels<P>::mixed(Channels<P>::of_colour(colour), c, weight);
+        return Apart<P>::mixed(Apart<P>::of_colour(colour), c, weight);
       });
 }
 
@@ -323,56 +324,59 @@ void looked_up(uint8_t* dst, const uint8_t* src, size_t count, const uint8_t* ta
   }
 }
 
-#if TESSARO_LANES == 16
 // Tables that have been mixed with the colour, all in registers. Alpha, which has no table, is mixed pixel by pixel.
+template <class P>
 struct Curves {
-  ByteTable channel[3];
-  Px::Half weight, behind_alpha;
+  ByteTable<P> channel[3];
+  typename P::Half weight, behind_alpha;
   TESSARO_INLINE Curves(const uint8_t* table, uint32_t colour, uint32_t w)
-      : weight(Px::Half::splat(w)), behind_alpha(Px::Half::splat((colour >> 24) * (256 - w))) {
-    const ConstantMix<Px> mix(w);
+      : weight(P::Half::splat(w)), behind_alpha(P::Half::splat((colour >> 24) * (256 - w))) {
+    const ConstantMix<P> mix(w);
     for (int c = 0; c < 3; ++c) {
-      const Px behind = Px::splat(0x01010101 * (colour >> 8 * c & 255));
-      for (int i = 0; i < 4; ++i) channel[c].part[i] = mix(behind, Px::load(table + 256 * c + 64 * i)).v;
+      const P behind = P::splat(0x01010101 * (colour >> 8 * c & 255));
+      uint8_t mixed[256];
+      for (size_t i = 0; i < 256; i += 4 * P::lanes)
+        mix(behind, P::load(table + 256 * c + i)).store(mixed + i);
+      channel[c] = ByteTable<P>::load(mixed);
     }
   }
 };
 
 // Four vectors, of which n pixels are there.
-template <class Format, bool saturates>
-TESSARO_VBMI TESSARO_INLINE void look_up_block(uint8_t* dst, const uint8_t* src, size_t n,
-                                               const Curves& curves, const Saturate<Px>& saturate) {
-  constexpr size_t pair = 2 * Px::lanes;
+template <class Format, bool saturates, class P>
+TESSARO_INLINE void look_up_block(uint8_t* dst, const uint8_t* src, size_t n, const Curves<P>& curves,
+                                  const Saturate<P>& saturate) {
+  constexpr size_t pair = 2 * P::lanes;
   constexpr int up = saturates ? 5 : 0;
-  auto a = Channels<Px>::of<up>(Pair<Px>::load(src, n < pair ? n : pair));
-  auto b = Channels<Px>::of<up>(Pair<Px>::load(src + 4 * pair, n < pair ? 0 : n - pair));
+  auto a = Apart<P>::template of<up>(Pair<P>::load(src, n < pair ? n : pair));
+  auto b = Apart<P>::template of<up>(Pair<P>::load(src + 4 * pair, n < pair ? 0 : n - pair));
   if constexpr (saturates) {
-    const auto sum = [](Px::Half c, Px::Half grey) { return c + grey; };  // packing saturates
+    const auto sum = [](P::Half c, P::Half grey) { return c + grey; };  // packing saturates
     saturate.apart(a.blue, a.green, a.red, sum);
     saturate.apart(b.blue, b.green, b.red, sum);
   }
-  const Px blue{look_up(curves.channel[0], unpaired(a.blue, b.blue).v)};
-  const Px green{look_up(curves.channel[1], unpaired(a.green, b.green).v)};
-  const Px red{look_up(curves.channel[2], unpaired(a.red, b.red).v)};
-  const auto lower = paired(blue, green), reds = paired(red, Px::splat(0));
-  const auto with_alpha = [&](Px::Half r, Px::Half alpha) {
-    const Px mixed{(alpha * curves.weight + curves.behind_alpha).v};
-    return choose_bits(Px::splat(0xFF00FF00), mixed, Px{r.v});
+  const P blue = look_up(curves.channel[0], unpaired(a.blue, b.blue));
+  const P green = look_up(curves.channel[1], unpaired(a.green, b.green));
+  const P red = look_up(curves.channel[2], unpaired(a.red, b.red));
+  const auto lower = paired(blue, green), reds = paired(red, P::splat(0));
+  const auto with_alpha = [&](P::Half r, P::Half alpha) {
+    const P mixed{(alpha * curves.weight + curves.behind_alpha).v};
+    return choose_bits(P::splat(0xFF00FF00), mixed, P{r.v});
   };
-  const Words<Px> first{{lower.first.v}, with_alpha(reds.first, a.alpha)};
-  const Words<Px> second{{lower.second.v}, with_alpha(reds.second, b.alpha)};
+  const Words<P> first{{lower.first.v}, with_alpha(reds.first, a.alpha)};
+  const Words<P> second{{lower.second.v}, with_alpha(reds.second, b.alpha)};
   if constexpr (of_words<Format>)
-    write_block<Format>(dst, Channels<Px>::tops_of(first), Channels<Px>::tops_of(second));
+    write_block<Format>(dst, Apart<P>::tops_of(first), Apart<P>::tops_of(second));
   else
     write_block<Format>(dst, pixels(first), pixels(second));
 }
 
-template <class Format, bool saturates>
-TESSARO_VBMI void look_up_run(uint8_t* dst, const uint8_t* src, size_t count, tessaro::SaturationParts parts,
-                              const uint8_t* table, uint32_t colour, uint32_t weight) {
-  constexpr size_t block = 4 * Px::lanes, bytes = Format::bytes;
-  const Curves curves(table, colour, weight);
-  const Saturate<Px> saturate{parts.channel_part, parts.sum_part};
+template <class Format, bool saturates, class P = Px>
+void look_up_run(uint8_t* dst, const uint8_t* src, size_t count, tessaro::SaturationParts parts,
+                 const uint8_t* table, uint32_t colour, uint32_t weight) {
+  constexpr size_t block = 4 * P::lanes, bytes = Format::bytes;
+  const Curves<P> curves(table, colour, weight);
+  const Saturate<P> saturate{parts.channel_part, parts.sum_part};
   size_t x = 0;
   for (; x + block <= count; x += block)
     look_up_block<Format, saturates>(dst + bytes * x, src + 4 * x, block, curves, saturate);
@@ -387,17 +391,20 @@ template <class Format>
 bool encode_looked_up(uint8_t* dst, const uint8_t* src, size_t count, tessaro::SaturationParts parts,
                       const uint8_t* table, uint32_t colour, uint32_t weight) {
   constexpr size_t few = 16;  // pixels that are not worth the curves
-  if (!has_byte_permutes() || count < few || parts.channel_part > saturation_limit ||
+  if (count < few || parts.channel_part > saturation_limit ||
       !may_read_ahead(dst, Format::bytes, src, 4, count))
     return false;
   const auto run = parts.channel_part == 1024 ? look_up_run<Format, false> : look_up_run<Format, true>;
   run(dst, src, count, parts, table, colour, weight);
   return true;
 }
-#else
 template <class Format>
-inline constexpr auto encode_looked_up = nullptr;
-#endif
+constexpr FormatKernels::LookedUp with_curves() {
+  if constexpr (byte_tables<Px>)
+    return encode_looked_up<Format>;
+  else
+    return nullptr;
+}
 
 }  // namespace
 
@@ -417,5 +424,6 @@ TESSARO_KERNELS(FormatKernels){
     .from_bits = from_bits,
     .from_bytes = from_bytes,
     .looked_up = looked_up,
-    .looked_up_to = TESSARO_EACH_FORMAT(encode_looked_up),
+    .looked_up_to = {with_curves<As8888>(), with_curves<As888>(), with_curves<As565>(), with_curves<As555>(),
+                     with_curves<As1555>(), with_curves<As4444>()},
 };

@@ -1,4 +1,4 @@
-// kernels: KeyingKernels for scalar sse2 avx2 avx512
+// kernels: KeyingKernels
 #include "pixel/keying.hpp"
 
 #include "simd/walk.hpp"

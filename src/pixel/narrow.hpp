@@ -33,6 +33,11 @@ TESSARO_INLINE Words<P> words(P first, P second) {
   return {choose_bits(lower, first, shl<16>(second)), choose_bits(lower, shr<16>(first), second)};
 }
 template <class P>
+TESSARO_INLINE Pair<P> pixels(Words<P> w) {
+  const P lower = P::splat(0xFFFF);
+  return {choose_bits(lower, w.lower, shl<16>(w.upper)), choose_bits(lower, shr<16>(w.lower), w.upper)};
+}
+template <class P>
 P load_words(const uint8_t* p) = delete;
 template <class P>
 P load_triples(const uint8_t* p) = delete;
@@ -82,7 +87,8 @@ TESSARO_INLINE Words<Px> words<Px>(Px first, Px second) {
   return {{_mm512_permutex2var_epi16(first.v, from, second.v)},
           {_mm512_permutex2var_epi16(first.v, next, second.v)}};
 }
-TESSARO_INLINE Pair<Px> pixels(Words<Px> w) {
+template <>
+TESSARO_INLINE Pair<Px> pixels<Px>(Words<Px> w) {
   alignas(64) static constexpr uint16_t first[] = {0,  32, 1,  33, 2,  34, 3,  35, 4,  36, 5,
                                                    37, 6,  38, 7,  39, 8,  40, 9,  41, 10, 42,
                                                    11, 43, 12, 44, 13, 45, 14, 46, 15, 47};

@@ -1,4 +1,4 @@
-// kernels: PaintKernels for scalar sse2 avx2 avx512
+// kernels: PaintKernels
 #include "pixel/paint.hpp"
 
 #include "simd/walk.hpp"

@@ -1,4 +1,4 @@
-// kernels: ToneKernels for scalar sse2 avx2 avx512
+// kernels: ToneKernels
 #include "pixel/tone.hpp"
 
 #include <emmintrin.h>

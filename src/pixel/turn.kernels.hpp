@@ -1,4 +1,4 @@
-// kernels: TurnKernels for scalar sse2 avx2 avx512
+// kernels: TurnKernels
 #include "pixel/turn.hpp"
 
 #include "simd/walk.hpp"
@@ -7,71 +7,6 @@ namespace {
 
 using tessaro::Area;
 using tessaro::AreaPair;
-
-// reversed: the last pixel first. transpose_square: rows become columns.
-#if TESSARO_LANES == 16
-TESSARO_INLINE Px reversed(Px a) {
-  return {
-      _mm512_permutexvar_epi32(_mm512_set_epi32(0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15), a.v)};
-}
-TESSARO_INLINE void transpose_square(Px (&r)[16]) {
-  __m512i t[16];
-  for (int i = 0; i < 16; i += 4) {  // squares of 4 x 4 within 128 bits
-    const __m512i a = _mm512_unpacklo_epi32(r[i].v, r[i + 1].v),
-                  b = _mm512_unpackhi_epi32(r[i].v, r[i + 1].v);
-    const __m512i c = _mm512_unpacklo_epi32(r[i + 2].v, r[i + 3].v),
-                  d = _mm512_unpackhi_epi32(r[i + 2].v, r[i + 3].v);
-    t[i] = _mm512_unpacklo_epi64(a, c);
-    t[i + 1] = _mm512_unpackhi_epi64(a, c);
-    t[i + 2] = _mm512_unpacklo_epi64(b, d);
-    t[i + 3] = _mm512_unpackhi_epi64(b, d);
-  }
-  for (int i = 0; i < 4; ++i) {  // and a square of those
-    const __m512i a = _mm512_shuffle_i32x4(t[i], t[i + 4], 0x44),
-                  b = _mm512_shuffle_i32x4(t[i], t[i + 4], 0xEE);
-    const __m512i c = _mm512_shuffle_i32x4(t[i + 8], t[i + 12], 0x44),
-                  d = _mm512_shuffle_i32x4(t[i + 8], t[i + 12], 0xEE);
-    r[i].v = _mm512_shuffle_i32x4(a, c, 0x88);
-    r[i + 4].v = _mm512_shuffle_i32x4(a, c, 0xDD);
-    r[i + 8].v = _mm512_shuffle_i32x4(b, d, 0x88);
-    r[i + 12].v = _mm512_shuffle_i32x4(b, d, 0xDD);
-  }
-}
-#elif TESSARO_LANES == 8
-TESSARO_INLINE Px reversed(Px a) {
-  return {_mm256_permutevar8x32_epi32(a.v, _mm256_setr_epi32(7, 6, 5, 4, 3, 2, 1, 0))};
-}
-TESSARO_INLINE void transpose_square(Px (&r)[8]) {
-  __m256i t[8];
-  for (int i = 0; i < 8; i += 4) {  // squares of 4 x 4 within 128 bits
-    const __m256i a = _mm256_unpacklo_epi32(r[i].v, r[i + 1].v),
-                  b = _mm256_unpackhi_epi32(r[i].v, r[i + 1].v);
-    const __m256i c = _mm256_unpacklo_epi32(r[i + 2].v, r[i + 3].v),
-                  d = _mm256_unpackhi_epi32(r[i + 2].v, r[i + 3].v);
-    t[i] = _mm256_unpacklo_epi64(a, c);
-    t[i + 1] = _mm256_unpackhi_epi64(a, c);
-    t[i + 2] = _mm256_unpacklo_epi64(b, d);
-    t[i + 3] = _mm256_unpackhi_epi64(b, d);
-  }
-  for (int i = 0; i < 4; ++i) {  // and a square of those
-    r[i].v = _mm256_permute2x128_si256(t[i], t[i + 4], 0x20);
-    r[i + 4].v = _mm256_permute2x128_si256(t[i], t[i + 4], 0x31);
-  }
-}
-#elif TESSARO_LANES == 4
-TESSARO_INLINE Px reversed(Px a) { return {_mm_shuffle_epi32(a.v, 0x1B)}; }
-TESSARO_INLINE void transpose_square(Px (&r)[4]) {
-  const __m128i a = _mm_unpacklo_epi32(r[0].v, r[1].v), b = _mm_unpackhi_epi32(r[0].v, r[1].v);
-  const __m128i c = _mm_unpacklo_epi32(r[2].v, r[3].v), d = _mm_unpackhi_epi32(r[2].v, r[3].v);
-  r[0].v = _mm_unpacklo_epi64(a, c);
-  r[1].v = _mm_unpackhi_epi64(a, c);
-  r[2].v = _mm_unpacklo_epi64(b, d);
-  r[3].v = _mm_unpackhi_epi64(b, d);
-}
-#else
-TESSARO_INLINE Px reversed(Px a) { return a; }
-TESSARO_INLINE void transpose_square(Px (&)[1]) {}
-#endif
 
 void mirror(const Area& n) {
   constexpr ptrdiff_t lanes = Px::lanes;

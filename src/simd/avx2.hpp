@@ -11,6 +11,7 @@ namespace {
 
 struct Px {
   static constexpr size_t lanes = 8;
+  static constexpr bool permutes = true;
   using Mask = __m256i;  // all ones in a chosen pixel
   struct Half {
     __m256i v;
@@ -30,6 +31,7 @@ struct Px {
   }
   TESSARO_INLINE void store(void* p) const { _mm256_storeu_si256(static_cast<__m256i*>(p), v); }
   TESSARO_INLINE void stream(void* p) const { _mm256_stream_si256(static_cast<__m256i*>(p), v); }
+  TESSARO_INLINE static void fence() { _mm_sfence(); }
   TESSARO_INLINE void store(void* p, size_t n) const {
     _mm256_maskstore_epi32(static_cast<int*>(p), first(n), v);
   }
@@ -165,6 +167,41 @@ TESSARO_INLINE Px::Half ramp_alpha(Px a, const AlphaLine& line) {
   return {_mm256_min_epu16(_mm256_unpacklo_epi16(words, words), _mm256_set1_epi16(256))};
 }
 
-static_assert(PixelVector<Px>);
+// --- Pixels as numbers, and moved about
+
+TESSARO_INLINE Px add32(Px a, Px b) { return {_mm256_add_epi32(a.v, b.v)}; }
+TESSARO_INLINE Px sub32(Px a, Px b) { return {_mm256_sub_epi32(a.v, b.v)}; }
+TESSARO_INLINE Px reversed(Px a) {
+  return {_mm256_permutevar8x32_epi32(a.v, _mm256_setr_epi32(7, 6, 5, 4, 3, 2, 1, 0))};
+}
+TESSARO_INLINE void transpose_square(Px (&r)[8]) {
+  __m256i t[8];
+  for (int i = 0; i < 8; i += 4) {  // squares of 4 x 4 within 128 bits
+    const __m256i a = _mm256_unpacklo_epi32(r[i].v, r[i + 1].v),
+                  b = _mm256_unpackhi_epi32(r[i].v, r[i + 1].v);
+    const __m256i c = _mm256_unpacklo_epi32(r[i + 2].v, r[i + 3].v),
+                  d = _mm256_unpackhi_epi32(r[i + 2].v, r[i + 3].v);
+    t[i] = _mm256_unpacklo_epi64(a, c);
+    t[i + 1] = _mm256_unpackhi_epi64(a, c);
+    t[i + 2] = _mm256_unpacklo_epi64(b, d);
+    t[i + 3] = _mm256_unpackhi_epi64(b, d);
+  }
+  for (int i = 0; i < 4; ++i) {  // and a square of those
+    r[i].v = _mm256_permute2x128_si256(t[i], t[i + 4], 0x20);
+    r[i + 4].v = _mm256_permute2x128_si256(t[i], t[i + 4], 0x31);
+  }
+}
+TESSARO_INLINE Px picked(Px a, Px where) { return {_mm256_permutevar8x32_epi32(a.v, where.v)}; }
+TESSARO_INLINE Px picked(Px a, Px b, Px where) {
+  // Bit 3 of a place chooses the second eight.
+  return {_mm256_castps_si256(_mm256_blendv_ps(_mm256_castsi256_ps(picked(a, where).v),
+                                               _mm256_castsi256_ps(picked(b, where).v),
+                                               _mm256_castsi256_ps(_mm256_slli_epi32(where.v, 28))))};
+}
+TESSARO_INLINE Px gather(const uint8_t* p, Px where) {
+  return {_mm256_i32gather_epi32(reinterpret_cast<const int*>(p), where.v, 4)};
+}
+
+static_assert(PixelVector<Px> && MovingPixels<Px>);
 
 }  // namespace

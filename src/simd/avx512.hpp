@@ -11,6 +11,7 @@ namespace {
 
 struct Px {
   static constexpr size_t lanes = 16;
+  static constexpr bool permutes = true;
   using Mask = __mmask16;
   struct Half {
     __m512i v;
@@ -22,6 +23,7 @@ struct Px {
   TESSARO_INLINE static Px load(const void* p, size_t n) { return {_mm512_maskz_loadu_epi32(first(n), p)}; }
   TESSARO_INLINE void store(void* p) const { _mm512_storeu_si512(p, v); }
   TESSARO_INLINE void stream(void* p) const { _mm512_stream_si512(static_cast<__m512i*>(p), v); }
+  TESSARO_INLINE static void fence() { _mm_sfence(); }
   TESSARO_INLINE void store(void* p, size_t n) const { _mm512_mask_storeu_epi32(p, first(n), v); }
   TESSARO_INLINE static Px splat(uint32_t x) { return {_mm512_set1_epi32(static_cast<int>(x))}; }
   TESSARO_INLINE static uint32_t bits(__mmask16 mask) { return mask; }
@@ -152,6 +154,41 @@ TESSARO_INLINE Px::Half ramp_alpha(Px a, const AlphaLine& line) {
   return {_mm512_min_epu16(_mm512_unpacklo_epi16(words, words), _mm512_set1_epi16(256))};
 }
 
-static_assert(PixelVector<Px>);
+// --- Pixels as numbers, and moved about
+
+TESSARO_INLINE Px add32(Px a, Px b) { return {_mm512_add_epi32(a.v, b.v)}; }
+TESSARO_INLINE Px sub32(Px a, Px b) { return {_mm512_sub_epi32(a.v, b.v)}; }
+TESSARO_INLINE Px reversed(Px a) {
+  return {
+      _mm512_permutexvar_epi32(_mm512_set_epi32(0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15), a.v)};
+}
+TESSARO_INLINE void transpose_square(Px (&r)[16]) {
+  __m512i t[16];
+  for (int i = 0; i < 16; i += 4) {  // squares of 4 x 4 within 128 bits
+    const __m512i a = _mm512_unpacklo_epi32(r[i].v, r[i + 1].v),
+                  b = _mm512_unpackhi_epi32(r[i].v, r[i + 1].v);
+    const __m512i c = _mm512_unpacklo_epi32(r[i + 2].v, r[i + 3].v),
+                  d = _mm512_unpackhi_epi32(r[i + 2].v, r[i + 3].v);
+    t[i] = _mm512_unpacklo_epi64(a, c);
+    t[i + 1] = _mm512_unpackhi_epi64(a, c);
+    t[i + 2] = _mm512_unpacklo_epi64(b, d);
+    t[i + 3] = _mm512_unpackhi_epi64(b, d);
+  }
+  for (int i = 0; i < 4; ++i) {  // and a square of those
+    const __m512i a = _mm512_shuffle_i32x4(t[i], t[i + 4], 0x44),
+                  b = _mm512_shuffle_i32x4(t[i], t[i + 4], 0xEE);
+    const __m512i c = _mm512_shuffle_i32x4(t[i + 8], t[i + 12], 0x44),
+                  d = _mm512_shuffle_i32x4(t[i + 8], t[i + 12], 0xEE);
+    r[i].v = _mm512_shuffle_i32x4(a, c, 0x88);
+    r[i + 4].v = _mm512_shuffle_i32x4(a, c, 0xDD);
+    r[i + 8].v = _mm512_shuffle_i32x4(b, d, 0x88);
+    r[i + 12].v = _mm512_shuffle_i32x4(b, d, 0xDD);
+  }
+}
+TESSARO_INLINE Px picked(Px a, Px where) { return {_mm512_permutexvar_epi32(where.v, a.v)}; }
+TESSARO_INLINE Px picked(Px a, Px b, Px where) { return {_mm512_permutex2var_epi32(a.v, where.v, b.v)}; }
+TESSARO_INLINE Px gather(const uint8_t* p, Px where) { return {_mm512_i32gather_epi32(where.v, p, 4)}; }
+
+static_assert(PixelVector<Px> && MovingPixels<Px>);
 
 }  // namespace

@@ -1,27 +1,33 @@
 #include "simd/dispatch.hpp"
 
+#include "simd/processor.hpp"
+
 namespace tessaro {
 
-constinit Backend active_backend = Backend::sse2;
+constinit Backend active_backend = Backend::scalar;
 constinit ptrdiff_t streamed_area = never;
+constinit bool string_moves = true;
 
 Backend best_backend() {
-  __builtin_cpu_init();
-  const bool avx2 = __builtin_cpu_supports("avx2") && __builtin_cpu_supports("bmi") &&
-                    __builtin_cpu_supports("bmi2") && __builtin_cpu_supports("popcnt");
-  const bool avx512 = avx2 && __builtin_cpu_supports("avx512f") && __builtin_cpu_supports("avx512bw") &&
-                      __builtin_cpu_supports("avx512vl") && __builtin_cpu_supports("avx512dq");
-  return avx512 ? Backend::avx512 : avx2 ? Backend::avx2 : Backend::sse2;
+  Backend best = Backend::scalar;
+#define TESSARO_IF_IT_RUNS(name, runs) \
+  if (runs) best = Backend::name;
+  TESSARO_EACH_BACKEND(TESSARO_IF_IT_RUNS)
+#undef TESSARO_IF_IT_RUNS
+  return best;
 }
 
 void choose_backend() {
   active_backend = best_backend();
+  string_moves = !processor::streams_well();
   // 16 MiB: more than is found in a cache again.
-  streamed_area = __builtin_cpu_is("amd") ? ptrdiff_t{4} << 20 : never;
+  streamed_area = string_moves ? never : ptrdiff_t{4} << 20;
 }
 
 const char* name_of(Backend backend) {
-  static constexpr const char* names[backend_count] = {"scalar", "sse2", "avx2", "avx512"};
+#define TESSARO_QUOTED(name, runs) #name,
+  static constexpr const char* names[backend_count] = {TESSARO_EACH_BACKEND(TESSARO_QUOTED)};
+#undef TESSARO_QUOTED
   return names[static_cast<size_t>(backend)];
 }
 

@@ -4,57 +4,59 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "kernels/backends.hpp"
+
 namespace tessaro {
 
-enum class Backend { scalar, sse2, avx2, avx512 };
-inline constexpr size_t backend_count = 4;
+// Those that are built, in rising order: a processor that runs one runs those before it.
+enum class Backend {
+#define TESSARO_NAME(name, runs) name,
+  TESSARO_EACH_BACKEND(TESSARO_NAME)
+#undef TESSARO_NAME
+};
+#define TESSARO_ONE_MORE(name, runs) +1
+inline constexpr size_t backend_count = TESSARO_EACH_BACKEND(TESSARO_ONE_MORE);
+#undef TESSARO_ONE_MORE
 
 // The best back end of this processor.
 Backend best_backend();
-// The one in use: the baseline before the load handler has run, then the best.
+// The one in use: the definition of the others before the load handler has run, then the best.
 extern Backend active_backend;
 void choose_backend();
 const char* name_of(Backend backend);
 
-// Areas of so many pixels are written past the caches. On AMD's processors that outruns all else by half and more, while
-// their string instructions fall to a tenth where source and destination are aligned unlike. On Intel's, string
-// instructions copy as fast, so that areas are never streamed there.
+// Areas of at least this many pixels are written past the caches.
 inline constexpr ptrdiff_t never = PTRDIFF_MAX;
 extern ptrdiff_t streamed_area;
+// Whether the C library's memmove, which uses the processor's string instructions, copies long rows faster than vectors.
+extern bool string_moves;
 
-// The tables of one family of kernels, one per back end; `at` is indexed by Backend and defined by a
-// generated file.
+// One family's table of kernels for one back end, defined by the unit that is compiled for it.
+template <class Table, Backend backend>
+struct KernelTable {
+  static const Table table;
+};
+// All of them, indexed by Backend; defined by a generated file.
 template <class Table>
 struct KernelTables {
-  static const Table scalar;
-  static const Table sse2;
-  static const Table avx2;
-  static const Table avx512;
   static const Table* const at[backend_count];
 };
 
 // Declares that Table has kernels; stands after the struct in the family's header, in namespace tessaro.
-#define TESSARO_DECLARE_KERNELS(Table)     \
-  template <>                              \
-  const Table KernelTables<Table>::scalar; \
-  template <>                              \
-  const Table KernelTables<Table>::sse2;   \
-  template <>                              \
-  const Table KernelTables<Table>::avx2;   \
-  template <>                              \
-  const Table KernelTables<Table>::avx512; \
-  template <>                              \
+#define TESSARO_DECLARE_KERNELS(Table) \
+  template <>                          \
   const Table* const KernelTables<Table>::at[backend_count]
 
 // Opens the definition of the table of the back end that a .kernels.hpp file is being compiled for, outside
 // any namespace: TESSARO_KERNELS(BlitKernels){...};
-#define TESSARO_KERNELS(Table) \
-  template <>                  \
-  constinit const tessaro::Table tessaro::KernelTables<tessaro::Table>::TESSARO_BACKEND
+#define TESSARO_KERNELS(Table)   \
+  template <>                    \
+  constinit const tessaro::Table \
+      tessaro::KernelTable<tessaro::Table, tessaro::Backend::TESSARO_BACKEND>::table
 
 template <class Table>
-inline const Table& kernels() {
-  return *KernelTables<Table>::at[static_cast<size_t>(active_backend)];
+inline const Table& kernels(Backend backend = active_backend) {
+  return *KernelTables<Table>::at[static_cast<size_t>(backend)];
 }
 
 }  // namespace tessaro

@@ -19,9 +19,7 @@ class Streaming {
   TESSARO_INLINE Streaming(ptrdiff_t pixels, ptrdiff_t width)
       : on_(pixels >= tessaro::streamed_area && width >= aligned_width) {}
   TESSARO_INLINE ~Streaming() {
-#if TESSARO_LANES > 1
-    if (on_) _mm_sfence();
-#endif
+    if (on_) Px::fence();
   }
   Streaming(const Streaming&) = delete;
   Streaming& operator=(const Streaming&) = delete;
@@ -42,8 +40,7 @@ TESSARO_INLINE size_t pixels_to_align(const uint8_t* row) {
 class RowWriter {
  public:
   TESSARO_INLINE RowWriter(ptrdiff_t width, ptrdiff_t height)
-      : streaming_(width * height, width),
-        moves_(tessaro::streamed_area == tessaro::never && width >= long_row) {}
+      : streaming_(width * height, width), moves_(tessaro::string_moves && width >= long_row) {}
   // Rows pay that are prepared in the nearest cache and written from there.
   TESSARO_INLINE bool passes_caches() const { return streaming_.on(); }
 

@@ -8,6 +8,7 @@ namespace {
 
 struct One {
   static constexpr size_t lanes = 1;
+  static constexpr bool permutes = false;
   using Mask = bool;
   struct Half {
     uint32_t v;  // two lanes of 16 bits
@@ -23,6 +24,7 @@ struct One {
   TESSARO_INLINE void store(void* p) const { std::memcpy(p, &v, 4); }
   TESSARO_INLINE void store(void* p, size_t) const { store(p); }
   TESSARO_INLINE void stream(void* p) const { store(p); }
+  TESSARO_INLINE static void fence() {}
   TESSARO_INLINE static One splat(uint32_t x) { return {x}; }
   TESSARO_INLINE static uint32_t bits(bool mask) { return mask; }
 };
@@ -167,11 +169,41 @@ TESSARO_INLINE One::Half shr(One::Half a) {
   return per_lane(a, a, [](uint32_t x, uint32_t) { return x >> k; });
 }
 
+// --- Pixels as numbers, and moved about
+
+TESSARO_INLINE One add32(One a, One b) { return {a.v + b.v}; }
+TESSARO_INLINE One sub32(One a, One b) { return {a.v - b.v}; }
+TESSARO_INLINE One reversed(One a) { return a; }
+TESSARO_INLINE void transpose_square(One (&)[1]) {}
+TESSARO_INLINE One picked(One a, One) { return a; }
+TESSARO_INLINE One picked(One a, One b, One where) { return where.v & 1 ? b : a; }
+TESSARO_INLINE One gather(const uint8_t* p, One where) {
+  return One::load(p + 4 * static_cast<ptrdiff_t>(static_cast<int32_t>(where.v)));
+}
+// For a back end without permutes.
+template <class P>
+TESSARO_INLINE P picked_singly(const uint32_t* from, P where) {
+  uint32_t v[P::lanes];
+  where.store(v);
+  for (uint32_t& x : v) x = from[x];
+  return P::load(v);
+}
+
+// --- Tables of bytes
+
+template <class P>
+TESSARO_INLINE P look_up(const ByteTable<P>& table, P a) {
+  uint8_t v[4 * P::lanes];
+  a.store(v);
+  for (uint8_t& x : v) x = table.at[x];
+  return P::load(v);
+}
+
 #ifndef TESSARO_PX
 #define TESSARO_PX
 #define TESSARO_LANES 1
 using Px = One;
 #endif
-static_assert(PixelVector<One>);
+static_assert(PixelVector<One> && MovingPixels<One> && LookedUpBytes<One>);
 
 }  // namespace

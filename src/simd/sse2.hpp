@@ -11,6 +11,7 @@ namespace {
 
 struct Px {
   static constexpr size_t lanes = 4;
+  static constexpr bool permutes = false;
   using Mask = __m128i;  // all ones in a chosen pixel
   struct Half {
     __m128i v;
@@ -43,6 +44,7 @@ struct Px {
     }
   }
   TESSARO_INLINE void stream(void* p) const { _mm_stream_si128(static_cast<__m128i*>(p), v); }
+  TESSARO_INLINE static void fence() { _mm_sfence(); }
   TESSARO_INLINE static Px splat(uint32_t x) { return {_mm_set1_epi32(static_cast<int>(x))}; }
   TESSARO_INLINE static uint32_t bits(__m128i mask) {
     return static_cast<uint32_t>(_mm_movemask_ps(_mm_castsi128_ps(mask)));
@@ -174,6 +176,33 @@ TESSARO_INLINE Px::Half ramp_alpha(Px a, const AlphaLine& line) {
   return min(max(Px::Half{_mm_unpacklo_epi16(words, words)}, Px::Half::splat(0)), Px::Half::splat(256));
 }
 
-static_assert(PixelVector<Px>);
+// --- Pixels as numbers, and moved about
+
+TESSARO_INLINE Px add32(Px a, Px b) { return {_mm_add_epi32(a.v, b.v)}; }
+TESSARO_INLINE Px sub32(Px a, Px b) { return {_mm_sub_epi32(a.v, b.v)}; }
+TESSARO_INLINE Px reversed(Px a) { return {_mm_shuffle_epi32(a.v, 0x1B)}; }
+TESSARO_INLINE void transpose_square(Px (&r)[4]) {
+  const __m128i a = _mm_unpacklo_epi32(r[0].v, r[1].v), b = _mm_unpackhi_epi32(r[0].v, r[1].v);
+  const __m128i c = _mm_unpacklo_epi32(r[2].v, r[3].v), d = _mm_unpackhi_epi32(r[2].v, r[3].v);
+  r[0].v = _mm_unpacklo_epi64(a, c);
+  r[1].v = _mm_unpackhi_epi64(a, c);
+  r[2].v = _mm_unpacklo_epi64(b, d);
+  r[3].v = _mm_unpackhi_epi64(b, d);
+}
+TESSARO_INLINE Px picked(Px a, Px b, Px where) {
+  uint32_t from[8];
+  a.store(from);
+  b.store(from + 4);
+  return picked_singly(from, where);
+}
+TESSARO_INLINE Px picked(Px a, Px where) { return picked(a, a, where); }
+TESSARO_INLINE Px gather(const uint8_t* p, Px where) {
+  uint32_t at[4], v[4];
+  where.store(at);
+  for (int i = 0; i < 4; ++i) v[i] = gather(p, One{at[i]}).v;
+  return Px::load(v);
+}
+
+static_assert(PixelVector<Px> && MovingPixels<Px>);
 
 }  // namespace

@@ -5,8 +5,8 @@
 //   P::lanes                     pixels in a value
 //   P::load(p) P::load(p, n)     from any alignment; n < lanes reads n pixels and no byte more, the others are 0
 //   a.store(p) a.store(p, n)
-//   kept(a)                      a, in a register
-//   a.stream(p)                  past the caches, to a multiple of the vector's size; a fence follows the last
+//   kept(a)                      a, read once: the compiler must not fold a load into each use
+//   a.stream(p)                  past the caches, to a multiple of the vector's size; P::fence() follows the last
 //   P::splat(word)               the same pixel in every lane
 //   add_sat sub_sat add sub      per byte; the first two saturate, the others wrap
 //   min max difference           per unsigned byte
@@ -36,6 +36,20 @@
 //   mul_high(a, b)               (a * b) >> 16, unsigned; mul_high_signed(a, b) signed
 //   sum_in_byte(a, b)            a + b (signed) kept within 0..255; b at most 255, the sum above -32512
 //   plus_equal(a, b)             a + 1 where a == b, else a
+//
+// Pixels as numbers of 32 bits and as things that move about:
+//   add32(a, b) sub32(a, b)      modulo 2^32
+//   reversed(a)                  the last pixel first
+//   transpose_square(rows)       P (&rows)[lanes]: rows become columns
+//   P::permutes                  whether the next three cost an instruction or two; without, they are one pixel at a time
+//   picked(a, where)             pixel where[i] of a; where is below lanes
+//   picked(a, b, where)          of the 2 * lanes pixels a, b
+//   gather(p, where)             the pixel at p + 4 * where[i], signed
+//
+// Tables of bytes:
+//   byte_tables<P>               whether look_up is worth while; without, it is one byte at a time
+//   ByteTable<P>::load(p)        from 256 bytes
+//   look_up(table, a)            the table's entry for each byte of a
 #pragma once
 
 #include <concepts>
@@ -70,6 +84,7 @@ concept PixelVector = requires(P a, typename P::Half h, const void* in, void* ou
   a.store(out);
   a.store(out, n);
   a.stream(out);
+  P::fence();
   { P::splat(0u) } -> std::same_as<P>;
   { kept(a) } -> std::same_as<P>;
   { add_sat(a, a) } -> std::same_as<P>;
@@ -107,6 +122,34 @@ concept PixelVector = requires(P a, typename P::Half h, const void* in, void* ou
   { mul_high(h, h) } -> std::same_as<typename P::Half>;
   { mul_high_signed(h, h) } -> std::same_as<typename P::Half>;
   { shl<1>(shr<1>(h)) } -> std::same_as<typename P::Half>;
+};
+
+template <class P>
+inline constexpr bool byte_tables = false;
+template <class P>
+struct ByteTable {
+  uint8_t at[256];
+  TESSARO_INLINE static ByteTable load(const uint8_t* from) {
+    ByteTable table;
+    std::memcpy(table.at, from, sizeof table.at);
+    return table;
+  }
+};
+
+template <class P>
+concept MovingPixels = requires(P a, P (&rows)[P::lanes], const uint8_t* in) {
+  { add32(a, a) } -> std::same_as<P>;
+  { sub32(a, a) } -> std::same_as<P>;
+  { reversed(a) } -> std::same_as<P>;
+  transpose_square(rows);
+  requires P::permutes || !P::permutes;
+  { picked(a, a) } -> std::same_as<P>;
+  { picked(a, a, a) } -> std::same_as<P>;
+  { gather(in, a) } -> std::same_as<P>;
+};
+template <class P>
+concept LookedUpBytes = requires(P a, const uint8_t* in) {
+  { look_up(ByteTable<P>::load(in), a) } -> std::same_as<P>;
 };
 
 // The first n pixels, where n may be all lanes; lanes known at compile time to be all there are loaded whole.

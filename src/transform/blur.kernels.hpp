@@ -1,4 +1,4 @@
-// kernels: BlurKernels for scalar sse2 avx2 avx512
+// kernels: BlurKernels
 #include <emmintrin.h>
 
 #include "simd/vocabulary.hpp"

@@ -1,4 +1,4 @@
-// kernels: CubicKernels for scalar sse2 avx2 avx512
+// kernels: CubicKernels
 #include "transform/cubic.hpp"
 
 #include "simd/rules.hpp"

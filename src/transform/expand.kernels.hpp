@@ -1,4 +1,4 @@
-// kernels: ExpandKernels for scalar sse2 avx2 avx512
+// kernels: ExpandKernels
 #include "transform/expand.hpp"
 
 #include "simd/rules.hpp"

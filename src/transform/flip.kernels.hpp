@@ -1,4 +1,4 @@
-// kernels: FlipKernels for scalar sse2 avx2 avx512
+// kernels: FlipKernels
 #include "simd/rules.hpp"
 #include "simd/walk.hpp"
 #include "transform/flip.hpp"

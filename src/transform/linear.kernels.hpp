@@ -1,4 +1,4 @@
-// kernels: LinearKernels for scalar sse2 avx2 avx512
+// kernels: LinearKernels
 #include "transform/linear.hpp"
 
 #include "simd/rules.hpp"

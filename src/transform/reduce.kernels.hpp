@@ -1,4 +1,4 @@
-// kernels: ReduceKernels for scalar sse2 avx2 avx512
+// kernels: ReduceKernels
 #include <emmintrin.h>
 
 #include "simd/rules.hpp"

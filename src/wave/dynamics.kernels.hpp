@@ -1,4 +1,4 @@
-// kernels: DynamicsKernels for scalar sse2 avx2 avx512
+// kernels: DynamicsKernels
 #include "wave/dynamics.hpp"
 
 #include "wave/eights.hpp"

@@ -1,4 +1,4 @@
-// kernels: OscillatorKernels for scalar sse2 avx2 avx512
+// kernels: OscillatorKernels
 #include "wave/oscillator.hpp"
 
 #include "wave/trigonometry.hpp"

@@ -1,4 +1,4 @@
-// kernels: ResampleKernels for scalar sse2 avx2 avx512
+// kernels: ResampleKernels
 #include <immintrin.h>
 
 #include "wave/resample.hpp"

@@ -1,4 +1,4 @@
-// kernels: ReverbKernels for scalar sse2 avx2 avx512
+// kernels: ReverbKernels
 #include <immintrin.h>
 
 #include "wave/reverb.hpp"

@@ -1,4 +1,4 @@
-// kernels: SampleKernels for scalar sse2 avx2 avx512
+// kernels: SampleKernels
 #include "wave/samples.hpp"
 
 #include "wave/eights.hpp"

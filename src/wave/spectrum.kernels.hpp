@@ -1,4 +1,4 @@
-// kernels: SpectrumKernels for scalar sse2 avx2 avx512
+// kernels: SpectrumKernels
 #include <immintrin.h>
 
 #include "wave/spectrum.hpp"

@@ -1,6 +1,6 @@
 # Nothing weak leaves the objects of a back end: the linker would take one processor's copy of it for all. And 64-bit
 # Windows aligns the stack to 16 bytes only, so no vector register wider than that may be moved there as if aligned.
-list(FILTER OBJECTS INCLUDE REGEX "/kernels/[^/]*\\.(scalar|sse2|avx2|avx512)\\.cpp")
+list(FILTER OBJECTS INCLUDE REGEX "/kernels/[^/]*\\.[a-z0-9]+\\.cpp")
 list(LENGTH OBJECTS count)
 if(count EQUAL 0)
   message(FATAL_ERROR "No objects of kernels were given")
@@ -10,7 +10,7 @@ string(REGEX MATCHALL "[^\n]* [WVu] [^\n]*" weak "${symbols}")
 if(WINDOWS)
   # Here a function of several objects has a section of its own instead.
   string(REGEX MATCHALL "[^\n]* [TDBR] _?_Z[^\n]*" strong "${symbols}")
-  list(FILTER strong EXCLUDE REGEX "KernelTables")
+  list(FILTER strong EXCLUDE REGEX "KernelTable")
   list(APPEND weak ${strong})
 endif()
 if(weak)

@@ -115,11 +115,16 @@ class Forced {
 // Areas of so many pixels are written past the caches, for the life of the object.
 class Streamed {
  public:
-  explicit Streamed(ptrdiff_t pixels) : before_(std::exchange(streamed_area, pixels)) {}
-  ~Streamed() { streamed_area = before_; }
+  explicit Streamed(ptrdiff_t pixels)
+      : area_(std::exchange(streamed_area, pixels)), moves_(std::exchange(string_moves, pixels == never)) {}
+  ~Streamed() {
+    streamed_area = area_;
+    string_moves = moves_;
+  }
 
  private:
-  ptrdiff_t before_;
+  ptrdiff_t area_;
+  bool moves_;
 };
 
 // Each of them in turn, while the body of the loop runs: for (const Forced backend : supported_backends()) ...

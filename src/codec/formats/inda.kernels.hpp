@@ -1,4 +1,4 @@
-// kernels: IndaKernels for scalar sse2 avx2
+// kernels: IndaKernels -avx512
 #include "codec/formats/inda.hpp"
 #include "simd/vocabulary.hpp"
 
