@@ -1,3 +1,4 @@
+// Pixels looked up in a map image.
 #include "mapping/maps.hpp"
 
 #include "core/clip.hpp"
@@ -59,7 +60,7 @@ ptrdiff_t by_tables(const Mapping& m, const int32_t* offsets) {
   AreaPair n = m.areas;
   const MapKernels& k = kernels<MapKernels>();
   if (n.height % tile < worth) n.height -= n.height % tile;
-  if (n.height == 0 || n.width < worth || !k.has_tables()) return 0;
+  if (n.height == 0 || n.width < worth || !k.by_tables) return 0;
   const auto width = static_cast<size_t>(n.width);
   size_t count = 1;
   for (size_t x = 1; x < width; ++x) count += offsets[x] != offsets[x - 1];

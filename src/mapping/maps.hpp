@@ -24,8 +24,7 @@ struct MapKernels {
                     const int32_t* offsets);
   // Each pixel through the row of its source pixel's value.
   void (*by_value)(uint8_t* dst, const uint8_t* src, size_t width, const MapByValue&);
-  // Whether the two below are there.
-  bool (*has_tables)();
+  // The two below may be missing.
   // A map row as four tables of 256 bytes, one a channel.
   void (*split_row)(const uint8_t* map_row, uint8_t* table);
   // Each pixel through its column's table, given by its place among the tables; the last place is repeated up to a
