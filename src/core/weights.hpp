@@ -39,4 +39,10 @@ inline uint32_t alpha_factor(float opacity) {
   return below;
 }
 
+// Weights on a straight line over the alphas: (alpha * rise + base) >> shift, kept within 0..256. rise is at most 65534, base
+// and every value before the shift fit 32 bits.
+struct AlphaLine {
+  int rise, base, shift;
+};
+
 }  // namespace tessaro

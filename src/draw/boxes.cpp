@@ -1,3 +1,4 @@
+// Filled, tiled and shaded boxes.
 #include "draw/boxes.hpp"
 
 #include "core/clip.hpp"
@@ -21,7 +22,7 @@ Area area_of(const ImageView& image, const ScaledBlit& box) {
 }
 
 // What is not a number counts as 0.
-int32_t weight_of(double v) { return v > 0 ? (v < 1 ? trunc32(v * 256) : 256) : 0; }
+int32_t weight_of(double v) { return trunc32(clamped(v, 0.0, 1.0) * 256); }
 
 // A box between two corner points, and the pattern image that colours it.
 struct CornerBox {

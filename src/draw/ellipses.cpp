@@ -1,9 +1,11 @@
+// Ellipses coloured by the distance from their centre, and by the angle around it.
 #include "draw/ellipses.hpp"
 
 #include <cmath>
 
 #include "core/clip.hpp"
 #include "draw/run.hpp"
+#include "draw/search.hpp"
 #include "tessaro/tessaro.h"
 
 using namespace tessaro;
@@ -25,8 +27,16 @@ int32_t draw_ellipse(ImageRecord* dst, const ImageRecord* colours, int32_t x1, i
     // The polar form keeps the square in single precision.
     const double square =
         polar ? static_cast<double>(v * v) : static_cast<double>(v) * static_cast<double>(v);
-    return EllipseRow{nullptr,       nullptr,       nullptr,       0, v, square, palette.pixels,
-                      palette.pitch, palette.width, palette.height};
+    return EllipseRow{.at = nullptr,
+                      .u = nullptr,
+                      .u_squared = nullptr,
+                      .width = 0,
+                      .v = v,
+                      .v_squared = square,
+                      .palette = palette.pixels,
+                      .palette_pitch = palette.pitch,
+                      .palette_width = palette.width,
+                      .palette_height = palette.height};
   };
   const auto column_u = [&](int64_t x) { return 2 * across.way(x) / across.span - 1; };
   const auto kernel = polar ? kernels<EllipseKernels>().polar : kernels<EllipseKernels>().radial;
@@ -59,18 +69,10 @@ int32_t draw_ellipse(ImageRecord* dst, const ImageRecord* colours, int32_t x1, i
     for (ptrdiff_t j = 0; j < area.height; ++j) {
       EllipseRow row = row_of(down.lowest() + top + j);
       if (square[centre] + row.v_squared > widest) continue;
-      // The first and the last pixel inside, by bisection.
-      ptrdiff_t out = -1, left = centre;
-      while (left - out > 1) {
-        const ptrdiff_t middle = (left + out) / 2;
-        (square[middle] + row.v_squared > widest ? out : left) = middle;
-      }
-      ptrdiff_t right = centre;
-      out = area.width;
-      while (out - right > 1) {
-        const ptrdiff_t middle = (right + out) / 2;
-        (square[middle] + row.v_squared > widest ? out : right) = middle;
-      }
+      const auto inside = [&](int64_t i) { return square[i] + row.v_squared <= widest; };
+      const ptrdiff_t left = static_cast<ptrdiff_t>(first_where(0, centre, inside));
+      const ptrdiff_t right = static_cast<ptrdiff_t>(
+          first_where(centre, area.width - 1, [&](int64_t i) { return !inside(i); }) - 1);
       row.at = area.at + j * area.pitch + 4 * left;
       row.u = u + left;
       row.u_squared = square + left;

@@ -31,6 +31,9 @@ void radial(const EllipseRow& row) {
   });
 }
 
+// A little above 1 / (2 pi), as hosts know it: where a turn begins in the palette depends on every digit.
+constexpr double turns_per_radian = 0.159154976;
+
 // The angle is 0 along the middle row, to the left of the centre half a turn.
 void polar(const EllipseRow& row) {
   const double columns = row.palette_width - 1, rows = row.palette_height;
@@ -47,7 +50,7 @@ void polar(const EllipseRow& row) {
     if (v == 0)
       for (size_t i = 0; i < n; ++i) place(i, u[i] < 0 ? 0.5 : 0.0);
     else
-      for (size_t i = 0; i < n; ++i) place(i, arctan(u[i] / v) * 0.159154976 + half_plane);
+      for (size_t i = 0; i < n; ++i) place(i, arctan(u[i] / v) * turns_per_radian + half_plane);
   });
 }
 

@@ -13,6 +13,18 @@ struct Pen {
   void put(uint8_t* at) const { store<uint32_t>(at, (load<uint32_t>(at) & keep) | ink); }
 };
 
+// The two colours of a line, from the first two pixels of an image; false where it has fewer.
+struct ColourPair {
+  uint32_t c0 = 0, c1 = 0;
+  bool read(const ImageRecord* image) {
+    const ImageView view = ImageView::of(image);
+    if (view.width < 2 || view.height < 1) return false;
+    c0 = view.get(0, 0);
+    c1 = view.get(1, 0);
+    return true;
+  }
+};
+
 // (to * weight + from * (256 - weight)) >> 8 of each byte.
 inline uint32_t mixed(uint32_t from, uint32_t to, uint32_t weight) {
   constexpr uint32_t pair = 0x00FF00FF;

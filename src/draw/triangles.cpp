@@ -1,3 +1,4 @@
+// Filled triangles.
 #include "core/image.hpp"
 #include "draw/pen.hpp"
 #include "tessaro/tessaro.h"
@@ -31,39 +32,33 @@ struct Box {
   bool empty() const { return left > right || top > bottom; }
 };
 
-// One edge's cross product, e(x, y) = a * x + b * y + c, in arithmetic that wraps at 32 bits.
-struct WrappedEdge {
-  uint32_t a, b, c;
-  WrappedEdge(Point p, Point q) {
-    const auto u = [](int32_t v) { return static_cast<uint32_t>(v); };
-    a = u(p.y) - u(q.y);
-    b = u(q.x) - u(p.x);
-    c = u(p.x) * u(q.y) - u(q.x) * u(p.y);
-  }
-  uint32_t at(int32_t x, int32_t y) const {
-    return a * static_cast<uint32_t>(x) + b * static_cast<uint32_t>(y) + c;
-  }
-};
-
-// The same without wrapping, for corners within 2^30 of the origin.
+// One edge's cross product, e(x, y) = a * x + b * y + c: in unsigned words, where it wraps, or in 64 bits with sign, where it
+// does not for corners within 2^30 of the origin.
+template <class T>
 struct Edge {
-  int64_t a, b, c;
+  T a, b, c;
   Edge(Point p, Point q)
-      : a(int64_t{p.y} - q.y), b(int64_t{q.x} - p.x), c(int64_t{p.x} * q.y - int64_t{q.x} * p.y) {}
-  int64_t at(int64_t x, int64_t y) const { return a * x + b * y + c; }
-  // Linear, so what fits at the corners of the box fits everywhere in it.
-  bool fits(const Box& box) const {
-    const auto small = [](int64_t e) { return e == static_cast<int32_t>(e); };
-    return small(at(box.left, box.top)) && small(at(box.right, box.top)) && small(at(box.left, box.bottom)) &&
-           small(at(box.right, box.bottom));
-  }
+      : a(of(p.y) - of(q.y)), b(of(q.x) - of(p.x)), c(of(p.x) * of(q.y) - of(q.x) * of(p.y)) {}
+  T at(int32_t x, int32_t y) const { return a * of(x) + b * of(y) + c; }
+
+ private:
+  static T of(int32_t v) { return static_cast<T>(v); }
 };
+using WrappedEdge = Edge<uint32_t>;
+using ExactEdge = Edge<int64_t>;
+
+// Whether no value wraps in the box. Edges are linear: what fits at its corners fits everywhere in it.
+bool fits(const ExactEdge& e, const Box& box) {
+  const auto small = [&](int32_t x, int32_t y) { return e.at(x, y) == static_cast<int32_t>(e.at(x, y)); };
+  return small(box.left, box.top) && small(box.right, box.top) && small(box.left, box.bottom) &&
+         small(box.right, box.bottom);
+}
 
 // The columns of one row where an edge's value, taken with a sign, is at least `least`: n + a * x >= 0. The
 // quotient that bounds them follows from row to row without a division.
 class Bound {
  public:
-  Bound(const Edge& edge, int sign, int64_t least, int64_t top)
+  Bound(const ExactEdge& edge, int sign, int64_t least, int32_t top)
       : slope_(sign * edge.a),
         steep_(slope_ < 0   ? -slope_
                : slope_ > 0 ? slope_
@@ -120,8 +115,8 @@ int32_t draw(ImageRecord* record, const Point (&p)[3], uint32_t mask, uint32_t c
     draw_wrapped<with_edges>(image, box, p, {mask, colour});
     return status_done;
   }
-  const Edge e12(p[0], p[1]), e23(p[1], p[2]), e31(p[2], p[0]);
-  if (!e12.fits(box) || !e23.fits(box) || !e31.fits(box)) {
+  const ExactEdge e12(p[0], p[1]), e23(p[1], p[2]), e31(p[2], p[0]);
+  if (!fits(e12, box) || !fits(e23, box) || !fits(e31, box)) {
     draw_wrapped<with_edges>(image, box, p, {mask, colour});
     return status_done;
   }
@@ -130,6 +125,7 @@ int32_t draw(ImageRecord* record, const Point (&p)[3], uint32_t mask, uint32_t c
   const int64_t area = e12.c + e23.c + e31.c;
   if (area == 0 && !with_edges) return status_done;
   const int sign = area > 0 ? 1 : -1;
+  // Clockwise triangles leave out the edge from corner 1 to 2; without edges all three are strict.
   const int64_t others = with_edges ? 0 : 1, first = with_edges && sign < 0 ? 0 : 1;
   Bound bounds[] = {{e12, sign, first, box.top}, {e23, sign, others, box.top}, {e31, sign, others, box.top}};
   for (int32_t y = box.top; y <= box.bottom; ++y) {

@@ -1,6 +1,6 @@
+// Transitions between two images through a stencil.
 #include "mapping/stencils.hpp"
 
-#include "core/weights.hpp"
 #include "pixel/blit.hpp"
 #include "tessaro/tessaro.h"
 
@@ -42,8 +42,10 @@ void build_ramp(uint32_t (&weights)[256], double p, double s) {
 }
 
 // The line that gives these weights, which lie on one but for their rounding: much cheaper than to look them up. False
-// for the rare ramp whose rounding no line follows.
-bool fit_line(const uint32_t (&weights)[256], double s, StencilRamp& line) {
+// for the rare ramp whose rounding no line follows. With a rise given, a weight above 0 bounds the base from below and one
+// below 256 from above; the rise that the softness asks for is tried, and the next one. The shift makes it fit an AlphaLine,
+// so that its products and the weights before the shift stay below 2^26.
+bool fit_line(const uint32_t (&weights)[256], double s, AlphaLine& line) {
   double rise = 256.0 * static_cast<double>(0.003921569f) / s;
   if (rise > 1024.0) rise = 1024.0;  // from nothing to all in one step
   line.shift = 16;
@@ -66,13 +68,13 @@ bool fit_line(const uint32_t (&weights)[256], double s, StencilRamp& line) {
 
 int32_t flip(const StencilAreas& areas, float progress, float softness) {
   const StencilKernels& k = kernels<StencilKernels>();
-  const float p = progress > 0 ? (progress < 1 ? progress : 1.0f) : 0.0f;  // not a number: 0
+  const float p = clamped(progress, 0.0f, 1.0f);
   if (softness >= 1000) {
     k.fade(areas, static_cast<uint32_t>(trunc32((1.0 - static_cast<double>(p)) * 256.0)));
   } else if (softness > 0) {
     uint32_t weights[256];
     build_ramp(weights, static_cast<double>(p), static_cast<double>(softness));
-    StencilRamp line;
+    AlphaLine line;
     if (fit_line(weights, static_cast<double>(softness), line))
       k.ramp(areas, line);
     else
@@ -119,17 +121,16 @@ int32_t TESSARO_CALL BBIStencilFlipLEFix(ImageRecord* dst, const ImageRecord* fi
 
 int32_t TESSARO_CALL BBIStencilAddsigned(ImageRecord* dst, const ImageRecord* src, int32_t dx, int32_t dy,
                                          int32_t w, int32_t h, int32_t sx, int32_t sy, float opacity,
-                                         uint32_t color) {
+                                         uint32_t colour) {
   AreaPair areas;
   if (!clip_two(dst, src, dx, dy, w, h, sx, sy, areas)) return status_nothing;
-  const float clamped = opacity > 0 ? (opacity < 1 ? opacity : 1.0f) : 0.0f;
   // The offset 2 * c - 255 of each colour as two saturating steps, of which one is 0; alpha falls to 0.
   uint32_t raise = 0, lower = 0xFF000000;
   for (int k = 0; k < 24; k += 8) {
-    const auto offset = static_cast<int32_t>(2 * (color >> k & 255)) - 255;
+    const auto offset = static_cast<int32_t>(2 * (colour >> k & 255)) - 255;
     (offset > 0 ? raise : lower) |= static_cast<uint32_t>(offset > 0 ? offset : -offset) << k;
   }
-  kernels<StencilKernels>().add_signed(areas, raise, lower, alpha_factor(clamped));
+  kernels<StencilKernels>().add_signed(areas, raise, lower, alpha_factor(clamped(opacity, 0.0f, 1.0f)));
   return status_done;
 }
 

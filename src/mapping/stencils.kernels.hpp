@@ -7,7 +7,6 @@ namespace {
 
 using tessaro::AreaPair;
 using tessaro::StencilAreas;
-using tessaro::StencilRamp;
 
 template <class P>
 struct Hard {
@@ -23,7 +22,7 @@ struct Soft {
 template <class P>
 struct Ramp {
   AlphaLine line;
-  TESSARO_INLINE explicit Ramp(const StencilRamp& r) : line{r.rise, r.base, r.shift} {}
+  TESSARO_INLINE explicit Ramp(const AlphaLine& r) : line(r) {}
   TESSARO_INLINE P operator()(P o, P i, P stencil) const { return mix(i, o, ramp_alpha(stencil, line)); }
 };
 template <class P>
@@ -94,7 +93,7 @@ struct AddSigned {
 TESSARO_KERNELS(StencilKernels){
     .hard = walk_stencil<Hard, uint32_t>,
     .soft = walk_stencil<Soft, const uint32_t*>,
-    .ramp = walk_stencil<Ramp, const StencilRamp&>,
+    .ramp = walk_stencil<Ramp, const AlphaLine&>,
     .fade = walk_stencil<Fade, uint32_t>,
     .add_signed = [](const AreaPair& n, uint32_t raise, uint32_t lower,
                      uint32_t factor) { walk2<AddSigned>(n, raise, lower, factor); },

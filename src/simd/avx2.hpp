@@ -6,6 +6,7 @@
 #include <immintrin.h>
 
 #include "simd/scalar.hpp"
+#include "simd/x86_quad.hpp"
 
 namespace {
 
@@ -200,6 +201,32 @@ TESSARO_INLINE Px picked(Px a, Px b, Px where) {
 }
 TESSARO_INLINE Px gather(const uint8_t* p, Px where) {
   return {_mm256_i32gather_epi32(reinterpret_cast<const int*>(p), where.v, 4)};
+}
+
+TESSARO_INLINE Px shuffled(Px a, Px from) { return {_mm256_shuffle_epi8(a.v, from.v)}; }
+TESSARO_INLINE Px pair_products(Px::Half a, Px::Half b) { return {_mm256_madd_epi16(a.v, b.v)}; }
+TESSARO_INLINE Px trunc_dot(Px a, Px b, Px c, double wa, double wb, double wc) {
+  const auto four = [=](__m128i x, __m128i y, __m128i z) {
+    const __m256d p = _mm256_mul_pd(_mm256_cvtepi32_pd(x), _mm256_set1_pd(wa));
+    const __m256d q = _mm256_mul_pd(_mm256_cvtepi32_pd(y), _mm256_set1_pd(wb));
+    const __m256d r = _mm256_mul_pd(_mm256_cvtepi32_pd(z), _mm256_set1_pd(wc));
+    return _mm256_cvttpd_epi32(_mm256_add_pd(_mm256_add_pd(p, q), r));
+  };
+  const auto upper = [](Px x) { return _mm256_extracti128_si256(x.v, 1); };
+  return {_mm256_set_m128i(
+      four(upper(a), upper(b), upper(c)),
+      four(_mm256_castsi256_si128(a.v), _mm256_castsi256_si128(b.v), _mm256_castsi256_si128(c.v)))};
+}
+// b0 g0 r0 a0 b1 g1 r1 a1 -> b0 b1 g0 g1 r0 r1 a0 a1, of which neighbouring bytes are added.
+TESSARO_INLINE Paired<Px::Half> neighbour_sums(Px a, Px b) {
+  const Px side_by_side{_mm256_setr_epi8(0, 4, 1, 5, 2, 6, 3, 7, 8, 12, 9, 13, 10, 14, 11, 15,  //
+                                         0, 4, 1, 5, 2, 6, 3, 7, 8, 12, 9, 13, 10, 14, 11, 15)};
+  const __m256i one = _mm256_set1_epi8(1);
+  return {{_mm256_maddubs_epi16(shuffled(a, side_by_side).v, one)},
+          {_mm256_maddubs_epi16(shuffled(b, side_by_side).v, one)}};
+}
+TESSARO_INLINE Px from_sums(Px::Half first, Px::Half second) {
+  return {_mm256_permute4x64_epi64(_mm256_packus_epi16(first.v, second.v), 0xD8)};
 }
 
 static_assert(PixelVector<Px> && MovingPixels<Px>);

@@ -6,6 +6,7 @@
 #include <immintrin.h>
 
 #include "simd/scalar.hpp"
+#include "simd/x86_quad.hpp"
 
 namespace {
 
@@ -188,6 +189,32 @@ TESSARO_INLINE void transpose_square(Px (&r)[16]) {
 TESSARO_INLINE Px picked(Px a, Px where) { return {_mm512_permutexvar_epi32(where.v, a.v)}; }
 TESSARO_INLINE Px picked(Px a, Px b, Px where) { return {_mm512_permutex2var_epi32(a.v, where.v, b.v)}; }
 TESSARO_INLINE Px gather(const uint8_t* p, Px where) { return {_mm512_i32gather_epi32(where.v, p, 4)}; }
+
+TESSARO_INLINE Px shuffled(Px a, Px from) { return {_mm512_shuffle_epi8(a.v, from.v)}; }
+TESSARO_INLINE Px pair_products(Px::Half a, Px::Half b) { return {_mm512_madd_epi16(a.v, b.v)}; }
+TESSARO_INLINE Px trunc_dot(Px a, Px b, Px c, double wa, double wb, double wc) {
+  const auto eight = [=](__m256i x, __m256i y, __m256i z) {
+    const __m512d p = _mm512_mul_pd(_mm512_cvtepi32_pd(x), _mm512_set1_pd(wa));
+    const __m512d q = _mm512_mul_pd(_mm512_cvtepi32_pd(y), _mm512_set1_pd(wb));
+    const __m512d r = _mm512_mul_pd(_mm512_cvtepi32_pd(z), _mm512_set1_pd(wc));
+    return _mm512_cvttpd_epi32(_mm512_add_pd(_mm512_add_pd(p, q), r));
+  };
+  const auto upper = [](Px x) { return _mm512_extracti64x4_epi64(x.v, 1); };
+  const __m256i low =
+      eight(_mm512_castsi512_si256(a.v), _mm512_castsi512_si256(b.v), _mm512_castsi512_si256(c.v));
+  return {_mm512_inserti64x4(_mm512_castsi256_si512(low), eight(upper(a), upper(b), upper(c)), 1)};
+}
+// b0 g0 r0 a0 b1 g1 r1 a1 -> b0 b1 g0 g1 r0 r1 a0 a1, of which neighbouring bytes are added.
+TESSARO_INLINE Paired<Px::Half> neighbour_sums(Px a, Px b) {
+  const Px side_by_side{_mm512_set4_epi32(0x0F0B0E0A, 0x0D090C08, 0x07030602, 0x05010400)};
+  const __m512i one = _mm512_set1_epi8(1);
+  return {{_mm512_maddubs_epi16(shuffled(a, side_by_side).v, one)},
+          {_mm512_maddubs_epi16(shuffled(b, side_by_side).v, one)}};
+}
+TESSARO_INLINE Px from_sums(Px::Half first, Px::Half second) {
+  return {_mm512_permutexvar_epi64(_mm512_setr_epi64(0, 2, 4, 6, 1, 3, 5, 7),
+                                   _mm512_packus_epi16(first.v, second.v))};
+}
 
 static_assert(PixelVector<Px> && MovingPixels<Px>);
 

@@ -180,6 +180,19 @@ TESSARO_INLINE One picked(One a, One b, One where) { return where.v & 1 ? b : a;
 TESSARO_INLINE One gather(const uint8_t* p, One where) {
   return One::load(p + 4 * static_cast<ptrdiff_t>(static_cast<int32_t>(where.v)));
 }
+TESSARO_INLINE One pair_products(One::Half a, One::Half b) {
+  const auto product = [&](int at) {
+    return static_cast<int16_t>(a.v >> at & 0xFFFF) * static_cast<int16_t>(b.v >> at & 0xFFFF);
+  };
+  return {static_cast<uint32_t>(product(0)) + static_cast<uint32_t>(product(16))};
+}
+TESSARO_INLINE One trunc_dot(One a, One b, One c, double wa, double wb, double wc) {
+  const auto number = [](One x) { return static_cast<double>(static_cast<int32_t>(x.v)); };
+  return {static_cast<uint32_t>(tessaro::trunc32(number(a) * wa + number(b) * wb + number(c) * wc))};
+}
+TESSARO_INLINE Paired<One::Half> neighbour_sums(One a, One b) { return {even(a) + even(b), odd(a) + odd(b)}; }
+TESSARO_INLINE One from_sums(One::Half first, One::Half second) { return join(first, second); }
+
 // For a back end without permutes.
 template <class P>
 TESSARO_INLINE P picked_singly(const uint32_t* from, P where) {
@@ -199,10 +212,29 @@ TESSARO_INLINE P look_up(const ByteTable<P>& table, P a) {
   return P::load(v);
 }
 
+// --- The channels of one pixel
+
+struct OneQuad {
+  uint16_t v[4];
+  TESSARO_INLINE static OneQuad of(const uint8_t* p) { return {{p[0], p[1], p[2], p[3]}}; }
+  TESSARO_INLINE static OneQuad load(const uint16_t* p) { return {{p[0], p[1], p[2], p[3]}}; }
+  TESSARO_INLINE void store(uint16_t* p) const { std::memcpy(p, v, sizeof v); }
+  TESSARO_INLINE static OneQuad splat(uint16_t x) { return {{x, x, x, x}}; }
+};
+TESSARO_INLINE OneQuad operator+(OneQuad a, const OneQuad& b) {
+  for (int k = 0; k < 4; ++k) a.v[k] = static_cast<uint16_t>(a.v[k] + b.v[k]);
+  return a;
+}
+TESSARO_INLINE OneQuad operator*(OneQuad a, const OneQuad& b) {
+  for (int k = 0; k < 4; ++k) a.v[k] = static_cast<uint16_t>(a.v[k] * b.v[k]);
+  return a;
+}
+
 #ifndef TESSARO_PX
 #define TESSARO_PX
 #define TESSARO_LANES 1
 using Px = One;
+using Quad = OneQuad;
 #endif
 static_assert(PixelVector<One> && MovingPixels<One> && LookedUpBytes<One>);
 

@@ -6,6 +6,7 @@
 #include <emmintrin.h>
 
 #include "simd/scalar.hpp"
+#include "simd/x86_quad.hpp"
 
 namespace {
 
@@ -202,6 +203,23 @@ TESSARO_INLINE Px gather(const uint8_t* p, Px where) {
   for (int i = 0; i < 4; ++i) v[i] = gather(p, One{at[i]}).v;
   return Px::load(v);
 }
+
+TESSARO_INLINE Px pair_products(Px::Half a, Px::Half b) { return {_mm_madd_epi16(a.v, b.v)}; }
+TESSARO_INLINE Px trunc_dot(Px a, Px b, Px c, double wa, double wb, double wc) {
+  const auto two = [=](__m128i x, __m128i y, __m128i z) {  // the lower two
+    const __m128d p = _mm_mul_pd(_mm_cvtepi32_pd(x), _mm_set1_pd(wa));
+    const __m128d q = _mm_mul_pd(_mm_cvtepi32_pd(y), _mm_set1_pd(wb));
+    const __m128d r = _mm_mul_pd(_mm_cvtepi32_pd(z), _mm_set1_pd(wc));
+    return _mm_cvttpd_epi32(_mm_add_pd(_mm_add_pd(p, q), r));
+  };
+  const auto upper = [](Px x) { return _mm_unpackhi_epi64(x.v, x.v); };
+  return {_mm_unpacklo_epi64(two(a.v, b.v, c.v), two(upper(a), upper(b), upper(c)))};
+}
+TESSARO_INLINE Paired<Px::Half> neighbour_sums(Px a, Px b) {
+  const auto by_turns = unzip(a, b);
+  return {even(by_turns.even) + even(by_turns.odd), odd(by_turns.even) + odd(by_turns.odd)};
+}
+TESSARO_INLINE Px from_sums(Px::Half first, Px::Half second) { return join(first, second); }
 
 static_assert(PixelVector<Px> && MovingPixels<Px>);
 

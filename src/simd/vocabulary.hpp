@@ -37,6 +37,10 @@
 //   sum_in_byte(a, b)            a + b (signed) kept within 0..255; b at most 255, the sum above -32512
 //   plus_equal(a, b)             a + 1 where a == b, else a
 //
+// A Quad holds the four channels of one pixel in 16 bits each, blue first; + and * are modulo 65536.
+//   Quad::of(p)                  from the four bytes of a pixel
+//   Quad::load(p) a.store(p)     four numbers of 16 bits;  Quad::splat(v)
+//
 // Pixels as numbers of 32 bits and as things that move about:
 //   add32(a, b) sub32(a, b)      modulo 2^32
 //   reversed(a)                  the last pixel first
@@ -45,6 +49,14 @@
 //   picked(a, where)             pixel where[i] of a; where is below lanes
 //   picked(a, b, where)          of the 2 * lanes pixels a, b
 //   gather(p, where)             the pixel at p + 4 * where[i], signed
+//   shuffled(a, from)            each byte the one of its 16 that the lower bits of from's byte name, 0 where its top bit is
+//                                set; only where P::permutes
+//   pair_products(a, b)          of two Halves, signed: the sum of the products of both lanes of each pixel
+//   trunc_dot(a, b, c, u, v, w)  a * u + b * v + c * w, signed, in doubles and in this order, truncated; what does not fit
+//                                is 0x80000000
+//   neighbour_sums(a, b)         of the 2 * lanes pixels a, b: each channel of every other pixel and of the one after it added,
+//                                in an order that only from_sums(.first, .second) knows, which takes lanes of at most 255 back
+//                                to bytes
 //
 // Tables of bytes:
 //   byte_tables<P>               whether look_up is worth while; without, it is one byte at a time
@@ -57,6 +69,8 @@
 #include <cstdint>
 #include <cstring>
 
+#include "core/weights.hpp"
+
 #define TESSARO_INLINE [[gnu::always_inline]] inline
 
 namespace {
@@ -66,10 +80,7 @@ struct Unzipped {
   P even, odd;
 };
 
-// A straight line over the alphas: rise is at most 65534, base and every value before the shift fit 32 bits.
-struct AlphaLine {
-  int rise, base, shift;
-};
+using tessaro::AlphaLine;
 
 template <class H>
 struct Paired {
@@ -137,7 +148,7 @@ struct ByteTable {
 };
 
 template <class P>
-concept MovingPixels = requires(P a, P (&rows)[P::lanes], const uint8_t* in) {
+concept MovingPixels = requires(P a, typename P::Half h, P (&rows)[P::lanes], const uint8_t* in) {
   { add32(a, a) } -> std::same_as<P>;
   { sub32(a, a) } -> std::same_as<P>;
   { reversed(a) } -> std::same_as<P>;
@@ -146,6 +157,9 @@ concept MovingPixels = requires(P a, P (&rows)[P::lanes], const uint8_t* in) {
   { picked(a, a) } -> std::same_as<P>;
   { picked(a, a, a) } -> std::same_as<P>;
   { gather(in, a) } -> std::same_as<P>;
+  { pair_products(h, h) } -> std::same_as<P>;
+  { trunc_dot(a, a, a, 0.5, 0.5, 0.5) } -> std::same_as<P>;
+  { from_sums(neighbour_sums(a, a).first, h) } -> std::same_as<P>;
 };
 template <class P>
 concept LookedUpBytes = requires(P a, const uint8_t* in) {

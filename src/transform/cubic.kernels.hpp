@@ -11,7 +11,7 @@ using tessaro::CubicRow;
 
 // Weighted samples of a few pixels, merged in pairs: neighbours first, then their results.
 template <class P, size_t count, size_t block>
-struct Taps {
+struct WeightedSamples {
   alignas(64) uint32_t samples[count][block];
   alignas(64) float weights[count][block];
 
@@ -56,7 +56,7 @@ void inner(uint8_t* dst, const CubicColumns& columns, const CubicRow& row, size_
     const size_t pixels = n - from < block ? n - from : block;
     // Whole vectors: the last pixel fills the last one up.
     const size_t padded = (pixels + Px::lanes - 1) / Px::lanes * Px::lanes;
-    Taps<Px, 8, block> taps;
+    WeightedSamples<Px, 8, block> taps;
     for (size_t k = 0; k < 8; ++k) {
       const double* column = columns.weights[acting[k].column] + from;
       const double of_row = row.weights[acting[k].row];
@@ -76,7 +76,7 @@ void inner(uint8_t* dst, const CubicColumns& columns, const CubicRow& row, size_
 }
 
 uint32_t merged(const uint32_t samples[16], const float weights[16]) {
-  Taps<One, 16, 1> taps;
+  WeightedSamples<One, 16, 1> taps;
   std::memcpy(taps.samples, samples, sizeof taps.samples);
   std::memcpy(taps.weights, weights, sizeof taps.weights);
   taps.merge_all(1);

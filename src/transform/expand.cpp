@@ -5,36 +5,12 @@
 #include "tessaro/tessaro.h"
 #include "transform/flip.hpp"
 
-namespace tessaro {
-
-bool clip_stretch(const ImageView& dst, const ImageView& src, ScaledBlit& r) {
-  return !ClipScaledBlit(dst, src, r) && r.dw > 0 && r.dh > 0 && r.sw > 0 && r.sh > 0 &&
-         // Where a height is negative, the rounded vertical ratio may leave a rectangle outside its image.
-         r.dx >= 0 && r.dy >= 0 && r.dx + r.dw <= dst.width && r.dy + r.dh <= dst.height && r.sx >= 0 &&
-         r.sy >= 0 && r.sx + r.sw <= src.width && r.sy + r.sh <= src.height;
-}
-
-Stretch stretch_of(const ImageView& d, const ImageView& s, const ScaledBlit& r) {
-  Stretch n = {.dst = d.at(r.dx, r.dy),
-               .dst_pitch = d.pitch,
-               .src = s.at(r.sx, r.sy),
-               .src_pitch = s.pitch,
-               .dw = static_cast<int32_t>(r.dw),
-               .dh = static_cast<int32_t>(r.dh),
-               .sw = static_cast<int32_t>(r.sw),
-               .sh = static_cast<int32_t>(r.sh),
-               .shared = false,
-               .columns = nullptr};
-  const Area to = {n.dst, n.dst_pitch, n.dw, n.dh};
-  n.shared = !rows_apart(to) || share_memory(to, {s.at(r.sx, r.sy), n.src_pitch, n.sw, n.sh});
-  return n;
-}
-
-}  // namespace tessaro
-
 using namespace tessaro;
 
 namespace {
+
+constexpr int32_t status_colour_filled = 0x201;
+constexpr int32_t status_chosen = 2;
 
 // Clips, checks the opacity and runs the kernel that `run` picks.
 template <class Run>
@@ -80,13 +56,13 @@ LevelRange level_range(uint32_t low, uint32_t high) {
 
 // Mixes a colour into the destination, its own alpha byte included; the source gives at most the weights.
 void ColorFillBlt(ImageRecord* dst, const ImageRecord* src, const ScaledBlit& r, float opacity,
-                  uint32_t color, bool by_alpha) {
+                  uint32_t colour, bool by_alpha) {
   AreaPair areas;
   if (!clip_two(dst, src, TESSARO_UNSCALED(r), areas)) return;
   if (by_alpha)
-    kernels<ExpandKernels>().fill_by_alpha(areas, color, alpha_factor(opacity));
+    kernels<ExpandKernels>().fill_by_alpha(areas, colour, alpha_factor(opacity));
   else
-    kernels<BlitKernels>().mix_colour({areas.dst, areas.dst_pitch, areas.width, areas.height}, color,
+    kernels<BlitKernels>().mix_colour({areas.dst, areas.dst_pitch, areas.width, areas.height}, colour,
                                       constant_weight(opacity));
 }
 
@@ -117,8 +93,8 @@ int32_t TESSARO_CALL BBIExpandBlendBlt(ImageRecord* dst, const ImageRecord* src,
 int32_t TESSARO_CALL BBIExpandColorBlt(ImageRecord* dst, const ImageRecord* src, int32_t dx, int32_t dy,
                                        int32_t dw, int32_t dh, int32_t sx, int32_t sy, int32_t sw, int32_t sh,
                                        float opacity, uint32_t keep_mask, uint32_t mask,
-                                       uint32_t color_top_left, uint32_t color_top_right,
-                                       uint32_t color_bottom_left, uint32_t color_bottom_right,
+                                       uint32_t colour_top_left, uint32_t colour_top_right,
+                                       uint32_t colour_bottom_left, uint32_t colour_bottom_right,
                                        int32_t use_source_alpha) {
   const ImageView d = ImageView::of(dst), s = ImageView::of(src);
   ScaledBlit rect = {dx, dy, dw, dh, sx, sy, sw, sh};
@@ -126,8 +102,8 @@ int32_t TESSARO_CALL BBIExpandColorBlt(ImageRecord* dst, const ImageRecord* src,
   const bool by_alpha = use_source_alpha != 0;
   const uint32_t weight = constant_weight(opacity), factor = by_alpha ? alpha_factor(opacity) : 0;
   if (mask == 0xFFFFFFFF) {  // nothing of the gradient would be seen
-    const Choice choice = {.keep = keep_mask, .by_alpha = by_alpha, .weight = weight, .factor = factor};
-    run_stretch(d, s, rect, [&](const Stretch& n) { kernels<ExpandKernels>().choose(n, choice); });
+    const Treatment treatment = {.keep = keep_mask, .by_alpha = by_alpha, .weight = weight, .factor = factor};
+    run_stretch(d, s, rect, [&](const Stretch& n) { kernels<ExpandKernels>().choose(n, treatment); });
     return status_done;
   }
   const auto width = static_cast<int32_t>(rect.dw);
@@ -136,10 +112,10 @@ int32_t TESSARO_CALL BBIExpandColorBlt(ImageRecord* dst, const ImageRecord* src,
   for (int32_t j = 0; j < width; ++j) weights[static_cast<size_t>(j)] = way_weight(j, width - 1) * 0x10001;
   const Gradient gradient = {.keep = keep_mask,
                              .mask = mask,
-                             .top_left = color_top_left,
-                             .top_right = color_top_right,
-                             .bottom_left = color_bottom_left,
-                             .bottom_right = color_bottom_right,
+                             .top_left = colour_top_left,
+                             .top_right = colour_top_right,
+                             .bottom_left = colour_bottom_left,
+                             .bottom_right = colour_bottom_right,
                              .by_alpha = by_alpha,
                              .weight = weight,
                              .factor = factor,
@@ -152,8 +128,8 @@ int32_t TESSARO_CALL BBIExpandChooseBlt(ImageRecord* dst, const ImageRecord* src
                                         int32_t dw, int32_t dh, int32_t sx, int32_t sy, int32_t sw,
                                         int32_t sh, float opacity, float saturation, uint32_t level_low,
                                         uint32_t level_high, uint32_t keep_mask, uint32_t mask,
-                                        uint32_t color, uint32_t invert_bits, int32_t use_source_alpha,
-                                        int32_t add_color, int32_t add_alpha, int32_t source_is_base) {
+                                        uint32_t colour, uint32_t invert_bits, int32_t use_source_alpha,
+                                        int32_t add_colour, int32_t add_alpha, int32_t source_is_base) {
   const ImageView d = ImageView::of(dst), s = ImageView::of(src);
   ScaledBlit rect = {dx, dy, dw, dh, sx, sy, sw, sh};
   if (!clip_stretch(d, s, rect)) return status_nothing;
@@ -161,51 +137,51 @@ int32_t TESSARO_CALL BBIExpandChooseBlt(ImageRecord* dst, const ImageRecord* src
   const uint32_t weight = constant_weight(opacity);
   if (weight == 0 && !source_is_base) return status_nothing;
 
-  Choice choice = {.keep = keep_mask,
-                   .mask = mask,
-                   .color = color,
-                   .invert = invert_bits,
-                   .by_alpha = use_source_alpha != 0,
-                   .weight = weight};
+  Treatment treatment = {.keep = keep_mask,
+                         .mask = mask,
+                         .colour = colour,
+                         .invert = invert_bits,
+                         .by_alpha = use_source_alpha != 0,
+                         .weight = weight};
   const auto choose = [&] {
-    if (choice.by_alpha) choice.factor = alpha_factor(opacity);
-    run_stretch(d, s, rect, [&](const Stretch& n) { kernels<ExpandKernels>().choose(n, choice); });
+    if (treatment.by_alpha) treatment.factor = alpha_factor(opacity);
+    run_stretch(d, s, rect, [&](const Stretch& n) { kernels<ExpandKernels>().choose(n, treatment); });
   };
 
   if (saturation == 1.0f && (level_low & 0x00FFFFFF) == 0 && (level_high & 0x00FFFFFF) == 0x00FFFFFF &&
-      !add_color && !add_alpha && !source_is_base) {
+      !add_colour && !add_alpha && !source_is_base) {
     const bool same_size = rect.dw == rect.sw && rect.dh == rect.sh;
     if (same_size && mask == 0xFF000000 && keep_mask == 0 && invert_bits == 0) {
-      ColorFillBlt(dst, src, rect, opacity, color, choice.by_alpha);
-      return status_color_filled;
+      ColorFillBlt(dst, src, rect, opacity, colour, treatment.by_alpha);
+      return status_colour_filled;
     }
     if (mask != 0xFFFFFFFF || keep_mask != 0) {
       choose();
       return status_done;
     }
     if (!same_size)
-      return choice.by_alpha ? BBIExpandBlendBlt(dst, src, TESSARO_SCALED(rect), opacity)
-                             : BBIExpandBlt(dst, src, TESSARO_SCALED(rect), opacity);
+      return treatment.by_alpha ? BBIExpandBlendBlt(dst, src, TESSARO_SCALED(rect), opacity)
+                                : BBIExpandBlt(dst, src, TESSARO_SCALED(rect), opacity);
     if (weight != 256)
-      return choice.by_alpha ? BBIFlipBlend(dst, src, TESSARO_UNSCALED(rect), opacity)
-                             : BBIFlip(dst, src, TESSARO_UNSCALED(rect), opacity);
-    return choice.by_alpha ? BBIBltBlend(dst, src, TESSARO_UNSCALED(rect), 0)
-                           : BBIBlt(dst, src, TESSARO_UNSCALED(rect));
+      return treatment.by_alpha ? BBIFlipBlend(dst, src, TESSARO_UNSCALED(rect), opacity)
+                                : BBIFlip(dst, src, TESSARO_UNSCALED(rect), opacity);
+    return treatment.by_alpha ? BBIBltBlend(dst, src, TESSARO_UNSCALED(rect), 0)
+                              : BBIBlt(dst, src, TESSARO_UNSCALED(rect));
   }
 
-  choice.saturated = saturation != 1.0f;
-  if (choice.saturated) {
+  treatment.saturated = saturation != 1.0f;
+  if (treatment.saturated) {
     if (!(saturation >= 0.0f)) saturation = 0.0f;
     if (saturation > 256.0f) saturation = 256.0f;
-    choice.saturation = trunc32(saturation * 1024.0f);
-    choice.grey = (1024 - choice.saturation) / 3;
+    treatment.saturation = trunc32(saturation * 1024.0f);
+    treatment.grey = (1024 - treatment.saturation) / 3;
   }
-  choice.levelled = level_low != 0 || level_high != 0x00FFFFFF;
+  treatment.levelled = level_low != 0 || level_high != 0x00FFFFFF;
   for (int k = 0; k < 3; ++k)
-    choice.levels[k] = level_range(level_low >> 8 * k & 255, level_high >> 8 * k & 255);
-  choice.add_color = add_color != 0;
-  choice.add_alpha = add_alpha != 0;
-  choice.source_is_base = source_is_base != 0;
+    treatment.levels[k] = level_range(level_low >> 8 * k & 255, level_high >> 8 * k & 255);
+  treatment.add_colour = add_colour != 0;
+  treatment.add_alpha = add_alpha != 0;
+  treatment.source_is_base = source_is_base != 0;
   choose();
   return status_chosen;
 }

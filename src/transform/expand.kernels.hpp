@@ -2,13 +2,13 @@
 #include "transform/expand.hpp"
 
 #include "simd/rules.hpp"
-#include "transform/stretch.hpp"
+#include "transform/sample_walk.hpp"
 
 namespace {
 
 using tessaro::AreaPair;
-using tessaro::Choice;
 using tessaro::Gradient;
+using tessaro::Treatment;
 
 // The colour of a row runs from left to right; the columns' weights come as pixels.
 template <class P>
@@ -48,14 +48,15 @@ void gradient(const Stretch& n, const Gradient& g) {
 }
 
 // Stretches low..high of each colour to 0..255: floor(255 * (v - low) / (high - low)). From above the high end it is 255
-// and up to the low end 0, except that equal ends give 255 - low at that value.
+// and up to the low end 0, except that equal ends give 255 - low at that value. Each channel is ((t << 8 | bias) * factor >>
+// 16) * shift >> 16 of its t = min(v - low, range): see LevelFactor, which is exact.
 template <class P>
 struct Levels {
   P low, range, equal_ends, bias;
   Paired<typename P::Half> factor, shift;
   bool any_equal = false;
   TESSARO_INLINE explicit Levels(const tessaro::LevelRange (&colours)[3]) {
-    // Alpha stays.
+    // Alpha stays: (t << 8) * 0x8000 >> 16 is t << 7, and that times 0x0200 >> 16 is t.
     uint32_t lows = 0, ranges = 0xFF000000, patch = 0, biases = 0, factors[] = {0, 0x80000000},
              shifts[] = {0, 0x02000000};
     for (int k = 0; k < 3; ++k) {
@@ -89,9 +90,9 @@ struct Levels {
 };
 
 template <class P>
-struct Choose {
+struct Treat {
   using H = typename P::Half;
-  const Choice c;
+  const Treatment c;
   // The mask, the inverted bits and the colour as one rule: (s & vary) ^ flip. Steps of one operation are always taken: a
   // branch costs more.
   P vary, flip, keep, from_source, added;
@@ -100,15 +101,15 @@ struct Choose {
   AlphaWeights<P> weights;
   Saturate<P> saturate;
   Levels<P> levels;
-  TESSARO_INLINE explicit Choose(const Choice& choice)
-      : c(choice),
-        vary(P::splat(c.mask | (c.invert & ~c.color))),
-        flip(P::splat((c.invert | c.color) & ~c.mask)),
+  TESSARO_INLINE explicit Treat(const Treatment& treatment)
+      : c(treatment),
+        vary(P::splat(c.mask | (c.invert & ~c.colour))),
+        flip(P::splat((c.invert | c.colour) & ~c.mask)),
         keep(P::splat(c.keep)),
         from_source(P::splat(c.source_is_base ? 0xFFFFFFFF : 0)),
-        added(P::splat((c.add_color ? 0x00FFFFFFu : 0) | (c.add_alpha ? 0xFF000000 : 0))),
-        adds(c.add_color || c.add_alpha),
-        mixes((c.by_alpha || c.weight != 256 || adds) && !(c.add_color && c.add_alpha)),
+        added(P::splat((c.add_colour ? 0x00FFFFFFu : 0) | (c.add_alpha ? 0xFF000000 : 0))),
+        adds(c.add_colour || c.add_alpha),
+        mixes((c.by_alpha || c.weight != 256) && !(c.add_colour && c.add_alpha)),
         weight(H::splat(c.weight)),
         weights(c.factor),
         saturate{c.saturation, c.grey},
@@ -129,10 +130,10 @@ struct Choose {
 
 template <class P>
 struct FillByAlpha {
-  P color;
+  P colour;
   AlphaWeights<P> weights;
-  TESSARO_INLINE FillByAlpha(uint32_t c, uint32_t factor) : color(P::splat(c)), weights(factor) {}
-  TESSARO_INLINE P operator()(P d, P s) const { return mix(d, color, weights(s)); }
+  TESSARO_INLINE FillByAlpha(uint32_t c, uint32_t factor) : colour(P::splat(c)), weights(factor) {}
+  TESSARO_INLINE P operator()(P d, P s) const { return mix(d, colour, weights(s)); }
 };
 
 }  // namespace
@@ -143,12 +144,12 @@ TESSARO_KERNELS(ExpandKernels){
     .blend = [](const Stretch& n, uint32_t factor) { stretch_short<AlphaMix>(n, factor); },
     .gradient = gradient,
     .choose =
-        [](const Stretch& n, const Choice& choice) {
-          if (choice.saturated && choice.saturation > saturation_limit)
-            stretch<One, Choose>(n, choice);
+        [](const Stretch& n, const Treatment& treatment) {
+          if (treatment.saturated && treatment.saturation > saturation_limit)
+            stretch<One, Treat>(n, treatment);
           else
-            stretch<Px, Choose>(n, choice);
+            stretch<Px, Treat>(n, treatment);
         },
-    .fill_by_alpha = [](const AreaPair& n, uint32_t color,
-                        uint32_t factor) { walk2<FillByAlpha>(n, color, factor); },
+    .fill_by_alpha = [](const AreaPair& n, uint32_t colour,
+                        uint32_t factor) { walk2<FillByAlpha>(n, colour, factor); },
 };

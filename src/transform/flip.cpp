@@ -53,17 +53,17 @@ int32_t TESSARO_CALL BBIDepthMask(ImageRecord* dst, const ImageRecord* src, int3
   return status_done;
 }
 
-int32_t TESSARO_CALL BBIFlipLineX(ImageRecord* image, int32_t x, int32_t y, int32_t length, uint32_t color) {
+int32_t TESSARO_CALL BBIFlipLineX(ImageRecord* image, int32_t x, int32_t y, int32_t length, uint32_t colour) {
   const ImageView view = ImageView::of(image);
   if (y < 0 || y >= view.height) return status_nothing;
   int64_t from = x;
   const int64_t n = cut_run(from, length, view.width);
   if (n < 1) return status_nothing;
-  kernels<BlitKernels>().fill({view.at(from, y), view.pitch, static_cast<ptrdiff_t>(n), 1}, color);
+  kernels<BlitKernels>().fill({view.at(from, y), view.pitch, static_cast<ptrdiff_t>(n), 1}, colour);
   return status_done;
 }
 
-int32_t TESSARO_CALL BBIFlipLineY(ImageRecord* image, int32_t x, int32_t y, int32_t length, uint32_t color) {
+int32_t TESSARO_CALL BBIFlipLineY(ImageRecord* image, int32_t x, int32_t y, int32_t length, uint32_t colour) {
   const ImageView view = ImageView::of(image);
   if (x < 0 || x >= view.width) return status_nothing;
   int64_t from = y;
@@ -72,8 +72,9 @@ int32_t TESSARO_CALL BBIFlipLineY(ImageRecord* image, int32_t x, int32_t y, int3
   // The step is counted in whole pixels. Where that makes it longer than a pitch toward lower addresses, the
   // line drifts to the left; it ends where the memory of the image does.
   const ptrdiff_t step = view.pitch & ~ptrdiff_t{3};
-  const uint8_t* lowest = view.pitch < 0 ? view.at(0, view.height - 1) : view.pixels;
-  for (uint8_t* at = view.at(x, from); n > 0 && at >= lowest; --n, at += step) store<uint32_t>(at, color);
+  uint8_t* lowest = view.pitch < 0 ? view.at(0, view.height - 1) : view.pixels;
+  for (ptrdiff_t at = view.at(x, from) - lowest; n > 0 && at >= 0; --n, at += step)
+    store(lowest + at, colour);
   return status_done;
 }
 

@@ -1,7 +1,5 @@
 #include "transform/linear.hpp"
 
-#include <iterator>
-
 #include "core/weights.hpp"
 #include "tessaro/tessaro.h"
 
@@ -66,62 +64,18 @@ int32_t TESSARO_CALL BBILinearBlt(ImageRecord* dst, const ImageRecord* src, int3
 int32_t TESSARO_CALL BBILinearRender(ImageRecord* dst, const ImageRecord* src, int32_t dx, int32_t dy,
                                      int32_t dw, int32_t dh, int32_t sx, int32_t sy, int32_t sw, int32_t sh,
                                      const uint32_t* table, int32_t mode, int32_t smooth,
-                                     uint32_t tint_color) {
+                                     uint32_t tint_colour) {
   ScaledBlit r = {dx, dy, dw, dh, sx, sy, sw, sh};
   if (!clip_linear(dst, src, r)) return status_nothing;
   uint32_t weights[256];  // the host's need not be aligned
   std::memcpy(weights, table, sizeof weights);
-  const Render render = {weights, mode == 1 || mode == 3, mode == 2 || mode == 3, tint_color};
+  const Render render = {weights, mode == 1 || mode == 3, mode == 2 || mode == 3, tint_colour};
   if (!smooth || is_for_nearest(r)) {
     run_stretch(ImageView::of(dst), ImageView::of(src), r,
                 [&](const Stretch& n) { kernels<LinearKernels>().render_nearest(n, render); });
     return status_done;
   }
   return interpolate(dst, src, r, [&](const Bilinear& b) { kernels<LinearKernels>().render(b, render); });
-}
-
-int32_t TESSARO_CALL BBILinearBltTest(ImageRecord* dst, const ImageRecord* src, int32_t dx, int32_t dy,
-                                      int32_t dw, int32_t dh, int32_t sx, int32_t sy, int32_t sw,
-                                      int32_t sh) {
-  ScaledBlit r = {dx, dy, dw, dh, sx, sy, sw, sh};
-  if (!clip_linear(dst, src, r)) return status_nothing;
-  static constexpr struct {
-    int8_t x, y;
-  } taps[] = {{0, 0},   {1, 0},  {0, -1}, {-1, 0}, {0, 1},   {1, -1}, {-1, -1},
-              {-1, 1},  {1, 1},  {2, 0},  {0, -2}, {-2, 0},  {0, 2},  {2, -1},
-              {-1, -2}, {-2, 1}, {1, 2},  {1, -2}, {-2, -1}, {-1, 2}, {2, 1}};
-  constexpr int64_t last_tap = std::size(taps) - 1;
-  const ImageView d = ImageView::of(dst);
-  ImageView s = ImageView::of(src);
-  s.pitch = s.pitch / 4 * 4;
-  const int64_t wanted = (r.sw / r.dw + r.sh / r.dh + 5) & ~int64_t{3};
-  const auto count = static_cast<size_t>(wanted < last_tap ? wanted : last_tap) + 1;
-  // The sizes serve as limits of the neighbours' coordinates, and the first column and row never take part.
-  const auto within = [](int64_t at, int64_t first, int64_t limit) { return at > first && at < limit; };
-  for (int64_t i = 0; i < r.dh; ++i) {
-    const int64_t row = r.sy + i * r.sh / r.dh;
-    struct {
-      int64_t x;
-      const uint8_t* pixels;
-    } used[last_tap + 1];
-    size_t rows = 0;
-    for (size_t tap = 0; tap < count; ++tap)
-      if (const int64_t y = row + taps[tap].y; within(y, r.sy, r.sh))
-        used[rows++] = {taps[tap].x, s.at(0, y)};
-    int64_t column = r.sx, error = 0;
-    for (int64_t j = 0; j < r.dw; ++j, error += r.sw) {
-      for (; error >= r.dw; error -= r.dw) ++column;
-      uint32_t v = s.get(column, row);
-      for (size_t k = 0; k < rows; ++k) {
-        const int64_t x = column + used[k].x;
-        if (!within(x, r.sx, r.sw)) continue;
-        const auto p = load<uint32_t>(used[k].pixels + 4 * static_cast<ptrdiff_t>(x));
-        v = (v & p) + ((v ^ p) >> 1 & 0x7F7F7F7F);
-      }
-      d.set(r.dx + j, r.dy + i, v);
-    }
-  }
-  return status_done;
 }
 
 }  // extern "C"

@@ -4,7 +4,7 @@
 #include <cstdint>
 
 #include "simd/dispatch.hpp"
-#include "transform/expand.hpp"
+#include "transform/stretch.hpp"
 
 namespace tessaro {
 

@@ -2,7 +2,7 @@
 #include "transform/linear.hpp"
 
 #include "simd/rules.hpp"
-#include "transform/stretch.hpp"
+#include "transform/sample_walk.hpp"
 
 namespace {
 
@@ -33,68 +33,60 @@ struct Between {
 };
 
 template <class P>
-struct Neighbours {
+struct Sides {
   P left, right;
 };
 
-#ifdef TESSARO_PERMUTES
-template <int vectors>
-TESSARO_INLINE Neighbours<Px> neighbours(const uint8_t* src, int32_t sw, int32_t base, Px where) {
+// The pixels at the columns `where`, the first of which is `base`, and those after them: from one or two vectors of the
+// source that hold them all, or, without vectors, from wherever they lie.
+template <class P, int vectors>
+TESSARO_INLINE Sides<P> sides_at(const uint8_t* src, int32_t sw, int32_t base, P where) {
+  if constexpr (vectors == 0) return {gather(src, where), gather(src + 4, where)};
   const uint8_t* at = src + 4 * static_cast<ptrdiff_t>(base);
-  const Px in = load_some(at, sw - base);
-  const Px place = minus(where, Px::splat(static_cast<uint32_t>(base)));
-  const Px next = minus(place, Px::splat(0xFFFFFFFF));
-  if constexpr (vectors == 1) return {permuted(in, place), permuted(in, next)};
-  const Px more = load_some(at + 4 * Px::lanes, sw - base - static_cast<int32_t>(Px::lanes));
-  return {permuted(in, more, place), permuted(in, more, next)};
-}
-#if defined(__AVX512F__)
-TESSARO_INLINE Px gathered(const uint8_t* src, Px where) { return {_mm512_i32gather_epi32(where.v, src, 4)}; }
-#else
-TESSARO_INLINE Px gathered(const uint8_t* src, Px where) {
-  return {_mm256_i32gather_epi32(reinterpret_cast<const int*>(src), where.v, 4)};
-}
-#endif
-template <>
-TESSARO_INLINE Neighbours<Px> neighbours<0>(const uint8_t* src, int32_t, int32_t, Px where) {
-  return {gathered(src, where), gathered(src + 4, where)};
+  const P in = load_within<P>(at, sw - base);
+  const P place = sub32(where, P::splat(static_cast<uint32_t>(base)));
+  const P next = add32(place, P::splat(1));
+  if constexpr (vectors == 1) return {picked(in, place), picked(in, next)};
+  const P more = load_within<P>(at + 4 * P::lanes, sw - base - static_cast<int32_t>(P::lanes));
+  return {picked(in, more, place), picked(in, more, next)};
 }
 
-template <int vectors>
+template <class P, int vectors>
 TESSARO_INLINE void interpolate_within(uint32_t* out, const uint8_t* src, const Bilinear& b,
                                        ptrdiff_t ahead) {
   const auto width = static_cast<size_t>(b.area.dw);
   const uint32_t *columns = b.room, *weights = b.room + width;
-  const auto between = [&](size_t x, Px where, Px weight) {
+  const auto between = [&](size_t x, P where, P weight) {
     prefetch<vectors == 0 ? 4 : 2>(src + 4 * static_cast<size_t>(columns[x]), ahead);
-    const Neighbours<Px> n = neighbours<vectors>(src, b.area.sw, static_cast<int32_t>(columns[x]), where);
+    const auto n = sides_at<P, vectors>(src, b.area.sw, static_cast<int32_t>(columns[x]), where);
     return mix(n.left, n.right, halves(weight));
   };
   size_t x = 0;
-  for (; x + Px::lanes <= width; x += Px::lanes)
-    between(x, Px::load(columns + x), Px::load(weights + x)).store(out + x);
+  for (; x + P::lanes <= width; x += P::lanes)
+    between(x, P::load(columns + x), P::load(weights + x)).store(out + x);
   if (const size_t rest = width - x)
-    between(x, Px::load(columns + x, rest), Px::load(weights + x, rest)).store(out + x, rest);
+    between(x, P::load(columns + x, rest), P::load(weights + x, rest)).store(out + x, rest);
 }
-#endif
 
 // One row of the source at the destination's columns; the row that is wanted next lies `ahead`.
+template <class P>
 TESSARO_INLINE void interpolate(uint32_t* out, const uint8_t* src, const Bilinear& b,
                                 [[maybe_unused]] ptrdiff_t ahead) {
-#ifdef TESSARO_PERMUTES
-  // Where the neighbours of a vector lie within one or two vectors of the source, they are loads and permutations.
-  const int32_t span = ((static_cast<int32_t>(Px::lanes) - 1) * b.x.step >> 12) + 3;
-  if (span <= static_cast<int32_t>(Px::lanes)) return interpolate_within<1>(out, src, b, ahead);
-  if (span <= static_cast<int32_t>(2 * Px::lanes)) return interpolate_within<2>(out, src, b, ahead);
-  return interpolate_within<0>(out, src, b, ahead);
-#else
+  if constexpr (P::permutes) {
+    // Where the neighbours of a vector lie within one or two vectors of the source, they are loads and permutations: from
+    // the first to the last, whose positions are lanes - 1 steps apart, rounding adds a pixel, and the neighbour one more.
+    constexpr auto lanes = static_cast<int32_t>(P::lanes);
+    const int32_t span = ((lanes - 1) * b.x.step >> 12) + 3;
+    if (span <= lanes) return interpolate_within<P, 1>(out, src, b, ahead);
+    if (span <= 2 * lanes) return interpolate_within<P, 2>(out, src, b, ahead);
+    return interpolate_within<P, 0>(out, src, b, ahead);
+  }
   const auto width = static_cast<size_t>(b.area.dw);
   const uint32_t *columns = b.room, *weights = b.room + width;
   for (size_t x = 0; x < width; ++x) {
     const uint8_t* at = src + 4 * static_cast<ptrdiff_t>(columns[x]);
     mix(One::load(at), One::load(at + 4), One::Half{weights[x]}).store(out + x);
   }
-#endif
 }
 
 template <template <class> class Rule, class... Args>
@@ -125,14 +117,14 @@ TESSARO_INLINE void bilinear(const Bilinear& b, const Args&... args) {
     b.room[width + static_cast<size_t>(j)] = b.x.weight(j) * 0x10001;
   }
   // Rows are interpolated once and kept while they are needed.
-  struct Kept {
+  struct SourceRow {
     uint32_t* pixels;
     int32_t row;
   };
-  Kept upper = {b.room + 2 * width, -1}, lower = {b.room + 3 * width, -1};
-  const auto fill = [&](Kept& kept, int32_t row, int32_t next) {
-    if (kept.row != row) interpolate(kept.pixels, row_of(row), b, (next - row) * n.src_pitch);
-    kept.row = row;
+  SourceRow upper = {b.room + 2 * width, -1}, lower = {b.room + 3 * width, -1};
+  const auto fill = [&](SourceRow& to, int32_t row, int32_t next) {
+    if (to.row != row) interpolate<Px>(to.pixels, row_of(row), b, (next - row) * n.src_pitch);
+    to.row = row;
   };
   const Rule<Px> rule{args...};
   const RowWriter write(n.dw, n.dh);
@@ -141,7 +133,7 @@ TESSARO_INLINE void bilinear(const Bilinear& b, const Args&... args) {
   for (int32_t i = 0; i < n.dh; ++i, dst += n.dst_pitch) {
     const int32_t row = b.y.pixel(i);
     if (upper.row != row && lower.row == row) {
-      const Kept t = upper;
+      const SourceRow t = upper;
       upper = lower;
       lower = t;
     }

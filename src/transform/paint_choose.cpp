@@ -103,7 +103,7 @@ void each_run(const ImageView& image, uint32_t key, F f) {
   }
 }
 
-int32_t remove_small_regions(const ImageView& image, uint32_t color, uint32_t key, int32_t limit) {
+int32_t remove_small_regions(const ImageView& image, uint32_t colour, uint32_t key, int32_t limit) {
   size_t count = 0;
   each_run(image, key, [&](int32_t, int32_t, int32_t) { ++count; });
   HeapArray<Run> memory(count);
@@ -129,7 +129,7 @@ int32_t remove_small_regions(const ImageView& image, uint32_t color, uint32_t ke
     const uint32_t root = root_of(runs, i);
     if (int64_t{runs[root].size} > limit) continue;
     painted += root == i;
-    for (int32_t x = runs[i].first; x < runs[i].end; ++x) image.set(x, runs[i].y, color);
+    for (int32_t x = runs[i].first; x < runs[i].end; ++x) image.set(x, runs[i].y, colour);
   }
   return painted;
 }
@@ -271,50 +271,50 @@ int32_t fill_grey(const ImageView& image, uint32_t lowest, uint32_t highest) {
   return static_cast<int32_t>(left);
 }
 
-int32_t paint_non_grey(const ImageView& image, uint32_t color) {
+int32_t paint_non_grey(const ImageView& image, uint32_t colour) {
   int32_t changed = 0;
   recolour(image, [&](uint32_t c) {
     const bool grey = is_grey(c);
     changed += !grey;
-    return grey ? c : color;
+    return grey ? c : colour;
   });
   return changed;
 }
 
 }  // namespace
 
-extern "C" int32_t TESSARO_CALL BBIPaintChoose(ImageRecord* record, uint32_t op, uint32_t color, uint32_t key,
-                                               uint32_t x, uint32_t y) {
+extern "C" int32_t TESSARO_CALL BBIPaintChoose(ImageRecord* record, uint32_t op, uint32_t colour,
+                                               uint32_t key, uint32_t x, uint32_t y) {
   const ImageView image = ImageView::of(record);
   if (image.width < 1 || image.height < 1) return 0;
   switch (op) {
     case 0:
-      recolour(image, [=](uint32_t c) { return c == key ? color : c; });
+      recolour(image, [=](uint32_t c) { return c == key ? colour : c; });
       return 0;
     case 1:
-      recolour(image, [=](uint32_t c) { return c != key ? color : c; });
+      recolour(image, [=](uint32_t c) { return c != key ? colour : c; });
       return 0;
     case 2:
-      outline(image, key, {true, true, true, color, x, y});
+      outline(image, key, {true, true, true, colour, x, y});
       return 0;
     case 3:
-      outline(image, key, {false, false, true, 0, 0, color});
+      outline(image, key, {false, false, true, 0, 0, colour});
       return 0;
     case 4:
-      outline(image, key, {false, true, false, 0, color, 0});
+      outline(image, key, {false, true, false, 0, colour, 0});
       return 0;
     case 5:
-      return remove_small_regions(image, color, key, static_cast<int32_t>(x));
+      return remove_small_regions(image, colour, key, static_cast<int32_t>(x));
     case 6:
-      return fill_key(image, color, key, majority);
+      return fill_key(image, colour, key, majority);
     case 7:
-      return fill_grey(image, color & 255, key & 255);
+      return fill_grey(image, colour & 255, key & 255);
     case 8:
-      return paint_non_grey(image, color);
+      return paint_non_grey(image, colour);
     case 9:
-      return fill_key(image, color, key, average);
+      return fill_key(image, colour, key, average);
     case 10:
-      recolour(image, [=](uint32_t c) { return (c & x) == key ? color : c; });
+      recolour(image, [=](uint32_t c) { return (c & x) == key ? colour : c; });
       return 0;
     default:
       return 0;

@@ -1,3 +1,4 @@
+// Colours cut down to few, and alphas and channels taken from elsewhere.
 #include "transform/reduce.hpp"
 
 #include "tessaro/tessaro.h"
@@ -48,7 +49,7 @@ constexpr int32_t from_destination = 2, other_kind = 1;  // bits of the selector
 
 // Products of a byte and a single-precision weight, and their sums, are exact in doubles; with weights that are multiples
 // of 2 to the -29 they are so in integers too. Other weights are rounded up.
-IntegerWeights integer_weights(double green, double blue, double red) {
+IntegerWeights integer_weights(const Weights& weights) {
   IntegerWeights w{};
   w.usable = true;
   const auto put = [&w](double weight, uint32_t& upper, uint32_t& lower, int at) {
@@ -62,28 +63,23 @@ IntegerWeights integer_weights(double green, double blue, double red) {
     upper |= units >> 15 << at;
     lower |= (units & 0x7FFF) << at;
   };
-  put(green, w.upper_odd, w.lower_odd, 0);
-  put(blue, w.upper_even, w.lower_even, 0);
-  put(red, w.upper_even, w.lower_even, 16);
+  put(weights.green, w.upper_odd, w.lower_odd, 0);
+  put(weights.blue, w.upper_even, w.lower_even, 0);
+  put(weights.red, w.upper_even, w.lower_even, 16);
   return w;
 }
 
 int32_t choose(ImageRecord* dst, const ImageRecord* src, int32_t colour_from, int32_t alpha_from,
-               AlphaFrom brightness, double green = 0, double blue = 0, double red = 0,
-               bool may_round_up = false) {
+               AlphaFrom brightness, const Weights& weights = {}, bool may_round_up = false) {
   AreaPair n;
   if (!clip_common(dst, src, n)) return status_nothing;
-  Choice choice{(colour_from & other_kind) != 0,
-                alpha_from & other_kind ? AlphaFrom::alpha : brightness,
-                green,
-                blue,
-                red,
-                integer_weights(green, blue, red)};
-  choice.integer.usable &= may_round_up || !choice.integer.rounded_up;
+  Assembly assembly{(colour_from & other_kind) != 0, alpha_from & other_kind ? AlphaFrom::alpha : brightness,
+                    weights, integer_weights(weights)};
+  assembly.integer.usable &= may_round_up || !assembly.integer.rounded_up;
   const ReduceKernels& k = kernels<ReduceKernels>();
   for (; n.height > 0; --n.height, n.dst += n.dst_pitch, n.src += n.src_pitch) {
     const auto row = [&](int32_t from) { return from & from_destination ? n.dst : n.src; };
-    k.choose({n.dst, row(colour_from), row(alpha_from)}, static_cast<size_t>(n.width), choice);
+    k.choose({n.dst, row(colour_from), row(alpha_from)}, static_cast<size_t>(n.width), assembly);
   }
   return status_done;
 }
@@ -102,25 +98,27 @@ int32_t TESSARO_CALL BBIColorCutDown1111(ImageRecord* image) {
   return cut_down(image, matrix_1111, 8, 63, kernels<ReduceKernels>().to_1111);
 }
 
-int32_t TESSARO_CALL BBIChooseCA(ImageRecord* dst, const ImageRecord* src, int32_t colorFrom,
-                                 int32_t alphaFrom) {
-  return choose(dst, src, colorFrom, alphaFrom, AlphaFrom::mean);
+int32_t TESSARO_CALL BBIChooseCA(ImageRecord* dst, const ImageRecord* src, int32_t colour_from,
+                                 int32_t alpha_from) {
+  return choose(dst, src, colour_from, alpha_from, AlphaFrom::mean);
 }
-int32_t TESSARO_CALL BBIChooseCATR(ImageRecord* dst, const ImageRecord* src, int32_t colorFrom,
-                                   int32_t alphaFrom) {
-  return choose(dst, src, colorFrom, alphaFrom, AlphaFrom::weights, 0.7154, 0.0721, 0.2125, true);
+int32_t TESSARO_CALL BBIChooseCATR(ImageRecord* dst, const ImageRecord* src, int32_t colour_from,
+                                   int32_t alpha_from) {
+  return choose(dst, src, colour_from, alpha_from, AlphaFrom::weights, luma, true);
 }
-int32_t TESSARO_CALL BBIChooseCATS(ImageRecord* dst, const ImageRecord* src, int32_t colorFrom,
-                                   int32_t alphaFrom, float redWeight, float greenWeight, float blueWeight) {
-  return choose(dst, src, colorFrom, alphaFrom, AlphaFrom::weights, static_cast<double>(greenWeight),
-                static_cast<double>(blueWeight), static_cast<double>(redWeight));
+int32_t TESSARO_CALL BBIChooseCATS(ImageRecord* dst, const ImageRecord* src, int32_t colour_from,
+                                   int32_t alpha_from, float red_weight, float green_weight,
+                                   float blue_weight) {
+  return choose(
+      dst, src, colour_from, alpha_from, AlphaFrom::weights,
+      {static_cast<double>(green_weight), static_cast<double>(blue_weight), static_cast<double>(red_weight)});
 }
 
-int32_t TESSARO_CALL BBIChooseRGBA(ImageRecord* dst, const ImageRecord* src, int32_t redFrom,
-                                   int32_t greenFrom, int32_t blueFrom, int32_t alphaFrom) {
+int32_t TESSARO_CALL BBIChooseRGBA(ImageRecord* dst, const ImageRecord* src, int32_t red_from,
+                                   int32_t green_from, int32_t blue_from, int32_t alpha_from) {
   AreaPair n;
   if (!clip_common(dst, src, n)) return status_nothing;
-  const int32_t selectors[] = {blueFrom, greenFrom, redFrom, alphaFrom};
+  const int32_t selectors[] = {blue_from, green_from, red_from, alpha_from};
   constexpr int byte_of[] = {2, 1, 0, 3};  // selectors count red, green, blue, alpha
   Routing routing{};
   for (int i = 0; i < 4; ++i) {

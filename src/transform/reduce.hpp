@@ -20,6 +20,11 @@ struct ChooseRows {
   const uint8_t* alpha;
 };
 enum class AlphaFrom { alpha, mean, weights };
+// Of the colours in a brightness, and those that are fixed.
+struct Weights {
+  double green, blue, red;
+};
+inline constexpr Weights luma = {0.7154, 0.0721, 0.2125};
 // Weights in units of 2 to the -29, below 2: the upper 15 bits and the lower 15, blue's and red's, green's and alpha's in
 // two halves of a word.
 struct IntegerWeights {
@@ -27,10 +32,11 @@ struct IntegerWeights {
   bool rounded_up;  // but where the sum is a whole number or hardly more
   uint32_t upper_even, upper_odd, lower_even, lower_odd;
 };
-struct Choice {
+// How a pixel is put together from one pixel for its colour and one for its alpha.
+struct Assembly {
   bool grey;  // the colour is the alpha of its pixel
   AlphaFrom alpha;
-  double green, blue, red;  // for AlphaFrom::weights
+  Weights weights;  // for AlphaFrom::weights
   IntegerWeights integer;
 };
 // For each output byte, blue first: the image and the byte of its pixel.
@@ -43,7 +49,7 @@ struct ReduceKernels {
   void (*to_1555)(uint8_t* row, size_t width, const DitherRow&);
   void (*to_4444)(uint8_t* row, size_t width, const DitherRow&);
   void (*to_1111)(uint8_t* row, size_t width, const DitherRow&);
-  void (*choose)(ChooseRows, size_t width, const Choice&);
+  void (*choose)(ChooseRows, size_t width, const Assembly&);
   void (*route)(const AreaPair&, const Routing&);
 };
 TESSARO_DECLARE_KERNELS(ReduceKernels);

@@ -1,271 +1,49 @@
-// The nearest-sample walk for kernels: which source row and column come next, and the loops that bring samples to a rule.
+// A source area stretched onto a destination area: the clipped call that exports make and kernels walk.
 #pragma once
 
-#include "simd/rows.hpp"
-#include "transform/expand.hpp"
+#include <cstdint>
 
-namespace {
+#include "core/clip.hpp"
+#include "core/heap.hpp"
 
-using tessaro::Stretch;
+namespace tessaro {
 
-// Walks floor(i * from / to) without a division a step.
-struct Steps {
-  int32_t whole, rest, to;
-  int32_t at = 0, error = 0;
-  TESSARO_INLINE Steps(int32_t from, int32_t onto) : whole(from / onto), rest(from % onto), to(onto) {}
-  TESSARO_INLINE void next() {
-    at += whole;
-    error += rest;
-    if (error >= to) {
-      error -= to;
-      ++at;
-    }
-  }
+// A source area stretched onto a destination area. Destination pixel (j, i) shows source pixel
+// (floor(j * sw / dw), floor(i * sh / dh)).
+struct Stretch {
+  uint8_t* dst;
+  ptrdiff_t dst_pitch;
+  const uint8_t* src;
+  ptrdiff_t src_pitch;
+  int32_t dw, dh, sw, sh;
+  // The areas have bytes in common, or rows of the destination run into one another: one pixel after another.
+  bool shared;
+  // Room for columns_room(dw) numbers: the source columns. Null where there is none, and where none is of use: areas share
+  // memory, or columns stand one below the other.
+  int32_t* columns;
 };
 
-#if defined(__AVX512F__)
-TESSARO_INLINE Px permuted(Px in, Px where) { return {_mm512_permutexvar_epi32(where.v, in.v)}; }
-TESSARO_INLINE Px permuted(Px in, Px more, Px where) {
-  return {_mm512_permutex2var_epi32(in.v, where.v, more.v)};
-}
-TESSARO_INLINE Px minus(Px a, Px b) { return {_mm512_sub_epi32(a.v, b.v)}; }
-#define TESSARO_PERMUTES
-#elif defined(__AVX2__)
-TESSARO_INLINE Px permuted(Px in, Px where) { return {_mm256_permutevar8x32_epi32(in.v, where.v)}; }
-TESSARO_INLINE Px permuted(Px in, Px more, Px where) {
-  // Bit 3 of a place chooses the second eight.
-  return {_mm256_castps_si256(_mm256_blendv_ps(_mm256_castsi256_ps(permuted(in, where).v),
-                                               _mm256_castsi256_ps(permuted(more, where).v),
-                                               _mm256_castsi256_ps(_mm256_slli_epi32(where.v, 28))))};
-}
-TESSARO_INLINE Px minus(Px a, Px b) { return {_mm256_sub_epi32(a.v, b.v)}; }
-#define TESSARO_PERMUTES
-#endif
+// The clip and the size checks of every stretched blit. Leaves the clipped rectangles in `rect`; false when nothing is to
+// be drawn.
+bool clip_stretch(const ImageView& dst, const ImageView& src, ScaledBlit& rect);
 
-#ifdef TESSARO_PERMUTES
-// count may be anything; reads nothing where it is not positive.
-TESSARO_INLINE Px load_some(const uint8_t* at, int32_t count) {
-  constexpr auto lanes = static_cast<int32_t>(Px::lanes);
-  return count >= lanes ? Px::load(at) : Px::load(at, count > 0 ? static_cast<size_t>(count) : 0);
+// The clipped call, its columns to be given room.
+Stretch stretch_of(const ImageView& dst, const ImageView& src, const ScaledBlit& rect);
+// A column for each pixel, and one for each vector of at least eight; and what it takes to start on a line of the cache,
+// without which every vector of columns would be read from two. Small rectangles stay off the heap.
+inline size_t columns_room(int32_t dw) { return static_cast<size_t>(dw) + static_cast<size_t>(dw) / 8 + 16; }
+using Columns = ScratchArray<int32_t, 256>;
+inline int32_t* aligned_columns(Columns& columns) {
+  return columns ? columns.data() + -reinterpret_cast<uintptr_t>(columns.data()) / 4 % 16 : nullptr;
+}
+// Gives a clipped call room for its columns, where they are of use, and runs it.
+template <class Run>
+void run_stretch(const ImageView& dst, const ImageView& src, const ScaledBlit& rect, Run run) {
+  Stretch n = stretch_of(dst, src, rect);
+  const bool of_use = n.dw != n.sw && !n.shared;
+  Columns columns(of_use ? columns_room(n.dw) : 0);
+  if (of_use) n.columns = aligned_columns(columns);
+  run(n);
 }
 
-// So many lines that a vector reads, in the row that is wanted next: the processor's own guesses end with the page and run
-// on into rows that are left out.
-template <int lines>
-TESSARO_INLINE void prefetch(const uint8_t* at, ptrdiff_t ahead) {
-  // It may lie outside the image.
-  const auto place = reinterpret_cast<uintptr_t>(at) + static_cast<uintptr_t>(ahead);
-  for (uintptr_t k = 0; k < lines; ++k)
-    __builtin_prefetch(reinterpret_cast<const void*>(place + 64 * k), 0, 2);
-}
-
-// A few vectors of a source row, from which pixels are picked by their places.
-template <int count>
-struct Loaded {
-  Px in[count];
-  TESSARO_INLINE explicit Loaded(const uint8_t* at) {
-    for (int k = 0; k < count; ++k) in[k] = Px::load(at + 4 * Px::lanes * static_cast<size_t>(k));
-  }
-  TESSARO_INLINE Loaded(const uint8_t* at, int32_t width) {
-    constexpr auto lanes = static_cast<int32_t>(Px::lanes);
-    for (int k = 0; k < count; ++k) in[k] = load_some(at + 4 * lanes * k, width - lanes * k);
-  }
-  TESSARO_INLINE Px operator[](Px place) const {
-    if constexpr (count == 1) return permuted(in[0], place);
-    if constexpr (count == 2) return permuted(in[0], in[1], place);
-    if constexpr (count == 4)
-      return select(above(place, Px::splat(2 * Px::lanes - 1)), permuted(in[2], in[3], place),
-                    permuted(in[0], in[1], place));
-  }
-};
-#endif
-
-// The source columns of a call, made once.
-struct ColumnMap {
-  // So many vectors of the source hold the samples of a vector: loads and permutations. 0: one pixel at a time.
-  int vectors = 0;
-  bool whole_row = false;  // they hold all of a row that is shorter
-  int32_t sw;
-  const int32_t *columns, *bases;  // columns count from the base of their vector, where there are any
-  TESSARO_INLINE explicit ColumnMap(const Stretch& n)
-      : sw(n.sw), columns(n.columns), bases(n.columns + n.dw) {
-    Steps column(n.sw, n.dw);
-    [[maybe_unused]] const bool even_steps = column.rest == 0;
-    for (int32_t j = 0; j < n.dw; ++j, column.next()) n.columns[j] = column.at;
-#ifdef TESSARO_PERMUTES
-    constexpr auto lanes = static_cast<int32_t>(Px::lanes);
-    int64_t span = n.sw;
-    if (n.sw > lanes) {
-      const int64_t reach = static_cast<int64_t>(lanes - 1) * n.sw / n.dw + (even_steps ? 1 : 2);
-      if (reach < span) span = reach;
-    }
-    vectors = span <= lanes ? 1 : span <= 2 * lanes ? 2 : span <= 4 * lanes ? 4 : 0;
-    whole_row = n.sw <= vectors * lanes;
-    if (vectors == 0 || whole_row) return;
-    const int32_t last_base = n.sw - vectors * lanes;
-    for (int32_t j = 0, k = n.dw; j < n.dw; j += lanes, ++k) {
-      int32_t* at = n.columns + j;
-      const int32_t base = *at < last_base ? *at : last_base;
-      n.columns[k] = base;
-      const Px from = Px::splat(static_cast<uint32_t>(base));
-      if (n.dw - j >= lanes)
-        minus(Px::load(at), from).store(at);
-      else
-        minus(Px::load(at, static_cast<size_t>(n.dw - j)), from).store(at, static_cast<size_t>(n.dw - j));
-    }
-#endif
-  }
-#ifdef TESSARO_PERMUTES
-  // dst[x] = rule(dst[x], sample[from + x]), where there are vectors; `from` is a multiple of every vector. The row that is
-  // wanted next lies `ahead`.
-  template <bool fetches_ahead = false, class Rule>
-  TESSARO_INLINE void row(uint8_t* dst, const uint8_t* src, size_t from, size_t width, const Rule& rule,
-                          ptrdiff_t ahead = 0) const {
-    if (vectors == 1)
-      row_of<1, fetches_ahead>(dst, src, from, width, rule, ahead);
-    else if (vectors == 2)
-      row_of<2, fetches_ahead>(dst, src, from, width, rule, ahead);
-    else
-      row_of<4, fetches_ahead>(dst, src, from, width, rule, ahead);
-  }
-  template <int count, bool fetches_ahead, class Rule>
-  TESSARO_INLINE void row_of(uint8_t* dst, const uint8_t* src, size_t from, size_t width, const Rule& rule,
-                             [[maybe_unused]] ptrdiff_t ahead) const {
-    if (whole_row) {
-      const Loaded<count> row(src, sw);
-      pick(dst, from, width, rule, [&](size_t) { return row; });
-    } else {
-      pick(dst, from, width, rule, [&](size_t x) {
-        const uint8_t* at = src + 4 * static_cast<ptrdiff_t>(bases[(from + x) / Px::lanes]);
-        if constexpr (fetches_ahead) prefetch<count>(at, ahead);
-        return Loaded<count>(at);
-      });
-    }
-  }
-  template <class Rule, class Load>
-  TESSARO_INLINE void pick(uint8_t* dst, size_t from, size_t width, const Rule& rule,
-                           const Load& loaded) const {
-    size_t x = 0;
-    for (; x + Px::lanes <= width; x += Px::lanes)
-      rule(Px::load(dst + 4 * x), loaded(x)[Px::load(columns + from + x)]).store(dst + 4 * x);
-    if (const size_t rest = width - x)
-      rule(Px::load(dst + 4 * x, rest), loaded(x)[Px::load(columns + from + x, rest)])
-          .store(dst + 4 * x, rest);
-  }
-#endif
-  // out[x] = sample[from + x]
-  template <bool fetches_ahead = false>
-  TESSARO_INLINE void sample(uint8_t* out, const uint8_t* src, size_t from, size_t width,
-                             [[maybe_unused]] ptrdiff_t ahead = 0) const {
-#ifdef TESSARO_PERMUTES
-    if (vectors != 0) return row<fetches_ahead>(out, src, from, width, Replace<Px>{}, ahead);
-#endif
-    for (size_t x = 0; x < width; ++x)
-      One::load(src + 4 * static_cast<ptrdiff_t>(columns[from + x])).store(out + 4 * x);
-  }
-};
-
-inline constexpr int32_t part_width = 1024;  // pixels; stays in the first cache
-
-// Calls body<P>(dst, src, x, width, i) for every part of every destination row, top to bottom: width pixels from column x
-// of row i, their destination and their samples. P is One where a row reads what it writes.
-template <class V, class Body>
-TESSARO_INLINE void for_samples(const Stretch& n, const Body& body) {
-  Steps row(n.sh, n.dh);
-  uint8_t* dst = n.dst;
-  if (n.dw == n.sw) {
-    for (int32_t i = 0; i < n.dh; ++i, row.next(), dst += n.dst_pitch) {
-      const uint8_t* src = n.src + row.at * n.src_pitch;
-      if (reads_own_writes(dst, src, 4 * V::lanes)) [[unlikely]]
-        body.template operator()<One>(dst, src, 0, n.dw, i);
-      else
-        body.template operator()<V>(dst, src, 0, n.dw, i);
-    }
-  } else if (n.shared || !n.columns) {
-    for (int32_t i = 0; i < n.dh; ++i, row.next(), dst += n.dst_pitch) {
-      const uint8_t* src = n.src + row.at * n.src_pitch;
-      Steps column(n.sw, n.dw);
-      for (int32_t j = 0; j < n.dw; ++j, column.next())
-        body.template operator()<One>(dst + 4 * static_cast<ptrdiff_t>(j),
-                                      src + 4 * static_cast<ptrdiff_t>(column.at), j, 1, i);
-    }
-  } else {
-    const ColumnMap columns(n);
-    alignas(64) uint8_t samples[4 * part_width];
-    for (int32_t i = 0; i < n.dh;) {
-      const uint8_t* src = n.src + row.at * n.src_pitch;
-      const int32_t from = i, at = row.at;
-      for (; i < n.dh && row.at == at; ++i) row.next();
-      const ptrdiff_t ahead = (row.at - at) * n.src_pitch;
-      for (int32_t x = 0; x < n.dw; x += part_width) {
-        const int32_t width = n.dw - x < part_width ? n.dw - x : part_width;
-        columns.sample<true>(samples, src, static_cast<size_t>(x), static_cast<size_t>(width), ahead);
-        dst = n.dst + from * n.dst_pitch + 4 * static_cast<ptrdiff_t>(x);
-        for (int32_t k = from; k < i; ++k, dst += n.dst_pitch)
-          body.template operator()<V>(dst, samples, x, width, k);
-      }
-    }
-  }
-}
-
-// Rows by a rule. Inlined, or the rule would be read from memory for every vector: the pixels might be written over it.
-template <class V, template <class> class Rule>
-struct RowsByRule {
-  Rule<V> rule;
-  Rule<One> one;
-  template <class P>
-  TESSARO_INLINE void operator()(uint8_t* dst, const uint8_t* src, int32_t, int32_t width, int32_t) const {
-    if constexpr (std::same_as<P, V>)
-      row2<P>(dst, src, static_cast<size_t>(width), rule);
-    else
-      row2<P>(dst, src, static_cast<size_t>(width), one);
-  }
-};
-
-// dst[x] = rule(dst[x], sample[x])
-template <class V, template <class> class Rule, class... Args>
-TESSARO_INLINE void stretch(const Stretch& n, const Args&... args) {
-  for_samples<V>(n, RowsByRule<V, Rule>{Rule<V>{args...}, Rule<One>{args...}});
-}
-
-// The same for short rules, which are worth the samples' way through registers.
-template <template <class> class Rule, class... Args>
-TESSARO_INLINE void stretch_short(const Stretch& n, const Args&... args) {
-#ifdef TESSARO_PERMUTES
-  // The samples of rows that are shown often are better kept.
-  if (n.dw != n.sw && !n.shared && n.columns && n.dh < 2 * static_cast<int64_t>(n.sh)) {
-    if (const ColumnMap columns(n); columns.vectors != 0) {
-      const Rule<Px> rule{args...};
-      Steps row(n.sh, n.dh);
-      uint8_t* dst = n.dst;
-      for (int32_t i = 0; i < n.dh; ++i, row.next(), dst += n.dst_pitch)
-        columns.row(dst, n.src + row.at * n.src_pitch, 0, static_cast<size_t>(n.dw), rule);
-      return;
-    }
-  }
-#endif
-  stretch<Px, Rule>(n, args...);
-}
-
-TESSARO_INLINE void stretch_copy(const Stretch& n) {
-  if (n.dw == n.sw || n.shared || !n.columns) return stretch<Px, Replace>(n);
-  const RowWriter write(n.dw, n.dh);
-  if (write.passes_caches())
-    return for_samples<Px>(n, [&]<class P>(uint8_t* dst, const uint8_t* src, int32_t, int32_t width,
-                                           int32_t) { write(dst, src, static_cast<size_t>(width)); });
-  // In the caches, rows that show the same source row are copies of the first.
-  const ColumnMap columns(n);
-  const auto width = static_cast<size_t>(n.dw);
-  Steps row(n.sh, n.dh);
-  uint8_t* dst = n.dst;
-  int32_t shown = -1;
-  for (int32_t i = 0; i < n.dh; ++i, row.next(), dst += n.dst_pitch) {
-    if (row.at == shown)
-      write(dst, dst - n.dst_pitch, width);
-    else
-      columns.sample(dst, n.src + row.at * n.src_pitch, 0, width);
-    shown = row.at;
-  }
-}
-
-}  // namespace
+}  // namespace tessaro

@@ -1,8 +1,5 @@
-// kernels: BlurKernels
-#include <emmintrin.h>
-
-#include "simd/vocabulary.hpp"
-#include "transform/blur.hpp"
+// kernels: MeanKernels
+#include "transform/means.hpp"
 
 namespace {
 
@@ -17,28 +14,22 @@ TESSARO_INLINE uint16_t minus(uint16_t a, uint16_t b) { return static_cast<uint1
 
 // The sums are the library's own memory and rows are kept where they could be overwritten: no output aliases an input.
 
+// One addition a pixel is the whole chain; the four lanes ride in it.
 void running_sums(uint16_t* __restrict sums, const uint8_t* __restrict src, size_t count) {
-  // One addition a pixel is the whole chain; the four lanes ride in it.
-  __m128i sum = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(sums));
+  Quad sum = Quad::load(sums);
   for (size_t i = 0; i < count; ++i) {
-    int pixel;
-    __builtin_memcpy(&pixel, src + 4 * i, 4);
-    sum = _mm_add_epi16(sum, _mm_unpacklo_epi8(_mm_cvtsi32_si128(pixel), _mm_setzero_si128()));
-    _mm_storel_epi64(reinterpret_cast<__m128i*>(sums + 4 * (i + 1)), sum);
+    sum = sum + Quad::of(src + 4 * i);
+    sum.store(sums + 4 * (i + 1));
   }
 }
 
 void step_sums(uint16_t* __restrict out, const uint16_t* __restrict sums, const uint8_t* __restrict src,
                const StepSum* __restrict places, size_t count, uint16_t num) {
-  const __m128i times = _mm_set1_epi16(static_cast<short>(num));
+  const Quad times = Quad::splat(num);
   for (size_t i = 0; i < count; ++i) {
-    const __m128i whole = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(sums + 4 * places[i].whole));
-    int pixel;
-    __builtin_memcpy(&pixel, src + 4 * places[i].next, 4);
-    const __m128i next = _mm_unpacklo_epi8(_mm_cvtsi32_si128(pixel), _mm_setzero_si128());
-    const __m128i part = _mm_set1_epi16(static_cast<short>(places[i].part));
-    _mm_storel_epi64(reinterpret_cast<__m128i*>(out + 4 * i),
-                     _mm_add_epi16(_mm_mullo_epi16(whole, times), _mm_mullo_epi16(next, part)));
+    const StepSum& at = places[i];
+    (Quad::load(sums + 4 * at.whole) * times + Quad::of(src + 4 * at.next) * Quad::splat(at.part))
+        .store(out + 4 * i);
   }
 }
 
@@ -77,27 +68,9 @@ void slide(uint8_t* __restrict out, uint16_t* __restrict sums, const uint8_t* __
   }
 }
 
-template <class P>
-TESSARO_INLINE P mean_of_4(const uint8_t* upper, const uint8_t* lower) {
-  const auto u = unzip(P::load(upper), P::load(upper + 4 * P::lanes));
-  const auto l = unzip(P::load(lower), P::load(lower + 4 * P::lanes));
-  return join(shr<2>(even(u.even) + even(u.odd) + even(l.even) + even(l.odd)),
-              shr<2>(odd(u.even) + odd(u.odd) + odd(l.even) + odd(l.odd)));
-}
-
-void halve(uint8_t* out, const uint8_t* upper, const uint8_t* lower, size_t width) {
-  // A destination that starts within a source row, not before it, catches up with pixels that are still to be read.
-  const auto catches_up = [&](const uint8_t* row) { return out > row && out < row + 8 * width; };
-  size_t x = 0;
-  if (!catches_up(upper) && !catches_up(lower))
-    for (; x + Px::lanes <= width; x += Px::lanes)
-      mean_of_4<Px>(upper + 8 * x, lower + 8 * x).store(out + 4 * x);
-  for (; x < width; ++x) mean_of_4<One>(upper + 8 * x, lower + 8 * x).store(out + 4 * x);
-}
-
 }  // namespace
 
-TESSARO_KERNELS(BlurKernels){
+TESSARO_KERNELS(MeanKernels){
     .running_sums = running_sums,
     .step_sums = step_sums,
     .means = means,
@@ -106,5 +79,4 @@ TESSARO_KERNELS(BlurKernels){
     .subtract = subtract,
     .divide = divide,
     .slide = slide,
-    .halve = halve,
 };

@@ -1,6 +1,7 @@
-// Means along rows and columns, in time that does not depend on the width of the window.
+// Sums of pixels' channels and their means, which do not depend on how many pixels a mean is taken of.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 
@@ -21,6 +22,41 @@ struct Divider {
   }
 };
 
+// The dividers of the counts 0..255 in rising order and, behind them, in falling order, four lanes a count, so that
+// the shortened windows at both ends of a row find theirs side by side. Those of 0 and 1 are not used.
+struct Dividers {
+  std::array<uint16_t, 2048> first{}, second{}, bias{};
+  constexpr Divider of(size_t count) const { return {first[4 * count], second[4 * count], bias[4 * count]}; }
+};
+extern const Dividers dividers;
+
+// The four channels of a pixel in the 16-bit lanes of a word, and such sums divided.
+constexpr uint64_t widened(uint32_t pixel) {
+  const uint64_t halves = (pixel | static_cast<uint64_t>(pixel) << 16) & 0x0000FFFF0000FFFFu;
+  return (halves | halves << 8) & 0x00FF00FF00FF00FFu;
+}
+constexpr uint32_t divided(uint64_t sums, Divider by) {
+  uint32_t pixel = 0;
+  for (int k = 0; k < 4; ++k) pixel |= by.divide(static_cast<uint32_t>(sums >> 16 * k & 0xFFFF)) << 8 * k;
+  return pixel;
+}
+
+// How far the destination lies ahead of its source, as far as memory that they share goes.
+inline ptrdiff_t distance(const AreaPair& n) {
+  return static_cast<ptrdiff_t>(reinterpret_cast<uintptr_t>(n.dst) - reinterpret_cast<uintptr_t>(n.src));
+}
+inline bool rows_meet(const AreaPair& n) {
+  const auto ahead = static_cast<uintptr_t>(distance(n)), row = 4 * static_cast<uintptr_t>(n.width);
+  return ahead < row || 0 - ahead < row;
+}
+// True where no row of the destination runs into another and each of its columns meets no column of the source but its own,
+// so that all columns may move down together.
+inline bool columns_apart(const AreaPair& n) {
+  if (!rows_apart(dst_of(n))) return false;
+  return !share_memory(dst_of(n), src_of(n)) ||
+         (n.dst_pitch == n.src_pitch && distance(n) % n.dst_pitch == 0);
+}
+
 // Where a sum of sub-steps ends: `whole` source pixels from the left and so much of the sub-steps of pixel `next`.
 struct StepSum {
   int32_t whole, next;
@@ -28,7 +64,7 @@ struct StepSum {
 };
 
 // Sums have four 16-bit lanes a pixel, in the order of its bytes, and wrap; differences of two of them do not.
-struct BlurKernels {
+struct MeanKernels {
   // sums[i + 1] = sums[i] + pixel i, for count pixels; sums[0] is given.
   void (*running_sums)(uint16_t* sums, const uint8_t* src, size_t count);
   // out[i] = sums[places[i].whole] * num + pixel places[i].next * places[i].part, for count places
@@ -46,9 +82,7 @@ struct BlurKernels {
   // One step of a window that slides down: sums += add; out = sums / the divider; sums -= remove.
   void (*slide)(uint8_t* out, uint16_t* sums, const uint8_t* add, const uint8_t* remove, size_t lanes,
                 Divider by);
-  // A row of means of 2 x 2 pixels.
-  void (*halve)(uint8_t* out, const uint8_t* upper, const uint8_t* lower, size_t width);
 };
-TESSARO_DECLARE_KERNELS(BlurKernels);
+TESSARO_DECLARE_KERNELS(MeanKernels);
 
 }  // namespace tessaro
