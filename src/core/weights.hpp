@@ -39,6 +39,22 @@ inline uint32_t alpha_factor(float opacity) {
   return below;
 }
 
+// A fraction as a weight, 0..256; what is not a number counts as 0.
+template <class T>
+constexpr uint32_t weight_of(T fraction) {
+  return static_cast<uint32_t>(trunc32(clamped(fraction, T{0}, T{1}) * T{256}));
+}
+
+// Factors of 1024: each colour becomes (channel * channel_part >> 10) + (sum of the three * sum_part >> 10).
+struct SaturationParts {
+  int32_t channel_part = 0, sum_part = 0;
+  // A saturation of 1 leaves colours as they are, 0 makes them grey; at most 256, and what is not a number counts as 0.
+  static SaturationParts of(float saturation) {
+    const int32_t part = trunc32(clamped(saturation, 0.0f, 256.0f) * 1024.0f);
+    return {part, (1024 - part) / 3};
+  }
+};
+
 // Weights on a straight line over the alphas: (alpha * rise + base) >> shift, kept within 0..256. rise is at most 65534, base
 // and every value before the shift fit 32 bits.
 struct AlphaLine {

@@ -2,6 +2,7 @@
 #include "draw/boxes.hpp"
 
 #include "core/clip.hpp"
+#include "core/weights.hpp"
 #include "draw/pen.hpp"
 #include "draw/run.hpp"
 #include "tessaro/tessaro.h"
@@ -20,9 +21,6 @@ Area area_of(const ImageView& image, const ScaledBlit& box) {
   return {image.at(box.dx, box.dy), image.pitch, static_cast<ptrdiff_t>(box.dw),
           static_cast<ptrdiff_t>(box.dh)};
 }
-
-// What is not a number counts as 0.
-int32_t weight_of(double v) { return trunc32(clamped(v, 0.0, 1.0) * 256); }
 
 // A box between two corner points, and the pattern image that colours it.
 struct CornerBox {
@@ -48,9 +46,7 @@ struct CornerBox {
 };
 
 // The boxes that combine a colour chosen along x with one chosen along y.
-template <class Rule>
-int32_t line_box(const CornerBox& box, void (*kernel)(uint8_t*, const uint32_t*, size_t, uint32_t),
-                 Rule rule) {
+int32_t line_box(const CornerBox& box, void (*kernel)(uint8_t*, const uint32_t*, size_t, uint32_t)) {
   if (!box.usable()) return status_nothing;
   if (box.empty()) return status_done;
   const double columns = box.pattern.width - 1;
@@ -65,9 +61,7 @@ int32_t line_box(const CornerBox& box, void (*kernel)(uint8_t*, const uint32_t*,
       const uint32_t b = row_colour(box.y.at(j));
       for (int64_t i = box.x.first; i <= box.x.last; ++i) {
         const uint32_t a = column_colour(box.x.at(i));
-        uint32_t pixel = 0;
-        for (int k = 0; k < 32; k += 8) pixel |= rule(a >> k & 255, b >> k & 255) << k;
-        box.image.set(box.x.at(i), box.y.at(j), pixel);
+        kernel(box.image.at(box.x.at(i), box.y.at(j)), &a, 1, b);
       }
     }
     return status_done;
@@ -151,14 +145,14 @@ int32_t TESSARO_CALL BBIDrawBox(ImageRecord* image, int32_t x, int32_t y, int32_
   each_strip(area_of(view, box), false, [&](ptrdiff_t done, ptrdiff_t first, Area area) {
     uint32_t weights[strip_width];
     for (ptrdiff_t i = 0; i < area.width; ++i)
-      weights[i] = static_cast<uint32_t>(weight_of(between(done + i, box.dw, u_start, u_end))) * 0x10001u;
+      weights[i] = weight_of(between(done + i, box.dw, u_start, u_end)) * 0x10001u;
     constexpr ptrdiff_t some = 64;
     for (ptrdiff_t top = 0; top < area.height; top += some) {
       RowEnds ends[some];
       const ptrdiff_t rows = area.height - top < some ? area.height - top : some;
       for (ptrdiff_t j = 0; j < rows; ++j) {
         const auto v = static_cast<float>(between(first + top + j, box.dh, v_start, v_end));
-        const auto a = static_cast<uint32_t>(weight_of(v));
+        const uint32_t a = weight_of(v);
         ends[j] = {mixed(top_left, bottom_left, a), mixed(top_right, bottom_right, a)};
       }
       kernels<BoxKernels>().gradient({area.at + top * area.pitch, area.pitch, area.width, rows}, weights,
@@ -196,14 +190,12 @@ int32_t TESSARO_CALL BBIDrawGradationBox(ImageRecord* image, const ImageRecord* 
 
 int32_t TESSARO_CALL BBIDrawMultiplyLineBox(ImageRecord* image, const ImageRecord* pattern, int32_t x0,
                                             int32_t y0, int32_t x1, int32_t y1) {
-  return line_box(CornerBox(image, pattern, x0, y0, x1, y1), kernels<BoxKernels>().multiply,
-                  [](uint32_t a, uint32_t b) { return a * b / 255; });
+  return line_box(CornerBox(image, pattern, x0, y0, x1, y1), kernels<BoxKernels>().multiply);
 }
 
 int32_t TESSARO_CALL BBIDrawExclusiveLineBox(ImageRecord* image, const ImageRecord* pattern, int32_t x0,
                                              int32_t y0, int32_t x1, int32_t y1) {
-  return line_box(CornerBox(image, pattern, x0, y0, x1, y1), kernels<BoxKernels>().exclusive,
-                  [](uint32_t a, uint32_t b) { return a + b > 255 ? 510 - (a + b) : a + b; });
+  return line_box(CornerBox(image, pattern, x0, y0, x1, y1), kernels<BoxKernels>().exclusive);
 }
 
 }  // extern "C"

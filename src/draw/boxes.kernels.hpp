@@ -52,7 +52,7 @@ struct Gradient {
     const Half w = halves(weights);
     const P colour = join_high(even_base + even_rise * w, odd_base + odd_rise * w);
     if constexpr (masked)
-      return (d & mask) | and_not(colour, mask);
+      return choose_bits(mask, d, colour);
     else
       return colour;
   }

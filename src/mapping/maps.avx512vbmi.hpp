@@ -7,12 +7,16 @@
 
 namespace {
 
-// 64 pixels, one register a channel.
+// 64 pixels, one register a channel. From 16 pixels a register, four in each 128 bits, it takes three steps:
+//   by_channel       bgra bgra bgra bgra -> bbbb gggg rrrr aaaa: words B G R A, each of one channel of four pixels
+//   evens, odds      BGRA BGRA BGRA BGRA of two registers -> BBBBBBBB GGGGGGGG, RRRRRRRR AAAAAAAA
+//   shuffle_i64x2    of two such: the lower halves are one channel of 64 pixels (0x44), the upper ones the next (0xEE)
+// and the same steps backwards put them together again.
 struct Planes {
   __m512i channel[4];
 };
 
-TESSARO_INLINE __m512i by_channel(__m512i pixels) {  // within each 128 bits; its own inverse
+TESSARO_INLINE __m512i by_channel(__m512i pixels) {  // its own inverse
   return _mm512_shuffle_epi8(pixels, _mm512_set4_epi32(0x0F0B0703, 0x0E0A0602, 0x0D090501, 0x0C080400));
 }
 TESSARO_INLINE __m512i evens() {  // words 0, 4, 8, 12 of two registers, then words 1, 5, 9, 13
@@ -178,7 +182,8 @@ TESSARO_INLINE void prefetch(const uint8_t* at, uintptr_t ahead) {
   _mm_prefetch(reinterpret_cast<const char*>(reinterpret_cast<uintptr_t>(at) + ahead), _MM_HINT_T1);
 }
 
-// Transposes the bytes of sixteen rows of sixteen, within each 128 bits.
+// Transposes the bytes of sixteen rows of sixteen, within each 128 bits. Row i and row i + 8 are interleaved, four times over:
+// each round brings one bit of the row's number down into the column's.
 TESSARO_INLINE void transpose(__m512i (&v)[16]) {
   for (int round = 0; round < 4; ++round) {
     __m512i t[16];

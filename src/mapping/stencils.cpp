@@ -70,7 +70,7 @@ int32_t flip(const StencilAreas& areas, float progress, float softness) {
   const StencilKernels& k = kernels<StencilKernels>();
   const float p = clamped(progress, 0.0f, 1.0f);
   if (softness >= 1000) {
-    k.fade(areas, static_cast<uint32_t>(trunc32((1.0 - static_cast<double>(p)) * 256.0)));
+    k.fade(areas, weight_of(1.0 - static_cast<double>(p)));
   } else if (softness > 0) {
     uint32_t weights[256];
     build_ramp(weights, static_cast<double>(p), static_cast<double>(softness));
@@ -80,7 +80,7 @@ int32_t flip(const StencilAreas& areas, float progress, float softness) {
     else
       k.soft(areas, weights);
   } else {
-    const auto limit = static_cast<uint32_t>(trunc32(p * 256.0f));
+    const uint32_t limit = weight_of(p);
     if (limit == 0)
       copy(areas, areas.outgoing);
     else if (limit == 256)

@@ -52,11 +52,6 @@ int32_t fill_bottom_up(ImageRecord* image, const void* bits, int32_t stride, con
   return status_done;
 }
 
-// A blend factor as a weight of 256.
-uint32_t weight_of(float factor) {
-  return !(factor >= 0.0f) ? 0 : factor > 1.0f ? 256 : static_cast<uint32_t>(trunc32(factor * 256.0f));
-}
-
 bool meet(const void* a, size_t a_bytes, const void* b, size_t b_bytes) {
   const auto x = reinterpret_cast<uintptr_t>(a), y = reinterpret_cast<uintptr_t>(b);
   return x < y ? y - x < a_bytes : x - y < b_bytes;
@@ -145,9 +140,7 @@ int32_t TESSARO_CALL BBIBltToF(void* dst, const uint32_t* src, int32_t count, in
   if (count < 1) return status_done;
 
   const bool saturate = saturation != 1.0f;
-  const float g = !(saturation >= 0.0f) ? 0.0f : saturation > 256.0f ? 256.0f : saturation;
-  const int32_t part = trunc32(g * 1024.0f);
-  const SaturationParts parts{part, (1024 - part) / 3};
+  const SaturationParts parts = SaturationParts::of(saturation);
   const uint32_t weight = weight_of(factor);
   const FormatKernels& k = rows();
 

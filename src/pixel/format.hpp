@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "core/weights.hpp"
 #include "simd/dispatch.hpp"
 
 namespace tessaro {
@@ -12,11 +13,6 @@ enum PixelFormat { format_8888, format_888, format_565, format_555, format_1555,
 
 // The format of a code like 565; format_count for any other number.
 PixelFormat format_of(int32_t code);
-
-// Factors of 1024: each colour becomes (channel * channel_part >> 10) + (sum of the three * sum_part >> 10).
-struct SaturationParts {
-  int32_t channel_part, sum_part;
-};
 
 // Every kernel takes runs of count pixels at any alignment. Runs may overlap: results are those of one pixel
 // after another.

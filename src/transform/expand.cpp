@@ -1,6 +1,5 @@
 #include "transform/expand.hpp"
 
-#include "core/weights.hpp"
 #include "pixel/blit.hpp"
 #include "tessaro/tessaro.h"
 #include "transform/flip.hpp"
@@ -170,12 +169,7 @@ int32_t TESSARO_CALL BBIExpandChooseBlt(ImageRecord* dst, const ImageRecord* src
   }
 
   treatment.saturated = saturation != 1.0f;
-  if (treatment.saturated) {
-    if (!(saturation >= 0.0f)) saturation = 0.0f;
-    if (saturation > 256.0f) saturation = 256.0f;
-    treatment.saturation = trunc32(saturation * 1024.0f);
-    treatment.grey = (1024 - treatment.saturation) / 3;
-  }
+  if (treatment.saturated) treatment.saturation = SaturationParts::of(saturation);
   treatment.levelled = level_low != 0 || level_high != 0x00FFFFFF;
   for (int k = 0; k < 3; ++k)
     treatment.levels[k] = level_range(level_low >> 8 * k & 255, level_high >> 8 * k & 255);

@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "core/clip.hpp"
+#include "core/weights.hpp"
 #include "simd/dispatch.hpp"
 #include "transform/stretch.hpp"
 
@@ -41,7 +42,7 @@ struct Treatment {
   bool by_alpha = false;
   uint32_t weight = 0, factor = 0;
   bool saturated = false;
-  int32_t saturation = 0, grey = 0;  // of a channel, and of the sum of all three; in units of 1 / 1024
+  SaturationParts saturation = {};
   bool levelled = false;
   LevelRange levels[3] = {};  // blue, green, red
   bool add_colour = false, add_alpha = false, source_is_base = false;
@@ -59,8 +60,7 @@ TESSARO_DECLARE_KERNELS(ExpandKernels);
 
 // The weight, 0..256, of the far end at place `at` on a way from 0 to `last`.
 inline uint32_t way_weight(int32_t at, int32_t last) {
-  const auto way = static_cast<float>(static_cast<double>(at) / static_cast<double>(last));
-  return !(way >= 0.0f) ? 0 : way > 1.0f ? 256 : static_cast<uint32_t>(static_cast<int32_t>(way * 256.0f));
+  return weight_of(static_cast<float>(static_cast<double>(at) / static_cast<double>(last)));
 }
 
 }  // namespace tessaro

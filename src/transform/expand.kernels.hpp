@@ -112,7 +112,7 @@ struct Treat {
         mixes((c.by_alpha || c.weight != 256) && !(c.add_colour && c.add_alpha)),
         weight(H::splat(c.weight)),
         weights(c.factor),
-        saturate{c.saturation, c.grey},
+        saturate{c.saturation.channel_part, c.saturation.sum_part},
         levels{c.levels} {}
   TESSARO_INLINE P operator()(P d, P s) const {
     s = kept(s);
@@ -145,7 +145,7 @@ TESSARO_KERNELS(ExpandKernels){
     .gradient = gradient,
     .choose =
         [](const Stretch& n, const Treatment& treatment) {
-          if (treatment.saturated && treatment.saturation > saturation_limit)
+          if (treatment.saturated && treatment.saturation.channel_part > saturation_limit)
             stretch<One, Treat>(n, treatment);
           else
             stretch<Px, Treat>(n, treatment);

@@ -22,9 +22,7 @@ template <class P>
 struct DepthMask {
   P keep;
   TESSARO_INLINE explicit DepthMask(uint32_t k) : keep(P::splat(k)) {}
-  TESSARO_INLINE P operator()(P d, P s) const {
-    return select(in_front(s, d), (d & keep) | and_not(s, keep), d);
-  }
+  TESSARO_INLINE P operator()(P d, P s) const { return select(in_front(s, d), choose_bits(keep, d, s), d); }
 };
 
 }  // namespace

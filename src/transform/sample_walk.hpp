@@ -72,14 +72,13 @@ struct ColumnMap {
   TESSARO_INLINE explicit ColumnMap(const Stretch& n)
       : sw(n.sw), columns(n.columns), bases(n.columns + n.dw) {
     ScaledIndex column(n.sw, n.dw);
-    [[maybe_unused]] const bool even_steps = column.rest == 0;
     for (int32_t j = 0; j < n.dw; ++j, column.next()) n.columns[j] = column.at;
     if constexpr (P::permutes) {
       // From the first to the last sample of a vector: lanes - 1 steps of sw / dw, and one pixel more where rounding may
       // fall either way.
       int64_t span = n.sw;
       if (n.sw > lanes) {
-        const int64_t reach = static_cast<int64_t>(lanes - 1) * n.sw / n.dw + (even_steps ? 1 : 2);
+        const int64_t reach = static_cast<int64_t>(lanes - 1) * n.sw / n.dw + (column.rest == 0 ? 1 : 2);
         if (reach < span) span = reach;
       }
       vectors = span <= lanes ? 1 : span <= 2 * lanes ? 2 : span <= 4 * lanes ? 4 : 0;
