@@ -193,12 +193,12 @@ TESSARO_INLINE One trunc_dot(One a, One b, One c, double wa, double wb, double w
 TESSARO_INLINE Paired<One::Half> neighbour_sums(One a, One b) { return {even(a) + even(b), odd(a) + odd(b)}; }
 TESSARO_INLINE One from_sums(One::Half first, One::Half second) { return join(first, second); }
 
-// For a back end without permutes.
+// For a back end without permutes: of 2 * lanes pixels.
 template <class P>
 TESSARO_INLINE P picked_singly(const uint32_t* from, P where) {
   uint32_t v[P::lanes];
   where.store(v);
-  for (uint32_t& x : v) x = from[x];
+  for (uint32_t& x : v) x = from[x % (2 * P::lanes)];
   return P::load(v);
 }
 

@@ -46,8 +46,8 @@
 //   reversed(a)                  the last pixel first
 //   transpose_square(rows)       P (&rows)[lanes]: rows become columns
 //   P::permutes                  whether the next three cost an instruction or two; without, they are one pixel at a time
-//   picked(a, where)             pixel where[i] of a; where is below lanes
-//   picked(a, b, where)          of the 2 * lanes pixels a, b
+//   picked(a, where)             pixel where[i] % lanes of a
+//   picked(a, b, where)          of the 2 * lanes pixels a, b the one where[i] % (2 * lanes)
 //   gather(p, where)             the pixel at p + 4 * where[i], signed
 //   shuffled(a, from)            each byte the one of its 16 that the lower bits of from's byte name, 0 where its top bit is
 //                                set; only where P::permutes
