@@ -78,7 +78,7 @@ bool blur_columns(const AreaPair& n, ptrdiff_t r, bool loop) {
   // Rows that may be overwritten before they leave the window are kept.
   const bool keep = share_memory(dst_of(n), src_of(n));
   const ptrdiff_t slots = 2 * r + 1;
-  HeapArray<uint16_t> sums(lanes, true);
+  HeapArray<uint16_t> sums(column_room(lanes), true);
   HeapArray<uint8_t> kept(keep ? static_cast<size_t>(slots) * lanes : 0);
   if (!sums || !kept) return false;
   const auto slot = [&](ptrdiff_t i) {

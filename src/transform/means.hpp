@@ -64,6 +64,7 @@ struct StepSum {
 };
 
 // Sums have four 16-bit lanes a pixel, in the order of its bytes, and wrap; differences of two of them do not.
+inline constexpr size_t column_room(size_t lanes) { return (lanes + 63) / 64 * 64; }  // whole vectors
 struct MeanKernels {
   // sums[i + 1] = sums[i] + pixel i, for count pixels; sums[0] is given.
   void (*running_sums)(uint16_t* sums, const uint8_t* src, size_t count);
@@ -75,10 +76,11 @@ struct MeanKernels {
   // The same with a divider for each lane.
   void (*tapered_means)(uint8_t* out, const uint16_t* ahead, const uint16_t* behind, size_t lanes,
                         const uint16_t* first, const uint16_t* second, const uint16_t* bias);
+  // Sums of columns: 0 at first, in an order that only these four know, with room for column_room(lanes) of them.
   // sums += add * times; sums -= remove; out = sums / the divider
   void (*accumulate)(uint16_t* sums, const uint8_t* add, size_t lanes, uint16_t times);
   void (*subtract)(uint16_t* sums, const uint8_t* remove, size_t lanes);
-  void (*divide)(uint8_t* out, const uint16_t* sums, size_t lanes, Divider by);
+  void (*divide)(uint8_t* out, uint16_t* sums, size_t lanes, Divider by);
   // One step of a window that slides down: sums += add; out = sums / the divider; sums -= remove.
   void (*slide)(uint8_t* out, uint16_t* sums, const uint8_t* add, const uint8_t* remove, size_t lanes,
                 Divider by);

@@ -46,26 +46,78 @@ void tapered_means(uint8_t* __restrict out, const uint16_t* __restrict ahead,
     out[i] = static_cast<uint8_t>(high(high(plus(minus(ahead[i], behind[i]), bias[i]), first[i]), second[i]));
 }
 
-void accumulate(uint16_t* __restrict sums, const uint8_t* __restrict add, size_t lanes, uint16_t times) {
-  for (size_t i = 0; i < lanes; ++i) sums[i] = static_cast<uint16_t>(sums[i] + add[i] * times);
+// One channel, for a back end without vectors: loops over these become vectors by themselves.
+struct Lane {
+  uint16_t v;
+  TESSARO_INLINE static Lane splat(uint16_t x) { return {x}; }
+};
+TESSARO_INLINE Lane operator+(Lane a, Lane b) { return {plus(a.v, b.v)}; }
+TESSARO_INLINE Lane operator-(Lane a, Lane b) { return {minus(a.v, b.v)}; }
+TESSARO_INLINE Lane operator*(Lane a, Lane b) { return {static_cast<uint16_t>(a.v * b.v)}; }
+TESSARO_INLINE Lane mul_high(Lane a, Lane b) { return {high(a.v, b.v)}; }
+
+template <class H>
+TESSARO_INLINE H divided(H sum, Divider by) {
+  return mul_high(mul_high(sum + H::splat(by.bias), H::splat(by.first)), H::splat(by.second));
 }
 
-void subtract(uint16_t* __restrict sums, const uint8_t* __restrict remove, size_t lanes) {
-  for (size_t i = 0; i < lanes; ++i) sums[i] = minus(sums[i], remove[i]);
-}
-
-void divide(uint8_t* __restrict out, const uint16_t* __restrict sums, size_t lanes, Divider by) {
-  for (size_t i = 0; i < lanes; ++i)
-    out[i] = static_cast<uint8_t>(high(high(plus(sums[i], by.bias), by.first), by.second));
-}
-
-void slide(uint8_t* __restrict out, uint16_t* __restrict sums, const uint8_t* __restrict add,
-           const uint8_t* __restrict remove, size_t lanes, Divider by) {
-  for (size_t i = 0; i < lanes; ++i) {
-    const uint16_t sum = plus(sums[i], add[i]);
-    out[i] = static_cast<uint8_t>(high(high(plus(sum, by.bias), by.first), by.second));
-    sums[i] = minus(sum, remove[i]);
+// out[i] = rule(sums[i], in[i]...) for the channels of columns; the rule may change the sum. Vectors keep the sums of their even
+// channels and those of their odd ones side by side, as they work on them: no lane has to move.
+template <bool writes, class Rule, class... In>
+TESSARO_INLINE void each_column(uint8_t* __restrict out, uint16_t* __restrict sums, size_t lanes,
+                                const Rule& rule, const In* __restrict... in) {
+  if constexpr (Px::lanes == 1) {
+    for (size_t i = 0; i < lanes; ++i) {
+      Lane sum{sums[i]};
+      [[maybe_unused]] const Lane result = rule(sum, Lane{in[i]}...);
+      sums[i] = sum.v;
+      if constexpr (writes) out[i] = static_cast<uint8_t>(result.v);
+    }
+  } else {
+    constexpr size_t vector = 4 * Px::lanes;
+    for (size_t i = 0; i < lanes; i += vector) {
+      const size_t pixels = lanes - i < vector ? (lanes - i) / 4 : Px::lanes;
+      auto e = halves(Px::load(sums + i)), o = halves(Px::load(sums + i + vector / 2));
+      const auto even_out = rule(e, even(load_some<Px>(in + i, pixels))...);
+      const auto odd_out = rule(o, odd(load_some<Px>(in + i, pixels))...);
+      Px{e.v}.store(sums + i);
+      Px{o.v}.store(sums + i + vector / 2);
+      if constexpr (writes) {
+        const Px result = join(even_out, odd_out);
+        if (pixels == Px::lanes)
+          result.store(out + i);
+        else
+          result.store(out + i, pixels);
+      }
+    }
   }
+}
+
+void accumulate(uint16_t* sums, const uint8_t* add, size_t lanes, uint16_t times) {
+  each_column<false>(
+      nullptr, sums, lanes, [=]<class H>(H& sum, H added) { return sum = sum + added * H::splat(times); },
+      add);
+}
+
+void subtract(uint16_t* sums, const uint8_t* remove, size_t lanes) {
+  each_column<false>(
+      nullptr, sums, lanes, []<class H>(H& sum, H removed) { return sum = sum - removed; }, remove);
+}
+
+void divide(uint8_t* out, uint16_t* sums, size_t lanes, Divider by) {
+  each_column<true>(out, sums, lanes, [=]<class H>(H& sum) { return divided(sum, by); });
+}
+
+void slide(uint8_t* out, uint16_t* sums, const uint8_t* add, const uint8_t* remove, size_t lanes,
+           Divider by) {
+  each_column<true>(
+      out, sums, lanes,
+      [=]<class H>(H& sum, H added, H removed) {
+        const H with = sum + added;
+        sum = with - removed;
+        return divided(with, by);
+      },
+      add, remove);
 }
 
 }  // namespace

@@ -94,7 +94,7 @@ bool scale_columns(const AreaPair& n, int32_t num, int32_t den) {
   const auto lanes = static_cast<size_t>(4 * n.width);
   const Divider by = dividers.of(static_cast<size_t>(den));
   const bool keep = share_memory(dst_of(n), src_of(n));
-  HeapArray<uint16_t> sums(lanes, true);
+  HeapArray<uint16_t> sums(column_room(lanes), true);
   HeapArray<uint8_t> kept(keep ? lanes : 0);
   if (!sums || !kept) return false;
   ptrdiff_t current = -1;
@@ -108,7 +108,7 @@ bool scale_columns(const AreaPair& n, int32_t num, int32_t den) {
       },
       [&](ptrdiff_t to) {
         k.divide(n.dst + to * n.dst_pitch, sums.data(), lanes, by);
-        std::memset(sums.data(), 0, 2 * lanes);
+        std::memset(sums.data(), 0, 2 * column_room(lanes));
       });
   return true;
 }
