@@ -232,3 +232,5 @@ TESSARO_INLINE Px from_sums(Px::Half first, Px::Half second) {
 static_assert(PixelVector<Px> && MovingPixels<Px>);
 
 }  // namespace
+
+#include "simd/x86/lanes256.hpp"

@@ -2,6 +2,7 @@
 // overlapping memory demands one pixel after another.
 #pragma once
 
+#include "simd/lanes.hpp"
 #include "simd/vocabulary.hpp"
 
 namespace {

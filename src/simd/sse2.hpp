@@ -224,3 +224,5 @@ TESSARO_INLINE Px from_sums(Px::Half first, Px::Half second) { return join(first
 static_assert(PixelVector<Px> && MovingPixels<Px>);
 
 }  // namespace
+
+#include "simd/x86/lanes128.hpp"

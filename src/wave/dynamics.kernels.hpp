@@ -5,16 +5,9 @@
 
 namespace {
 
-#if defined(__AVX512BW__)
-constexpr size_t row_bytes = 64;
-#elif defined(__AVX2__)
-constexpr size_t row_bytes = 32;
-#else
-constexpr size_t row_bytes = 16;
-#endif
-typedef int8_t Row8 __attribute__((vector_size(row_bytes)));
-typedef int16_t Row16 __attribute__((vector_size(row_bytes)));
-typedef double Row64 __attribute__((vector_size(row_bytes)));
+typedef int8_t Row8 __attribute__((vector_size(register_bytes)));
+typedef int16_t Row16 __attribute__((vector_size(register_bytes)));
+typedef double Row64 __attribute__((vector_size(register_bytes)));
 
 // Gains are added up frame by frame, rounded at every step. While they stay between two powers of two, where the
 // spacing of the numbers is constant, every step adds the same amount, and frame i has the gain first + i * amount
@@ -39,9 +32,8 @@ template <class S, class Rule>
 TESSARO_INLINE void ramp(uint8_t* out, const uint8_t* in, size_t frames, double gain[2], const double step[2],
                          Rule rule) {
   size_t i = 0;
-#if defined(__AVX2__)
   double amount[2];
-  if (even_steps(gain, step, frames, amount)) {
+  if (eights && even_steps(gain, step, frames, amount)) {
     const auto lanes = [](const double of[2], double times) {  // of[0], of[1], alternating
       double v[8];
       for (size_t k = 0; k < 8; ++k) v[k] = of[k & 1] * times;
@@ -54,7 +46,6 @@ TESSARO_INLINE void ramp(uint8_t* out, const uint8_t* in, size_t frames, double 
       write8<S>(out + 2 * S::bytes * i, rule(read8<S>(in + 2 * S::bytes * i), gains));
     for (size_t lane = 0; lane < 2; ++lane) gain[lane] += amount[lane] * static_cast<double>(i);
   }
-#endif
   for (; i < frames; ++i)
     for (size_t lane = 0; lane < 2; ++lane) {
       const size_t at = S::bytes * (2 * i + lane);
@@ -63,11 +54,7 @@ TESSARO_INLINE void ramp(uint8_t* out, const uint8_t* in, size_t frames, double 
     }
 }
 
-// What does not fit in 32 bits becomes the smallest integer, as the processor's conversion gives it.
-TESSARO_INLINE int32_t converted(double v) { return _mm_cvttsd_si32(_mm_set_sd(v)); }
-#if defined(__AVX2__)
-TESSARO_INLINE Whole converted(const Lanes& v) { return truncated(v); }
-#endif
+TESSARO_INLINE Whole converted(const Lanes& v) { return to_whole(v); }
 
 template <class S>
 void ramp24(uint8_t* out, const uint8_t* in, size_t frames, double gain[2], const double step[2]) {
@@ -96,9 +83,7 @@ void extremes(const uint8_t* in, size_t n, Value low[2], Value high[2]) {
   constexpr size_t lanes = sizeof(Row) / sizeof(Row{}[0]);
   Row lows = {}, highs = {};
   size_t i = 0;
-#if !defined(__AVX2__)
-  if constexpr (S::bytes != 3)
-#endif
+  if constexpr (S::bytes != 3 || eights)
     for (; i + lanes <= n; i += lanes) {
       Row v;
       if constexpr (S::bytes == 3)

@@ -1,6 +1,4 @@
 // kernels: ResampleKernels
-#include <immintrin.h>
-
 #include "wave/resample.hpp"
 #include "wave/stored.hpp"
 
@@ -8,43 +6,31 @@ namespace {
 
 // Sample pairs (here, next) times their weights. The weight of a frame that is hit is 32768 and does not fit, so that
 // the weights are kept negative.
-TESSARO_INLINE __m128i blended(__m128i pairs, __m128i weights) {
-  return _mm_srai_epi32(_mm_sub_epi32(_mm_setzero_si128(), _mm_madd_epi16(pairs, weights)), 15);
-}
-
-TESSARO_INLINE __m128i load_weights(const int32_t* weights) {
-  return _mm_load_si128(reinterpret_cast<const __m128i*>(weights));
+TESSARO_INLINE Int4 blended(const Short8& pairs, const Int4& weights) {
+  return -dot_pairs(pairs, reinterpret_cast<Short8>(weights)) >> 15;
 }
 
 // Eight samples of the frames at at[0], at[1], ...
 template <size_t lanes>
-TESSARO_INLINE __m128i eight(const int16_t* in, const int32_t* at, const int32_t* weights);
-
-template <>
-TESSARO_INLINE __m128i eight<2>(const int16_t* in, const int32_t* at, const int32_t* weights) {
-  const auto two = [=](size_t j) {
-    const auto pair = [=](size_t k) {
-      return *reinterpret_cast<const F64*>(in + 2 * static_cast<ptrdiff_t>(at[k]));
+TESSARO_INLINE Short8 eight(const int16_t* in, const int32_t* at, const int32_t* weights) {
+  if constexpr (lanes == 2) {
+    // Two frames and those behind them, l0 r0 l1 r1, to l0 l1 r0 r1.
+    const auto two = [=](size_t j) {
+      const auto pair = [=](size_t k) { return get<double>(in + 2 * static_cast<ptrdiff_t>(at[k])); };
+      const auto both = reinterpret_cast<Short8>(Double2{pair(j), pair(j + 1)});
+      return __builtin_shufflevector(both, both, 0, 2, 1, 3, 4, 6, 5, 7);
     };
-    const __m128i both = _mm_castpd_si128(_mm_set_pd(pair(j + 1), pair(j)));
-    return _mm_shufflehi_epi16(_mm_shufflelo_epi16(both, 0xD8), 0xD8);
-  };
-  const __m128i w = load_weights(weights);
-  return _mm_packs_epi32(blended(two(0), _mm_unpacklo_epi32(w, w)),
-                         blended(two(2), _mm_unpackhi_epi32(w, w)));
-}
-
-template <>
-TESSARO_INLINE __m128i eight<1>(const int16_t* in, const int32_t* at, const int32_t* weights) {
-  const auto four = [=](size_t j) {
-    const auto pair = [=](size_t k) {
-      return _mm_cvtsi32_si128(*reinterpret_cast<const I32*>(in + at[j + k]));
+    const Int4 w = get<Int4>(weights);
+    return narrowed(blended(two(0), __builtin_shufflevector(w, w, 0, 0, 1, 1)),
+                    blended(two(2), __builtin_shufflevector(w, w, 2, 2, 3, 3)));
+  } else {
+    const auto four = [=](size_t j) {
+      const auto pair = [=](size_t k) { return get<int32_t>(in + at[j + k]); };
+      return blended(reinterpret_cast<Short8>(Int4{pair(0), pair(1), pair(2), pair(3)}),
+                     get<Int4>(weights + j));
     };
-    return blended(
-        _mm_unpacklo_epi64(_mm_unpacklo_epi32(pair(0), pair(1)), _mm_unpacklo_epi32(pair(2), pair(3))),
-        load_weights(weights + j));
-  };
-  return _mm_packs_epi32(four(0), four(4));
+    return narrowed(four(0), four(4));
+  }
 }
 
 template <size_t lanes>
@@ -63,10 +49,9 @@ void blend(int16_t* out, const int16_t* in, int32_t base, int32_t first, size_t 
   }
   for (size_t j = n; j < n + step; ++j) at[j] = weights[j] = 0;
   size_t j = 0;
-  for (; j + step <= n; j += step)
-    _mm_storeu_si128(reinterpret_cast<__m128i*>(out + lanes * j), eight<lanes>(in, at + j, weights + j));
+  for (; j + step <= n; j += step) put(out + lanes * j, eight<lanes>(in, at + j, weights + j));
   if (const size_t rest = n - j) {
-    const __m128i last = eight<lanes>(in, at + j, weights + j);
+    const Short8 last = eight<lanes>(in, at + j, weights + j);
     __builtin_memcpy(out + lanes * j, &last, 2 * lanes * rest);
   }
 }

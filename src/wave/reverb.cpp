@@ -23,11 +23,8 @@ void clear_frames(uint8_t* ring, int64_t position, int64_t n) {
 // distance that the kernel asks for, and end before the ring has gone round.
 bool well_spaced(double place, const Taps& taps) {
   if (place < read_ahead + echo_frames) return false;
-  for (size_t t = 0; t + 1 < taps.count; ++t) {
-    const double step = taps.spread * load<double>(taps.spacing + 8 * t);
-    if (!(step >= 3)) return false;
-    place += step;
-  }
+  for (size_t t = 0; t + 1 < taps.count; place += taps.step[t++])
+    if (!(taps.step[t] >= 3)) return false;
   return place < ring_frames - 4;
 }
 
@@ -54,6 +51,11 @@ extern "C" int32_t TESSARO_CALL waveEffectReverbA1(const WaveBuffer* buffer, int
 
   const auto* table = reinterpret_cast<const uint8_t*>(tap_table);
   const double send = level * 0.5;
+  // Up to 80 KB, which not every thread of a host has on its stack.
+  HeapArray<double> step(static_cast<size_t>(taps));
+  if (!step) return status_nothing;
+  const Taps all = {table, table + 8 * most_taps, step.data(), static_cast<size_t>(taps)};
+  for (size_t t = 0; t < all.count; ++t) step[t] = spread * load<double>(table + 8 * (2 * most_taps + t));
   const ReverbKernels& kernel = kernels<ReverbKernels>();
 
   const int64_t start = load<int32_t>(frame_position), origin = load<int32_t>(ring_position);
@@ -67,16 +69,9 @@ extern "C" int32_t TESSARO_CALL waveEffectReverbA1(const WaveBuffer* buffer, int
   const Memory ring_memory = {echoes.address(0), 16 * ring_frames},
                table_memory = {static_cast<int64_t>(reinterpret_cast<uintptr_t>(table)), 24 * most_taps},
                sound_memory = {side.address(first), (last - first) * side.frame_bytes()};
-  // The spacings are those from before the first frame, the gains those of the moment.
-  Taps all = {table, table + 8 * most_taps, table + 16 * most_taps, static_cast<double>(spread),
-              static_cast<size_t>(taps)};
-  const bool table_rests = apart(ring_memory, table_memory) && apart(table_memory, sound_memory);
-  HeapArray<uint8_t> spacings(table_rests ? 0 : 8 * all.count);
-  if (!table_rests && !spacings) return status_nothing;
-  if (!table_rests)
-    all.spacing = static_cast<const uint8_t*>(std::memcpy(spacings.data(), all.spacing, 8 * all.count));
-  const bool by_taps = kernel.scatter_block != nullptr && well_spaced(predelay, all) && table_rests &&
-                       apart(ring_memory, sound_memory);
+  const bool by_taps = kernel.scatter_block != nullptr && well_spaced(predelay, all) &&
+                       apart(ring_memory, table_memory) && apart(ring_memory, sound_memory) &&
+                       apart(table_memory, sound_memory);
   pass(0, first);
   for (int64_t i = first, n; i < last; i += n) {
     const int64_t position = (origin + i) & ring_mask;

@@ -13,12 +13,11 @@ inline constexpr size_t most_taps = 10000;
 // Frames whose echoes are added tap by tap.
 inline constexpr int64_t echo_frames = 16;
 
-// The taps that a call uses: gains per channel and the distance to the next tap, which is spread times its spacing.
+// The taps that a call uses: gains per channel and the distance to the next tap.
 struct Taps {
   const uint8_t* left;  // doubles of the host's
   const uint8_t* right;
-  const uint8_t* spacing;
-  double spread;
+  const double* step;
   size_t count;
 };
 

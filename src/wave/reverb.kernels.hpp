@@ -1,63 +1,44 @@
 // kernels: ReverbKernels
-#include <immintrin.h>
-
 #include "wave/reverb.hpp"
 #include "wave/stored.hpp"
 
 namespace {
 
-// Truncated to 64 bits; what does not fit (not-a-number included) gives the smallest integer.
-TESSARO_INLINE int64_t whole(double x) {
-#if defined(__x86_64__)
-  return _mm_cvttsd_si64(_mm_set_sd(x));
-#else
-  if (x > -2147483649.0 && x < 2147483648.0) return static_cast<int32_t>(x);
-  return x >= -9223372036854775808.0 && x < 9223372036854775808.0 ? static_cast<int64_t>(x) : INT64_MIN;
-#endif
-}
-
 TESSARO_INLINE double* frame(uint8_t* ring, int64_t at) {
   return reinterpret_cast<double*>(ring + 16 * static_cast<size_t>(at & tessaro::ring_mask));
 }
 
-TESSARO_INLINE double step(const tessaro::Taps& taps, size_t t) {
-  return taps.spread * *reinterpret_cast<const F64*>(taps.spacing + 8 * t);
+TESSARO_INLINE Double2 gains(const tessaro::Taps& taps, size_t t) {
+  return Double2{get<double>(taps.left + 8 * t), get<double>(taps.right + 8 * t)};
 }
 
-TESSARO_INLINE __m128d gains(const tessaro::Taps& taps, size_t t) {
-  return _mm_set_pd(*reinterpret_cast<const F64*>(taps.right + 8 * t),
-                    *reinterpret_cast<const F64*>(taps.left + 8 * t));
+TESSARO_INLINE void deposit(double* at, double weight, const Double2& gain) {
+  put(at, get<Double2>(at) + weight * gain);
 }
 
-TESSARO_INLINE void deposit(double* at, double weight, __m128d gain) {
-  _mm_storeu_pd(at, _mm_add_pd(_mm_loadu_pd(at), _mm_mul_pd(_mm_set1_pd(weight), gain)));
-}
+// Frames are taken together, and ring frames in pairs, where four numbers fill a register.
+constexpr bool wide = Px::lanes >= 8;
 
 // The frames i and i + 1, which follow each other unless i is the last of the ring.
-TESSARO_INLINE void deposit_both(uint8_t* ring, int64_t i, double f, double echo, __m128d gain) {
-#if defined(__AVX2__)
-  if ((i & tessaro::ring_mask) != tessaro::ring_mask) {
+TESSARO_INLINE void deposit_both(uint8_t* ring, int64_t i, double f, double echo, const Double2& gain) {
+  if (wide && (i & tessaro::ring_mask) != tessaro::ring_mask) {
     double* at = frame(ring, i);
-    const __m256d share = _mm256_set_m128d(_mm_set1_pd(f), _mm_set1_pd(1 - f));
-    const __m256d both =
-        _mm256_mul_pd(_mm256_mul_pd(share, _mm256_set1_pd(echo)), _mm256_set_m128d(gain, gain));
-    _mm256_storeu_pd(at, _mm256_add_pd(_mm256_loadu_pd(at), both));
+    const Double2 shares = {1 - f, f};
+    put(at, get<Double4>(at) + __builtin_shufflevector(shares, shares, 0, 0, 1, 1) * echo *
+                                   __builtin_shufflevector(gain, gain, 0, 1, 0, 1));
     return;
   }
-#endif
   deposit(frame(ring, i), (1 - f) * echo, gain);
   deposit(frame(ring, static_cast<int64_t>(static_cast<uint64_t>(i) + 1)), f * echo, gain);
 }
 
 void scatter(uint8_t* ring, double x, double echo, const tessaro::Taps& taps) {
   for (size_t t = 0; t < taps.count; ++t) {
-    const int64_t i = whole(x);
+    const int64_t i = converted64(x);
     deposit_both(ring, i, x - static_cast<double>(i), echo, gains(taps, t));
-    x += step(taps, t);
+    x += taps.step[t];
   }
 }
-
-#if defined(__AVX2__)
 
 // ---- A block of frames at a time
 //
@@ -65,10 +46,8 @@ void scatter(uint8_t* ring, double x, double echo, const tessaro::Taps& taps) {
 // first, every ring frame is therefore added to in the order of the frames, as it must be: sums are rounded. (Taps less
 // than two frames apart also meet within a frame, in the other order.)
 
-typedef double Four __attribute__((vector_size(32)));  // frames, or two of them in two channels
-typedef Four StoredFour __attribute__((aligned(1), may_alias));
+using Four = Double4;  // frames, or two of them in two channels
 typedef int64_t Mask __attribute__((vector_size(32)));
-typedef int32_t FourWhole __attribute__((vector_size(16)));
 
 struct Frames {
   Four of[4];
@@ -96,31 +75,30 @@ TESSARO_INLINE void add_group(double* place, const Frames& far, const Frames& ne
                               const Echoes& echoes) {
   constexpr bool last = i == 3;  // no frame comes after the farther share of the last one
   const Four f = far.of[i], n = near.of[i], next = near.of[(i + 1) % 4];
-  StoredFour* at = reinterpret_cast<StoredFour*>(place + 2 + 8 * i);
-  Four low = at[0], high = at[1];
+  double* const at = place + 2 + 8 * i;
+  Four low = get<Four>(at), high = get<Four>(at + 4);
   add_shares<all>(low, __builtin_shufflevector(f, f, 0, 0, 1, 1), gain, echoes.far[2 * i]);
   add_shares<all>(low, __builtin_shufflevector(n, n, 1, 1, 2, 2), gain, echoes.near[2 * i]);
   add_shares<all>(high, __builtin_shufflevector(f, f, 2, 2, 3, 3), gain, echoes.far[2 * i + 1]);
   add_shares<all && !last>(high, __builtin_shufflevector(n, next, 3, 3, 4, 4), gain, echoes.near[2 * i + 1]);
-  at[0] = low;
-  at[1] = high;
+  put(at, low);
+  put(at + 4, high);
 }
 
 template <bool all>
-TESSARO_INLINE void deposit_block(uint8_t* ring, const Frames& x, const Echoes& echoes, __m128d gain) {
-  FourWhole whole[4], uneven = {};
+TESSARO_INLINE void deposit_block(uint8_t* ring, const Frames& x, const Echoes& echoes, const Double2& gain) {
+  Int4 whole[4], uneven = {};
   Frames part, near, far;
   for (int i = 0; i < 4; ++i) {
-    whole[i] = __builtin_convertvector(x.of[i], FourWhole);
-    uneven |= (whole[i] - whole[0][0]) ^ (FourWhole{0, 1, 2, 3} + 4 * i);
+    whole[i] = __builtin_convertvector(x.of[i], Int4);
+    uneven |= (whole[i] - whole[0][0]) ^ (Int4{0, 1, 2, 3} + 4 * i);
     part.of[i] = x.of[i] - __builtin_convertvector(whole[i], Four);
     near.of[i] = (1 - part.of[i]) * echoes.of.of[i];
     far.of[i] = part.of[i] * echoes.of.of[i];
   }
   const auto place = static_cast<int64_t>(whole[0][0]) & tessaro::ring_mask;
   // Rounding may put a frame's place on the other side of a whole number.
-  const auto bits = reinterpret_cast<__m128i>(uneven);
-  if (!_mm_testz_si128(bits, bits) || place + 17 > tessaro::ring_frames) [[unlikely]] {
+  if (!none_set(uneven) || place + 17 > tessaro::ring_frames) [[unlikely]] {
     for (size_t j = 0; j < frame_count; ++j)
       if (const double echo = echoes.of.of[j / 4][j % 4]; echo != 0)
         deposit_both(ring, whole[j / 4][j % 4], part.of[j / 4][j % 4], echo, gain);
@@ -139,7 +117,7 @@ TESSARO_INLINE void advance(Frames& at, double step) {
   for (Four& v : at.of) v += step;
 }
 
-void scatter_block(uint8_t* ring, double x, const double* values, const tessaro::Taps& taps) {
+void scatter_together(uint8_t* ring, double x, const double* values, const tessaro::Taps& taps) {
   Echoes echoes;
   __builtin_memcpy(&echoes.of, values, sizeof echoes.of);
   echoes.first = values[0] != 0;
@@ -160,14 +138,14 @@ void scatter_block(uint8_t* ring, double x, const double* values, const tessaro:
   for (int i = 0; i < 4; ++i) at.of[i] = x + (Four{0, 1, 2, 3} + 4.0 * i);
   for (size_t t = 0; t < taps.count; ++t) {
     if (t % stretch == 0) starts[t / stretch] = at;
-    advance(at, step(taps, t));
+    advance(at, taps.step[t]);
   }
   for (size_t end = taps.count; end > 0;) {
     const size_t start = (end - 1) / stretch * stretch;
     at = starts[start / stretch];
     for (size_t t = start; t < end; ++t) {
       places[t - start] = at;
-      advance(at, step(taps, t));
+      advance(at, taps.step[t]);
     }
     if (echoes.all)
       for (size_t t = end; t-- > start;) deposit_block<true>(ring, places[t - start], echoes, gains(taps, t));
@@ -177,10 +155,8 @@ void scatter_block(uint8_t* ring, double x, const double* values, const tessaro:
     end = start;
   }
 }
-#else
-constexpr auto scatter_block = nullptr;  // with two numbers a vector it is no faster
-#endif
 
 }  // namespace
 
-TESSARO_KERNELS(ReverbKernels){.scatter = scatter, .scatter_block = scatter_block};
+// With two numbers a vector it is no faster.
+TESSARO_KERNELS(ReverbKernels){.scatter = scatter, .scatter_block = wide ? scatter_together : nullptr};

@@ -10,13 +10,11 @@ constexpr bool packed = D::bytes == 3 || S::bytes == 3;
 
 // out = rule(in), sample by sample: in vectors of eight, where there are any, for doubles and for packed samples of
 // three bytes, which no compiler takes apart well.
-template <class D, class S, bool eights = packed<D, S>, class Rule>
+template <class D, class S, bool vectors = packed<D, S>, class Rule>
 TESSARO_INLINE void each_sample(uint8_t* out, const uint8_t* in, size_t n, Rule rule) {
   size_t i = 0;
-#if defined(__AVX2__)
-  if constexpr (eights)
+  if constexpr (vectors && eights)
     for (; i + 8 <= n; i += 8) write8<D>(out + D::bytes * i, rule(read8<S>(in + S::bytes * i)));
-#endif
   TESSARO_PARALLEL
   for (; i < n; ++i) D::put(out + D::bytes * i, rule(S::get(in + S::bytes * i)));
 }
@@ -24,10 +22,8 @@ TESSARO_INLINE void each_sample(uint8_t* out, const uint8_t* in, size_t n, Rule 
 template <class S, class Rule>
 TESSARO_INLINE void each_pair(uint8_t* d, const uint8_t* s, size_t n, Rule rule) {
   size_t i = 0;
-#if defined(__AVX2__)
-  if constexpr (S::bytes == 3)
+  if constexpr (S::bytes == 3 && eights)
     for (; i + 8 <= n; i += 8) write8<S>(d + 3 * i, rule(read8<S>(d + 3 * i), read8<S>(s + 3 * i)));
-#endif
   TESSARO_PARALLEL
   for (; i < n; ++i) S::put(d + S::bytes * i, rule(S::get(d + S::bytes * i), S::get(s + S::bytes * i)));
 }
@@ -35,14 +31,12 @@ TESSARO_INLINE void each_pair(uint8_t* d, const uint8_t* s, size_t n, Rule rule)
 template <class D, class S, class Rule>
 TESSARO_INLINE void each_mean(uint8_t* __restrict out, const uint8_t* __restrict pairs, size_t n, Rule rule) {
   size_t i = 0;
-#if defined(__AVX2__)
-  if constexpr (D::bytes == 3 && S::bytes < 8)
+  if constexpr (D::bytes == 3 && S::bytes < 8 && eights)
     for (; i + 8 <= n; i += 8) {
       const auto a = read8<S>(pairs + 2 * S::bytes * i), b = read8<S>(pairs + 2 * S::bytes * (i + 4));
       write8<D>(out + 3 * i, rule(__builtin_shufflevector(a, b, 0, 2, 4, 6, 8, 10, 12, 14),
                                   __builtin_shufflevector(a, b, 1, 3, 5, 7, 9, 11, 13, 15)));
     }
-#endif
   TESSARO_PARALLEL
   for (; i < n; ++i)
     D::put(out + D::bytes * i,
@@ -209,18 +203,15 @@ void unit64(uint8_t* out, const uint8_t* in, size_t n) {
   if constexpr (S::bytes == 3) {
     const auto rule = [](auto s) { return limited(S::from64(S::to64(s)), -S::unit, S::unit); };
     size_t i = 0;
-#if defined(__AVX2__)
     // The codes that change are so few that a vector which may hold one, negative here, is a rarity.
-    for (; i + 8 <= n; i += 8) {
+    for (; eights && i + 8 <= n; i += 8) {
       const Whole s = read8<S>(in + 3 * i), a = magnitude(s), lowest = a & -a;
-      const auto doubt =
-          reinterpret_cast<__m256>((natural(a) - (natural(lowest) << 8)) | natural(S::unit - a));
-      if (_mm256_testz_ps(doubt, doubt)) [[likely]]
+      const Natural doubt = (natural(a) - (natural(lowest) << 8)) | natural(S::unit - a);
+      if (!any_negative(doubt)) [[likely]]
         __builtin_memcpy(out + 3 * i, in + 3 * i, 24);
       else
         write8<S>(out + 3 * i, rule(s));
     }
-#endif
     each_sample<S, S>(out + 3 * i, in + 3 * i, n - i, rule);
   } else {
     each_sample<S, S>(out, in, n, [](int32_t s) {
@@ -256,13 +247,12 @@ void running16(int32_t* sums, const I16* in, size_t frames, size_t lanes) {
     for (size_t i = 0; i < frames; ++i) sums[i + 1] = plus<int32_t>(sums[i], in[i]);
     return;
   }
-  __m128i sum = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(sums));
+  // Both channels in the low half of a vector: a frame doubled to l l r r, as 32-bit numbers, is shifted down.
+  Int4 sum = reinterpret_cast<Int4>(Long2{get<int64_t>(sums), 0});
   for (size_t i = 0; i < frames; ++i) {
-    int32_t pair;
-    __builtin_memcpy(&pair, in + 2 * i, 4);
-    const __m128i low = _mm_cvtsi32_si128(pair);
-    sum = _mm_add_epi32(sum, _mm_srai_epi32(_mm_unpacklo_epi16(low, low), 16));
-    _mm_storel_epi64(reinterpret_cast<__m128i*>(sums + 2 * i + 2), sum);
+    const auto low = reinterpret_cast<Short8>(Int4{get<int32_t>(in + 2 * i), 0, 0, 0});
+    sum += reinterpret_cast<Int4>(__builtin_shufflevector(low, low, 0, 0, 1, 1, 2, 2, 3, 3)) >> 16;
+    put<int64_t>(sums + 2 * i + 2, reinterpret_cast<Long2>(sum)[0]);
   }
 }
 

@@ -1,6 +1,4 @@
 // kernels: SpectrumKernels
-#include <immintrin.h>
-
 #include "wave/spectrum.hpp"
 #include "wave/stored.hpp"
 #include "wave/trigonometry.hpp"
@@ -54,18 +52,8 @@ void stage(Bins bins, int64_t n, int64_t m, int64_t k, int64_t first, int64_t co
 }
 
 // As many elements of an array as a register holds.
-#if defined(__AVX512F__)
-constexpr int64_t row = 8;
-#elif defined(__AVX2__)
-constexpr int64_t row = 4;
-#else
-constexpr int64_t row = 2;
-#endif
-typedef double Row __attribute__((vector_size(8 * row)));
-typedef Row StoredRow __attribute__((aligned(1), may_alias));
-
-TESSARO_INLINE Row get_row(const void* at) { return *static_cast<const StoredRow*>(at); }
-TESSARO_INLINE void put_row(void* at, const Row& v) { *static_cast<StoredRow*>(at) = v; }
+constexpr int64_t row = register_bytes / 8;
+typedef double Row __attribute__((vector_size(register_bytes)));
 
 struct Elements {
   Row re, im;
@@ -87,14 +75,14 @@ void two_stages(Bins bins, int64_t n, int64_t k, int64_t first, int64_t count, c
     uint8_t* im = bins.im + 8 * i;
     for (int64_t j = 0; j < count; j += row, re += sizeof(Row), im += sizeof(Row)) {
       Elements e[4];
-      for (int64_t q = 0; q < 4; ++q) e[q] = {get_row(re + q * quarter), get_row(im + q * quarter)};
-      butterfly(e[0], e[2], get_row(one.cosines + j), get_row(one.sines + j));
-      butterfly(e[1], e[3], get_row(other.cosines + j), get_row(other.sines + j));
-      butterfly(e[0], e[1], get_row(next.cosines + j), get_row(next.sines + j));
-      butterfly(e[2], e[3], get_row(next.cosines + j), get_row(next.sines + j));
+      for (int64_t q = 0; q < 4; ++q) e[q] = {get<Row>(re + q * quarter), get<Row>(im + q * quarter)};
+      butterfly(e[0], e[2], get<Row>(one.cosines + j), get<Row>(one.sines + j));
+      butterfly(e[1], e[3], get<Row>(other.cosines + j), get<Row>(other.sines + j));
+      butterfly(e[0], e[1], get<Row>(next.cosines + j), get<Row>(next.sines + j));
+      butterfly(e[2], e[3], get<Row>(next.cosines + j), get<Row>(next.sines + j));
       for (int64_t q = 0; q < 4; ++q) {
-        put_row(re + q * quarter, e[q].re);
-        put_row(im + q * quarter, e[q].im);
+        put(re + q * quarter, e[q].re);
+        put(im + q * quarter, e[q].im);
       }
     }
   }
@@ -109,45 +97,43 @@ struct Tile {
 
 constexpr int64_t reversed3[8] = {0, 4, 2, 6, 1, 5, 3, 7};
 
-#if defined(__AVX2__)
-// Four rows of four columns, which lie apart.
-TESSARO_INLINE void transpose(__m256d (&out)[4], const double* const* from, int64_t at) {
-  const __m256d a = _mm256_loadu_pd(from[0] + at), b = _mm256_loadu_pd(from[1] + at);
-  const __m256d c = _mm256_loadu_pd(from[2] + at), d = _mm256_loadu_pd(from[3] + at);
-  const __m256d ab0 = _mm256_unpacklo_pd(a, b), ab1 = _mm256_unpackhi_pd(a, b);
-  const __m256d cd0 = _mm256_unpacklo_pd(c, d), cd1 = _mm256_unpackhi_pd(c, d);
-  out[0] = _mm256_permute2f128_pd(ab0, cd0, 0x20);
-  out[1] = _mm256_permute2f128_pd(ab1, cd1, 0x20);
-  out[2] = _mm256_permute2f128_pd(ab0, cd0, 0x31);
-  out[3] = _mm256_permute2f128_pd(ab1, cd1, 0x31);
+// Columns to rows: from[c][at + r] to out[r][c].
+TESSARO_INLINE void transpose(Double2 (&out)[2], const double* const* from, int64_t at) {
+  const auto a = get<Double2>(from[0] + at), b = get<Double2>(from[1] + at);
+  out[0] = __builtin_shufflevector(a, b, 0, 2);
+  out[1] = __builtin_shufflevector(a, b, 1, 3);
 }
-#endif
+TESSARO_INLINE void transpose(Double4 (&out)[4], const double* const* from, int64_t at) {
+  const auto a = get<Double4>(from[0] + at), b = get<Double4>(from[1] + at);
+  const auto c = get<Double4>(from[2] + at), d = get<Double4>(from[3] + at);
+  // a0 b0 a2 b2, a1 b1 a3 b3; then a0 b0 c0 d0, and so on.
+  const Double4 ab0 = __builtin_shufflevector(a, b, 0, 4, 2, 6),
+                ab1 = __builtin_shufflevector(a, b, 1, 5, 3, 7);
+  const Double4 cd0 = __builtin_shufflevector(c, d, 0, 4, 2, 6),
+                cd1 = __builtin_shufflevector(c, d, 1, 5, 3, 7);
+  out[0] = __builtin_shufflevector(ab0, cd0, 0, 1, 4, 5);
+  out[1] = __builtin_shufflevector(ab1, cd1, 0, 1, 4, 5);
+  out[2] = __builtin_shufflevector(ab0, cd0, 2, 3, 6, 7);
+  out[3] = __builtin_shufflevector(ab1, cd1, 2, 3, 6, 7);
+}
+TESSARO_INLINE void transpose(Double8 (&out)[4], const double* const* from, int64_t at) {
+  Double4 left[4], right[4];
+  transpose(left, from, at);
+  transpose(right, from + 4, at);
+  for (int64_t i = 0; i < 4; ++i) out[i] = __builtin_shufflevector(left[i], right[i], 0, 1, 2, 3, 4, 5, 6, 7);
+}
 
 // All eight rows, from column `first` on.
 TESSARO_INLINE void take(Row (&rows)[8], const uint8_t* array, int64_t n, int64_t middle, int64_t first) {
   const double* from[row];
   for (int64_t column = 0; column < row; ++column)
     from[column] = reinterpret_cast<const double*>(array) + reversed3[first + column] * (n / 8) + 8 * middle;
-#if defined(__AVX2__)
-  for (int64_t four = 0; four < 8; four += 4) {
-    __m256d left[4];
-    transpose(left, from, four);
-#if defined(__AVX512F__)
-    __m256d right[4];
-    transpose(right, from + 4, four);
-    for (int64_t i = 0; i < 4; ++i)
-      rows[four + i] = _mm512_insertf64x4(_mm512_castpd256_pd512(left[i]), right[i], 1);
-#else
-    for (int64_t i = 0; i < 4; ++i) rows[four + i] = left[i];
-#endif
+  constexpr int64_t some = row == 2 ? 2 : 4;
+  for (int64_t r = 0; r < 8; r += some) {
+    Row out[some];
+    transpose(out, from, r);
+    for (int64_t i = 0; i < some; ++i) rows[r + i] = out[i];
   }
-#else
-  for (int64_t two = 0; two < 8; two += 2) {
-    const Row a = get_row(from[0] + two), b = get_row(from[1] + two);
-    rows[two] = _mm_unpacklo_pd(a, b);
-    rows[two + 1] = _mm_unpackhi_pd(a, b);
-  }
-#endif
 }
 TESSARO_INLINE void give(const double (&rows)[8][8], uint8_t* array, int64_t n, int64_t middle) {
   for (size_t r = 0; r < 8; ++r)

@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "simd/vocabulary.hpp"
+#include "simd/lanes.hpp"
 
 // A loop whose turns do not depend on one another although its output may be one of its inputs.
 #if defined(__clang__)
@@ -21,50 +21,30 @@ typedef int16_t I16 __attribute__((aligned(1), may_alias));
 typedef int32_t I32 __attribute__((aligned(1), may_alias));
 typedef double F64 __attribute__((aligned(1), may_alias));
 
-// Rules are stated for one value or for a vector of them; vectors are of eight: they fill the registers as doubles.
-typedef int32_t Whole __attribute__((vector_size(32)));
-typedef uint32_t Natural __attribute__((vector_size(32)));
-#if defined(__AVX512F__)
-typedef double Lanes __attribute__((vector_size(64)));
-#else
-// Compilers keep vectors of two registers in memory.
-typedef double Half __attribute__((vector_size(32)));
-struct Lanes {
-  Half low, high;
-};
-TESSARO_INLINE Lanes operator+(const Lanes& a, const Lanes& b) { return {a.low + b.low, a.high + b.high}; }
-TESSARO_INLINE Lanes operator*(const Lanes& a, const Lanes& b) { return {a.low * b.low, a.high * b.high}; }
-TESSARO_INLINE Lanes operator*(const Lanes& a, double b) { return {a.low * b, a.high * b}; }
-#endif
-
+// Rules are stated for one value or for a vector of eight, Whole or Lanes.
 TESSARO_INLINE uint32_t natural(int32_t v) { return static_cast<uint32_t>(v); }
 TESSARO_INLINE int32_t whole(uint32_t v) { return static_cast<int32_t>(v); }
 TESSARO_INLINE double real(int32_t v) { return v; }
-// What does not fit must not be handed to the first; the second gives the smallest integer for it, as the
-// processor's conversion does.
+// What does not fit must not be handed to the first; the second gives the smallest integer for it.
 TESSARO_INLINE int32_t truncated(double v) { return static_cast<int32_t>(v); }
-#if defined(__AVX2__)
-TESSARO_INLINE Natural natural(Whole v) { return reinterpret_cast<Natural>(v); }
-TESSARO_INLINE Whole whole(Natural v) { return reinterpret_cast<Whole>(v); }
-#if defined(__AVX512F__)
-TESSARO_INLINE Lanes real(Whole v) {  // which the compiler would do in two halves
-  return reinterpret_cast<Lanes>(_mm512_cvtepi32_pd(reinterpret_cast<__m256i>(v)));
+template <class V>
+TESSARO_INLINE Natural natural(const V& v) {
+  return reinterpret_cast<const Natural&>(v);
 }
-TESSARO_INLINE Whole truncated(Lanes v) {
-  return reinterpret_cast<Whole>(_mm512_cvttpd_epi32(reinterpret_cast<__m512d>(v)));
+template <class V>
+TESSARO_INLINE Whole whole(const V& v) {
+  return reinterpret_cast<const Whole&>(v);
 }
-#else
-TESSARO_INLINE Lanes real(Whole v) {
-  return {__builtin_convertvector(__builtin_shufflevector(v, v, 0, 1, 2, 3), Half),
-          __builtin_convertvector(__builtin_shufflevector(v, v, 4, 5, 6, 7), Half)};
+template <class V>
+TESSARO_INLINE Lanes real(const V& v) {
+  Lanes out;
+  to_doubles(v, out);
+  return out;
 }
-TESSARO_INLINE Whole truncated(const Lanes& v) {
-  const auto low = reinterpret_cast<__m256d>(v.low), high = reinterpret_cast<__m256d>(v.high);
-  return reinterpret_cast<Whole>(_mm256_inserti128_si256(_mm256_castsi128_si256(_mm256_cvttpd_epi32(low)),
-                                                         _mm256_cvttpd_epi32(high), 1));
+template <class V>
+TESSARO_INLINE Whole truncated(const V& v) {
+  return to_whole(v);
 }
-#endif
-#endif
 
 template <class V>
 TESSARO_INLINE V plus(V a, V b) {
@@ -92,9 +72,7 @@ template <class V>
 TESSARO_INLINE V to_unit(V v) {
   return limited(v, -1.0, 1.0);
 }
-#if defined(__AVX2__) && !defined(__AVX512F__)
-TESSARO_INLINE Lanes to_unit(const Lanes& v) { return {to_unit(v.low), to_unit(v.high)}; }
-#endif
+TESSARO_INLINE DoublePair to_unit(const DoublePair& v) { return {to_unit(v.low), to_unit(v.high)}; }
 
 TESSARO_INLINE auto magnitude(auto v) { return v < 0 ? -v : v; }
 
