@@ -3,6 +3,9 @@ include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
 install(TARGETS tessaro EXPORT tessaro)
+if(TARGET tessaro_pictures)
+  install(TARGETS tessaro_pictures DESTINATION ${CMAKE_INSTALL_LIBDIR})
+endif()
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/include/tessaro DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 
 set(package ${CMAKE_INSTALL_LIBDIR}/cmake/tessaro)

@@ -471,13 +471,15 @@ TESSARO_API int32_t TESSARO_CALL c2fDecoder(const void* stream, void* destinatio
  * @brief Decode a picture file that lies in memory.
  *
  * Windows loads it with the OLE picture loader and knows what that knows. Elsewhere JPEG, PNG, GIF (the first
- * image) and bitmap files without compression (1 to 32 bits) are known, up to 32767 pixels an edge and 512
- * MiB of pixels; rows that a damaged file does not give are not drawn.
+ * image) and bitmap files (1 to 32 bits, those of 4 and 8 bits also run-length coded) are known, up to 32767
+ * pixels an edge and 512 MiB of pixels, in a PNG file together with its samples; JPEG, PNG and GIF files only
+ * where `libtessaro-pictures.so.0` lies beside the library. Rows that a damaged file does not give are not
+ * drawn; pixels that a run-length coded bitmap skips are black.
  *
  * @param[in] file [size bytes] The file as it lies on disk.
  * @param size [bytes, 64..8388608, trusted] Its size.
- * @retval 0 Handled; also for a file that is no picture, and for a picture that is no bitmap (an icon, a
- *   cursor, a metafile).
+ * @retval 0 Handled; also for a file that is no picture, for a picture that is no bitmap (an icon, a cursor,
+ *   a metafile), and where there is no memory for it.
  * @retval 1 The size is out of range.
  * @{
  */
@@ -503,6 +505,10 @@ TESSARO_API int32_t TESSARO_CALL DecodeImageHead(const void* file, int32_t size,
  * as many columns as the number of the picture's HIMETRIC height, and as many rows as that of its HIMETRIC
  * width, cut to the picture and to the destination: all of a picture, unless one edge is over 26 times as
  * long as the other.
+ *
+ * Elsewhere than on Windows a call takes at most 1 GiB of memory, and time for what the destination shows at
+ * most: of the worst files known, of 8 MiB or less and drawn to their last row, a bitmap took 0.4 s, a JPEG
+ * file 1.4 s, a PNG file 1.8 s and a GIF file 0.8 s of a server's processor.
  *
  * @param[in,out] device [image] Elsewhere than on Windows an `ImageRecord`; on Windows an HDC.
  */

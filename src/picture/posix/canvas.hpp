@@ -35,11 +35,18 @@ class Canvas {
   Canvas& operator=(const Canvas&) = delete;
   ~Canvas() { std::free(pixels_); }
 
+  static constexpr int64_t most_bytes = int64_t{512} << 20;
+  // Whether an area is small enough to be decoded. Everything that takes time has to be: what lies outside the picture
+  // too.
+  static bool fits(int64_t width, int64_t height) {
+    constexpr int64_t edge = 32767;
+    return width >= 1 && height >= 1 && width <= edge && height <= edge && width * height * 4 <= most_bytes;
+  }
+
   // Called once, when the size is known. False when the reader is to stop: the picture is too large, there is no
   // memory for it, or its size was all that was wanted.
   bool open(int64_t width, int64_t height) {
-    constexpr int64_t edge = 32767, bytes = int64_t{512} << 20;
-    if (width < 1 || height < 1 || width > edge || height > edge || width * height * 4 > bytes) return false;
+    if (!fits(width, height)) return false;
     this->width = static_cast<int32_t>(width);
     this->height = static_cast<int32_t>(height);
     rows = this->height < wanted_ ? this->height : wanted_;
@@ -59,8 +66,7 @@ class Canvas {
 };
 
 void read_bitmap_file(const PictureFile& file, Canvas& canvas);
-void read_jpeg(const PictureFile& file, Canvas& canvas);
-void read_png(const PictureFile& file, Canvas& canvas);
-void read_gif(const PictureFile& file, Canvas& canvas);
+// JPEG, PNG and GIF files; nothing where their readers are missing.
+void read_packed(const PictureFile& file, Canvas& canvas);
 
 }  // namespace tessaro::platform

@@ -12,12 +12,8 @@ namespace {
 void read(const PictureFile& file, Canvas& canvas) {
   if (file.starts_with("BM", 2))
     read_bitmap_file(file, canvas);
-  else if (file.starts_with("\xFF\xD8\xFF", 3))
-    read_jpeg(file, canvas);
-  else if (file.starts_with("\x89PNG\r\n\x1A\n", 8))
-    read_png(file, canvas);
-  else if (file.starts_with("GIF8", 4))
-    read_gif(file, canvas);
+  else
+    read_packed(file, canvas);
   // Icons, cursors and metafiles are pictures without a bitmap and report as little as what is no picture.
 }
 

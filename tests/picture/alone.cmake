@@ -1,0 +1,25 @@
+# What is installed reads pictures from its own folder, and without its module loads and takes them for no pictures.
+function(run)
+  execute_process(COMMAND ${ARGN} COMMAND_ECHO STDOUT COMMAND_ERROR_IS_FATAL ANY)
+endfunction()
+
+file(REMOVE_RECURSE ${OUT})
+run(${CMAKE_COMMAND} --install ${BUILD} --prefix ${OUT})
+file(GLOB_RECURSE library ${OUT}/libtessaro.so)
+file(GLOB_RECURSE module ${OUT}/libtessaro-pictures.so.0)
+cmake_path(GET library PARENT_PATH folder)
+execute_process(COMMAND ${READELF} -d ${library} OUTPUT_VARIABLE needs COMMAND_ERROR_IS_FATAL ANY)
+string(REGEX MATCHALL "NEEDED[^\n]*" needs "${needs}")
+list(FILTER needs EXCLUDE REGEX "\\[lib(c|m)\\.so\\.6\\]|\\[ld-linux")
+if(needs)
+  message(FATAL_ERROR "The library depends on more than the C library: ${needs}")
+endif()
+
+# Widths of one kind of picture, in hundredths of a millimetre: 16 and 9 pixels.
+set(jpeg 423 ${PICTURES}/baseline.jpg ${PICTURES}/progressive.jpg)
+set(others 238 ${PICTURES}/palette.png ${PICTURES}/interlaced.gif)
+run(${PROGRAM} ${library} ${jpeg})
+run(${CMAKE_COMMAND} -E chdir ${folder} ${PROGRAM} ./libtessaro.so ${others})
+file(REMOVE ${module})
+list(REMOVE_AT jpeg 0)
+run(${PROGRAM} ${library} 0 ${jpeg})
