@@ -14,6 +14,8 @@ TESSARO_INLINE uint8_t* bytes_of(T* values) {
   return reinterpret_cast<uint8_t*>(values);
 }
 
+TESSARO_INLINE DoublePair to_unit(const DoublePair& v) { return {to_unit(v.low), to_unit(v.high)}; }
+
 // Whether vectors of eight integers are registers; without, kernels work sample by sample.
 constexpr bool eights = Px::lanes >= 8;
 

@@ -47,6 +47,7 @@ void scatter(uint8_t* ring, double x, double echo, const tessaro::Taps& taps) {
 // than two frames apart also meet within a frame, in the other order.)
 
 using Four = Double4;  // frames, or two of them in two channels
+typedef Four StoredFour __attribute__((aligned(1), may_alias));
 typedef int64_t Mask __attribute__((vector_size(32)));
 
 struct Frames {
@@ -75,14 +76,14 @@ TESSARO_INLINE void add_group(double* place, const Frames& far, const Frames& ne
                               const Echoes& echoes) {
   constexpr bool last = i == 3;  // no frame comes after the farther share of the last one
   const Four f = far.of[i], n = near.of[i], next = near.of[(i + 1) % 4];
-  double* const at = place + 2 + 8 * i;
-  Four low = get<Four>(at), high = get<Four>(at + 4);
+  StoredFour* const at = reinterpret_cast<StoredFour*>(place + 2 + 8 * i);  // deduced, it would be aligned
+  Four low = at[0], high = at[1];
   add_shares<all>(low, __builtin_shufflevector(f, f, 0, 0, 1, 1), gain, echoes.far[2 * i]);
   add_shares<all>(low, __builtin_shufflevector(n, n, 1, 1, 2, 2), gain, echoes.near[2 * i]);
   add_shares<all>(high, __builtin_shufflevector(f, f, 2, 2, 3, 3), gain, echoes.far[2 * i + 1]);
   add_shares<all && !last>(high, __builtin_shufflevector(n, next, 3, 3, 4, 4), gain, echoes.near[2 * i + 1]);
-  put(at, low);
-  put(at + 4, high);
+  at[0] = low;
+  at[1] = high;
 }
 
 template <bool all>

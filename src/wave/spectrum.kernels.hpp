@@ -54,6 +54,11 @@ void stage(Bins bins, int64_t n, int64_t m, int64_t k, int64_t first, int64_t co
 // As many elements of an array as a register holds.
 constexpr int64_t row = register_bytes / 8;
 typedef double Row __attribute__((vector_size(register_bytes)));
+// Read in place, which compilers fold into the arithmetic; copies of vectors they keep on the stack.
+typedef Row StoredRow __attribute__((aligned(1), may_alias));
+
+TESSARO_INLINE Row get_row(const void* at) { return *static_cast<const StoredRow*>(at); }
+TESSARO_INLINE void put_row(void* at, const Row& v) { *static_cast<StoredRow*>(at) = v; }
 
 struct Elements {
   Row re, im;
@@ -75,14 +80,14 @@ void two_stages(Bins bins, int64_t n, int64_t k, int64_t first, int64_t count, c
     uint8_t* im = bins.im + 8 * i;
     for (int64_t j = 0; j < count; j += row, re += sizeof(Row), im += sizeof(Row)) {
       Elements e[4];
-      for (int64_t q = 0; q < 4; ++q) e[q] = {get<Row>(re + q * quarter), get<Row>(im + q * quarter)};
-      butterfly(e[0], e[2], get<Row>(one.cosines + j), get<Row>(one.sines + j));
-      butterfly(e[1], e[3], get<Row>(other.cosines + j), get<Row>(other.sines + j));
-      butterfly(e[0], e[1], get<Row>(next.cosines + j), get<Row>(next.sines + j));
-      butterfly(e[2], e[3], get<Row>(next.cosines + j), get<Row>(next.sines + j));
+      for (int64_t q = 0; q < 4; ++q) e[q] = {get_row(re + q * quarter), get_row(im + q * quarter)};
+      butterfly(e[0], e[2], get_row(one.cosines + j), get_row(one.sines + j));
+      butterfly(e[1], e[3], get_row(other.cosines + j), get_row(other.sines + j));
+      butterfly(e[0], e[1], get_row(next.cosines + j), get_row(next.sines + j));
+      butterfly(e[2], e[3], get_row(next.cosines + j), get_row(next.sines + j));
       for (int64_t q = 0; q < 4; ++q) {
-        put(re + q * quarter, e[q].re);
-        put(im + q * quarter, e[q].im);
+        put_row(re + q * quarter, e[q].re);
+        put_row(im + q * quarter, e[q].im);
       }
     }
   }

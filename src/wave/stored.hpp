@@ -72,7 +72,6 @@ template <class V>
 TESSARO_INLINE V to_unit(V v) {
   return limited(v, -1.0, 1.0);
 }
-TESSARO_INLINE DoublePair to_unit(const DoublePair& v) { return {to_unit(v.low), to_unit(v.high)}; }
 
 TESSARO_INLINE auto magnitude(auto v) { return v < 0 ? -v : v; }
 

@@ -30,78 +30,93 @@ int one_by_one(const uint8_t* block) {
   return best;
 }
 
-// The same with one of two or four distances in every eight bytes of a vector; counts and ranks are the low 16 bits of
-// each eight.
-template <int distances>
-struct Search {
-  static constexpr size_t bytes = 8 * distances;
-  typedef uint8_t Eights __attribute__((vector_size(bytes)));
-  typedef int8_t Flags __attribute__((vector_size(bytes)));
-  typedef int16_t Ranks __attribute__((vector_size(bytes)));
-  typedef uint64_t Longs __attribute__((vector_size(bytes)));
+// The same with a distance in every eight bytes of a vector; counts and ranks are the low 16 bits of each eight. Two
+// distances a vector, or four: the types, the bytes at the distances from `first` on, the ranks of a level 0 there, and the
+// highest rank.
+struct TwoDistances {
+  static constexpr int count = 2;
+  typedef uint8_t Eights __attribute__((vector_size(16)));
+  typedef int16_t Ranks __attribute__((vector_size(16)));
+  typedef uint64_t Longs __attribute__((vector_size(16)));
 
-  TESSARO_INLINE static Ranks alike(int16_t v) {
-    return reinterpret_cast<Ranks>(Longs{} + static_cast<uint64_t>(v));
-  }
-  // The bytes at the distances from `first` on: of the 16 that end with the block.
   template <int first>
   TESSARO_INLINE static Eights references(const uint8_t* block) {
-    if constexpr (distances == 2) {
-      return reinterpret_cast<Eights>(
-          Longs{get<uint64_t>(block + first - 8), get<uint64_t>(block + first - 7)});
-    } else {
-      typedef uint8_t Window __attribute__((vector_size(16)));
-      const auto window = get<Window>(block - 8);
-      const auto twice =
-          __builtin_shufflevector(window, window, 0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 0, 1,
-                                  2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15);
-      constexpr int f = first;
-      return __builtin_shufflevector(twice, twice, f, f + 1, f + 2, f + 3, f + 4, f + 5, f + 6, f + 7, f + 1,
-                                     f + 2, f + 3, f + 4, f + 5, f + 6, f + 7, f + 8, f + 18, f + 19, f + 20,
-                                     f + 21, f + 22, f + 23, f + 24, f + 25, f + 19, f + 20, f + 21, f + 22,
-                                     f + 23, f + 24, f + 25, f + 26);
-    }
+    return reinterpret_cast<Eights>(
+        Longs{get<uint64_t>(block + first - 8), get<uint64_t>(block + first - 7)});
   }
   template <int first>
-  TESSARO_INLINE static Ranks better(const uint8_t* block, const Eights& now, Ranks best) {
-    const Eights changed = references<first>(block) ^ now;
-    Ranks early;
-    if constexpr (distances == 2)
-      early = reinterpret_cast<Ranks>(Longs{earliest - first, earliest - first - 1});
-    else
-      early = reinterpret_cast<Ranks>(
-          Longs{earliest - first, earliest - first - 1, earliest - first - 2, earliest - first - 3});
-#pragma GCC unroll 15
-    for (unsigned level = 1; level < inda_level_count; ++level) {
-      const Flags same = (changed & inda_levels.at[level].kept) == 0;
-      early -= alike(8);
-      const Ranks ranks = reinterpret_cast<Ranks>(byte_sums(reinterpret_cast<Eights>(same))) *
-                              static_cast<int16_t>(inda_levels.at[level].kept_bits) +
-                          early;
-      best = ranks > best ? ranks : best;
-    }
-    return best;
+  TESSARO_INLINE static Ranks level_0() {
+    return reinterpret_cast<Ranks>(Longs{earliest - first, earliest - first - 1});
   }
-  TESSARO_INLINE static int best_rank(const uint8_t* block) {
-    const Eights now = reinterpret_cast<Eights>(Longs{} + get<uint64_t>(block));
-    Ranks best = better<0>(block, now, Ranks{});
-    if constexpr (distances == 2) {
-      best = better<2>(block, now, best);
-      best = better<4>(block, now, best);
-      best = better<6>(block, now, best);
-    } else {
-      best = better<4>(block, now, best);
-    }
-    int highest = 0;
-    for (int k = 0; k < distances; ++k) highest = best[4 * k] > highest ? best[4 * k] : highest;
-    return highest;
+  TESSARO_INLINE static int highest(const Ranks& ranks) {
+    const Ranks other = __builtin_shufflevector(ranks, ranks, 4, 5, 6, 7, 4, 5, 6, 7);
+    const Ranks most = ranks > other ? ranks : other;
+    return most[0];
+  }
+};
+struct FourDistances {
+  static constexpr int count = 4;
+  typedef uint8_t Eights __attribute__((vector_size(32)));
+  typedef int16_t Ranks __attribute__((vector_size(32)));
+  typedef uint64_t Longs __attribute__((vector_size(32)));
+
+  template <int first>
+  TESSARO_INLINE static Eights references(const uint8_t* block) {
+    // From the 16 bytes that end with the block, in both halves: bytes do not move between these.
+    const auto w = get<TwoDistances::Eights>(block - 8);
+    const auto v = __builtin_shufflevector(w, w, 0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15,  //
+                                           0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15);
+    constexpr int f = first;
+    return __builtin_shufflevector(v, v, f, f + 1, f + 2, f + 3, f + 4, f + 5, f + 6, f + 7,        //
+                                   f + 1, f + 2, f + 3, f + 4, f + 5, f + 6, f + 7, f + 8,          //
+                                   f + 18, f + 19, f + 20, f + 21, f + 22, f + 23, f + 24, f + 25,  //
+                                   f + 19, f + 20, f + 21, f + 22, f + 23, f + 24, f + 25, f + 26);
+  }
+  template <int first>
+  TESSARO_INLINE static Ranks level_0() {
+    return reinterpret_cast<Ranks>(
+        Longs{earliest - first, earliest - first - 1, earliest - first - 2, earliest - first - 3});
+  }
+  TESSARO_INLINE static int highest(const Ranks& ranks) {
+    const TwoDistances::Ranks low = __builtin_shufflevector(ranks, ranks, 0, 1, 2, 3, 4, 5, 6, 7),
+                              high = __builtin_shufflevector(ranks, ranks, 8, 9, 10, 11, 12, 13, 14, 15);
+    return TwoDistances::highest(low > high ? low : high);
   }
 };
 
+// The ranks at the distances from `first` on, where they are better.
+template <int first, class V>
+TESSARO_INLINE void search_from(const uint8_t* block, const typename V::Eights& now,
+                                typename V::Ranks& best) {
+  using Eights = typename V::Eights;
+  using Ranks = typename V::Ranks;
+  const Eights changed = V::template references<first>(block) ^ now;
+  Ranks early = V::template level_0<first>();
+#pragma GCC unroll 15
+  for (unsigned level = 1; level < inda_level_count; ++level) {
+    const auto same = reinterpret_cast<Eights>((changed & inda_levels.at[level].kept) == 0);
+    early -= reinterpret_cast<Ranks>(typename V::Longs{} + 8);
+    const Ranks ranks =
+        reinterpret_cast<Ranks>(byte_sums(same)) * static_cast<int16_t>(inda_levels.at[level].kept_bits) +
+        early;
+    best = ranks > best ? ranks : best;
+  }
+  if constexpr (first + V::count < 8) search_from<first + V::count, V>(block, now, best);
+}
+template <class V>
+TESSARO_INLINE int best_rank(const uint8_t* block) {
+  typename V::Ranks best = {};
+  search_from<0, V>(block, reinterpret_cast<typename V::Eights>(typename V::Longs{} + get<uint64_t>(block)),
+                    best);
+  return V::highest(best);
+}
+
 void search(const uint8_t* blocks, size_t count, uint8_t* choices) {
   for (size_t i = 0; i < count; ++i) {
-    const int rank = Px::lanes == 1 ? one_by_one(blocks + 8 * i)
-                                    : Search<(Px::lanes < 8 ? 2 : 4)>::best_rank(blocks + 8 * i);
+    const uint8_t* const block = blocks + 8 * i;
+    const int rank = Px::lanes == 1  ? one_by_one(block)
+                     : Px::lanes < 8 ? best_rank<TwoDistances>(block)
+                                     : best_rank<FourDistances>(block);
     choices[i] = rank < least_rank ? uint8_t{0} : static_cast<uint8_t>(earliest - rank % rank_step);
   }
 }
