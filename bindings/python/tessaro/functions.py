@@ -1613,8 +1613,8 @@ def DecodeImageHead(file: Buffer, size: int, width: WritableBuffer, height: Writ
     Returns
     -------
     int
-        0: Handled; also for a file that is no picture, and for a picture that is no bitmap (an icon, a
-          cursor, a metafile).
+        0: Handled; also for a file that is no picture, for a picture that is no bitmap (an icon, a cursor,
+          a metafile), and where there is no memory for it.
         1: The size is out of range.
     """
     size = _a.signed("size", size)
@@ -1638,6 +1638,10 @@ def DecodeImage(device: WritableImage, file: Buffer, size: int) -> int:
     width, cut to the picture and to the destination: all of a picture, unless one edge is over 26 times as
     long as the other.
 
+    Elsewhere than on Windows a call takes at most 1 GiB of memory, and time for what the destination shows at
+    most: of the worst files known, of 8 MiB or less and drawn to their last row, a bitmap took 0.4 s, a JPEG
+    file 1.4 s, a PNG file 1.8 s and a GIF file 0.8 s of a server's processor.
+
     Parameters
     ----------
     device : image, changed
@@ -1650,8 +1654,8 @@ def DecodeImage(device: WritableImage, file: Buffer, size: int) -> int:
     Returns
     -------
     int
-        0: Handled; also for a file that is no picture, and for a picture that is no bitmap (an icon, a
-          cursor, a metafile).
+        0: Handled; also for a file that is no picture, for a picture that is no bitmap (an icon, a cursor,
+          a metafile), and where there is no memory for it.
         1: The size is out of range.
     """
     size = _a.signed("size", size)
