@@ -277,6 +277,8 @@ class Reader:
         self.enums, self.types, self.callbacks, self.functions, self.entries = {}, [], {}, [], {}
         tree = self.parse(clang)
         for name in ["tessaro.h"] + sorted(os.listdir(os.path.join(INCLUDE, "tessaro"))):
+            if not name.endswith(".h"):  # what is made from the description
+                continue
             if name not in self.headers:
                 self.headers[name] = Header(name, problems)
         self.nodes = []
