@@ -38,6 +38,7 @@ struct BitmapHead {
   uint32_t size =
       40;  // 12: an old header, whose palette has three bytes an entry; above 40 it holds the masks
   bool offset_without_palette = false;
+  size_t coded = 0;  // the length of the codes; Windows wants to know it
 };
 inline Bytes bitmap_head(const BitmapHead& head) {
   const auto u = [](auto v) { return static_cast<uint32_t>(v); };
@@ -47,7 +48,8 @@ inline Bytes bitmap_head(const BitmapHead& head) {
   for (const int32_t edge : {head.width, head.height}) put_low(info, u(edge), old ? 2 : 4);
   put_low(info, 1 | u(head.bits) << 16);
   if (!old)
-    for (const uint32_t v : {head.compression, 0u, 0u, 0u, u(head.palette.size()), 0u}) put_low(info, v);
+    for (const uint32_t v : {head.compression, u(head.coded), 0u, 0u, u(head.palette.size()), 0u})
+      put_low(info, v);
   for (const uint32_t v : head.masks) put_low(info, v);
   info.resize(std::max<size_t>(info.size(), head.size));
   for (const uint32_t v : head.palette) put_low(palette, v, old ? 3 : 4);

@@ -154,8 +154,12 @@ TEST(Picture, ReadsRunLengthCodedBitmaps) {
                  << c.bits << " bits, " << c.rows[0] << '/' << c.rows[1] << '/' << c.rows[2]);
     const uint32_t compression = c.bits == 8 ? 1 : 2;
     const auto file = [&](int32_t bits, int32_t h) {
-      Bytes bytes = bitmap_head(
-          {.bits = bits, .width = 5, .height = h, .compression = compression, .palette = palette});
+      Bytes bytes = bitmap_head({.bits = bits,
+                                 .width = 5,
+                                 .height = h,
+                                 .compression = compression,
+                                 .palette = palette,
+                                 .coded = c.codes.size()});
       put(bytes, c.codes);
       return bytes;
     };
