@@ -10,7 +10,7 @@
 
 namespace {
 
-// A changed byte of a PNG file would end its reading at the checksum of its chunk: they are put right.
+// A changed byte in the header or the palette of a PNG file would end its reading at the checksum: they are put right.
 void mend_checksums(std::vector<uint8_t>& file) {
   if (std::memcmp(file.data(), "\x89PNG", 4) != 0) return;
   for (size_t at = 8; file.size() - at >= 12;) {
