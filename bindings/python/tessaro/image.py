@@ -263,7 +263,7 @@ class Image:
         rgba = self._swapped()
         if self.width < 1 or self.height < 1:
             raise ValueError("a PNG file has at least one pixel")
-        if f.BBICompare(self, self, Compare.OPAQUE) == 0:
+        if self._is_opaque():
             data, depth = bytearray(3 * self.width * self.height), 3
             f.BBIBltTo24As888(data, rgba, self.width * self.height)
         else:
@@ -337,7 +337,11 @@ class Image:
             small = half
         other = Image(width, height)
         done(f.BBILinear(other, small), "resize")
-        return other
+        # The kernel takes what lies outside for transparent black, which shows a little in the outermost rows.
+        return other.opaque() if self._is_opaque() else other
+
+    def _is_opaque(self):
+        return f.BBICompare(self, self, Compare.OPAQUE) == 0
 
     def fit(self, width: int, height: int) -> Image:
         """A new image that keeps its proportions and fits into width x height."""
@@ -405,7 +409,10 @@ class Image:
         return self
 
     def ellipse(self, x0: int, y0: int, x1: int, y1: int, colours: Union[Image, Sequence[int]]) -> Image:
-        """Fills the ellipse between two corners with rings of colours, from the rim to the centre."""
+        """Fills the ellipse between two corners with rings, from the rim to the centre: colours, or an image.
+
+        The last colour is that of the centre pixel alone: for two soft ones, give a gradient image.
+        """
         if not isinstance(colours, Image):
             row = list(colours)
             colours = Image(max(len(row), 2), 1)
