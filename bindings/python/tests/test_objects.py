@@ -169,29 +169,33 @@ class Images(unittest.TestCase):
             image.blit(image, rule="melt")
 
     def test_two_threads_work_at_once(self):
-        """While the library works the interpreter goes on: a second thread counts, and a second image is made."""
-        images = [Image(1200, 900, 0xFF204060) for _ in range(2)]
-        steps, begun = [0, 0], threading.Barrier(3)
+        """Each tells the middle of its call; where one had to wait for the other, its middle is when that ended."""
+        large = [Image(1500, 1000, 0xFF204060) for _ in range(2)]
+        small = [noise(40, 30, k) for k in range(2)]
+        both, middles = threading.Barrier(2), [None, None]
 
-        def blur(k):
-            begun.wait()
-            for _ in range(4):
-                functions.BBILinear(images[k], images[k])  # tens of milliseconds each
-                steps[k] += 1
+        def enlarge(k):
+            both.wait()
+            begin = time.perf_counter()
+            functions.BBILinear(large[k], small[k])  # some hundredths of a second
+            length = time.perf_counter() - begin
+            middles[k] = begin + 0.4 * length, begin + 0.6 * length
 
-        threads = [threading.Thread(target=blur, args=(k,)) for k in range(2)]
-        for thread in threads:
-            thread.start()
-        begun.wait()
-        seen = set()
-        while any(thread.is_alive() for thread in threads):
-            seen.add(tuple(steps))
-            time.sleep(0.001)
-        self.assertGreater(
-            len(seen), 3
-        )  # with the lock held, this thread sees next to nothing between the calls
-        self.assertTrue(any(0 < a < 4 and 0 < b < 4 for a, b in seen), seen)
-        self.assertEqual(images[0], images[1])
+        overlaps = 0
+        for _ in range(60):  # a busy machine runs some one after the other
+            threads = [threading.Thread(target=enlarge, args=(k,)) for k in range(2)]
+            for thread in threads:
+                thread.start()
+            for thread in threads:
+                thread.join()
+            overlaps += max(middles[0][0], middles[1][0]) < min(middles[0][1], middles[1][1])
+            if overlaps == 5:
+                break
+        self.assertEqual(overlaps, 5)
+        for k in range(2):
+            alone = Image(1500, 1000)
+            functions.BBILinear(alone, small[k])
+            self.assertEqual(large[k], alone)
 
 
 def _wide_bitmap():
