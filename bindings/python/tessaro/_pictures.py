@@ -81,7 +81,7 @@ def _decode_on_windows(image, data):
         f.DecodeImage(device.value, data, len(data))
         gdi.GdiFlush()
         pixels = image._memory()
-        pixels[:] = (ctypes.c_ubyte * pixels.nbytes).from_address(bits.value)
+        pixels[:] = ctypes.string_at(bits, pixels.nbytes)
     finally:
         gdi.SelectObject(device, old)
         gdi.DeleteObject(bitmap)

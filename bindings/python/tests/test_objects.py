@@ -10,9 +10,10 @@ import threading
 import time
 import unittest
 from pathlib import Path
+from unittest import mock
 
 import tessaro
-from tessaro import Image, Sound, functions
+from tessaro import Image, Sound, _pictures, functions
 
 media = Path(__file__).resolve().parents[3] / "gallery" / "media"
 
@@ -132,6 +133,26 @@ class Images(unittest.TestCase):
             Image.open(Image(300, 10, 0xFF00FF00).to_png())
         with self.assertRaisesRegex(ValueError, "strips"):
             Image.open(Image.open(_wide_bitmap()).to_png())
+
+    def test_a_device_of_windows(self):
+        """There the picture comes by a bitmap of the system's, which is played here."""
+        drawn = (ctypes.c_uint32 * 6)(*range(0xFF000001, 0xFF000007))
+        asked = []
+
+        def make_bitmap(device, header, usage, bits, section, offset):
+            asked.extend(struct.unpack_from("<IiiHH", header._obj))
+            bits._obj.value = ctypes.addressof(drawn)
+            return 77
+
+        system = mock.MagicMock()
+        system.CreateDIBSection.side_effect = make_bitmap
+        system.CreateCompatibleDC.return_value, system.SelectObject.return_value = 55, 66
+        image = Image(3, 2)
+        with mock.patch.object(ctypes, "WinDLL", lambda name: system, create=True):
+            with mock.patch.object(functions, "DecodeImage") as decode:
+                _pictures._decode_on_windows(image, b"file")
+        self.assertEqual(asked, [40, 3, -2, 1, 32])
+        self.assertEqual((decode.call_args[0], image[2, 1]), ((55, b"file", 4), 0xFF000006))
 
     def test_drawing(self):
         image = Image(40, 30, 0xFF000000)
