@@ -89,8 +89,8 @@ typedef struct WaveBuffer {
  * ones do nothing for bits other than 8, 16, 24 and 64. An index outside `0..count - 1` reads zeros and
  * writes nothing; unknown bits at the float scale together with such an index read zeros too.
  *
- * @param[in] data [max(count, 0) * (2 * min(abs(bits - 8), 1) + min(abs(bits - 16), 1)) *
- *   (2 - min(abs(channels - 2), 1)) bytes] Frame 0: 1, 2 or 3 bytes a sample, 1 or 2 samples.
+ * @param[in] data [max(count, 0) * (2 * min(abs(bits - 8), 1) + min(abs(bits - 16), 1)) * (2 -
+ *   min(abs(channels - 2), 1)) bytes] Frame 0: 1, 2 or 3 bytes a sample, 1 or 2 samples.
  * @param index [index] The frame.
  * @param bits [one of TessaroSampleBits] The width of a stored sample.
  * @param channels [one of TessaroChannels] Samples a frame.
@@ -108,8 +108,8 @@ TESSARO_API int32_t TESSARO_CALL GetWave(const void* data, int32_t index, int32_
                                          int32_t count, int32_t* left, int32_t* right);
 /**
  * @brief Writes a frame at the 16-bit scale, without clamping.
- * @param[in,out] data [max(count, 0) * (2 * min(abs(bits - 8), 1) + min(abs(bits - 16), 1)) *
- *   (2 - min(abs(channels - 2), 1)) bytes] Frame 0.
+ * @param[in,out] data [max(count, 0) * (2 * min(abs(bits - 8), 1) + min(abs(bits - 16), 1)) * (2 -
+ *   min(abs(channels - 2), 1)) bytes] Frame 0.
  * @param left [value] The left value; what does not fit loses its high bits.
  * @param right [value] The right one.
  */
@@ -124,8 +124,8 @@ TESSARO_API int32_t TESSARO_CALL GetWave24(const void* data, int32_t index, int3
                                            int32_t count, int32_t* left, int32_t* right);
 /**
  * @brief Writes a frame at the 24-bit scale, without clamping.
- * @param[in,out] data [max(count, 0) * (2 * min(abs(bits - 8), 1) + min(abs(bits - 16), 1)) *
- *   (2 - min(abs(channels - 2), 1)) bytes] Frame 0.
+ * @param[in,out] data [max(count, 0) * (2 * min(abs(bits - 8), 1) + min(abs(bits - 16), 1)) * (2 -
+ *   min(abs(channels - 2), 1)) bytes] Frame 0.
  * @param left [value] The left value; what does not fit loses its high bits.
  * @param right [value] The right one.
  */
@@ -436,7 +436,7 @@ TESSARO_API int32_t TESSARO_CALL waveEffectMaximizer64(const WaveBuffer* dst, co
  *   next in frames; the first `taps` of each are read.
  * @retval 0 Done.
  * @retval 1 [untouched] The count is below 1; the buffer is invalid or has 0 frames; the ring is invalid, has
- *   fewer frames or other bits.
+ *   fewer frames or other bits; or there is no memory for the distances of the taps, 8 bytes each.
  */
 TESSARO_API int32_t TESSARO_CALL waveEffectReverbA1(const WaveBuffer* buffer, int32_t* frame_position,
                                                     const WaveBuffer* ring, int32_t* ring_position,

@@ -8461,7 +8461,7 @@ def waveEffectReverbA1(
     int
         0: Done.
         1: The count is below 1; the buffer is invalid or has 0 frames; the ring is invalid, has fewer
-          frames or other bits.
+          frames or other bits; or there is no memory for the distances of the taps, 8 bytes each.
     """
     return _waveEffectReverbA1(
         _a.sound("buffer", buffer, True).pointer,
