@@ -145,20 +145,23 @@ def dead_links(site):
                 yield f"{path.relative_to(site)}: leads nowhere: {target}"
 
 
-# All pictures and sounds of a page arrive, and nothing is wider than the window.
+# All pictures and sounds of a page arrive, no mark of Markdown is left, and nothing is wider than the window.
 LOOK = """(async () => {
   const missing = await Promise.all([...document.images].map(async image => {
     image.loading = "eager";
-    try { await image.decode(); } catch { return image.src; }
+    try { await image.decode(); } catch { return "not shown: " + image.src; }
   }));
   for (const audio of document.querySelectorAll("audio")) missing.push(await new Promise(done => {
     audio.onloadedmetadata = () => done();
-    audio.onerror = () => done(audio.src);
+    audio.onerror = () => done("not played: " + audio.src);
     audio.preload = "metadata";
     audio.load();
   }));
+  const text = document.querySelector("article").cloneNode(true);
+  text.querySelectorAll("code, pre, script, style, .entry").forEach(node => node.remove());
+  for (const match of text.textContent.matchAll(/.*(`|\\*\\*|\\]\\().*/g)) missing.push("markup: " + match[0]);
   const wide = document.scrollingElement.scrollWidth - innerWidth;
-  return missing.filter(Boolean).map(m => "not shown: " + m).concat(wide > 0 ? ["wider than a phone by " + wide] : []);
+  return missing.filter(Boolean).concat(wide > 0 ? ["wider than a phone by " + wide] : []);
 })()"""
 
 # The pages that the search finds first, without opening a page for each query.
@@ -229,6 +232,11 @@ def main():
             browser.open(path.as_uri())
             faults += [f"{path.relative_to(site)}: {fault}" for fault in browser.run(LOOK) + browser.said]
         browser.said.clear()
+        for dark in True, False:
+            browser.size(*DESK, dark)
+            browser.open((site / "index.html").as_uri())
+            if (browser.run("getComputedStyle(document.body).backgroundColor") != "rgb(255, 255, 255)") != dark:
+                faults.append(f"a {'dark' if dark else 'light'} system gets a {'light' if dark else 'dark'} page")
         browser.size(*DESK)
         faults += [*searches(browser, site, reference), *question(browser, site), *browser.said]
         if chosen.pictures:

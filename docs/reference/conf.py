@@ -22,16 +22,22 @@ html_show_search_summary = False
 
 
 def bundle(app, exception):
-    """Debian leaves the parts of the theme in packages of their own, which a browser does not find among files."""
+    """Makes up for what the theme lacks as Debian builds it, for readers who open it from the file system."""
     static = pathlib.Path(app.outdir) / "_static"
     script, style = static / "scripts/furo.js", static / "styles/furo.css"
-    if "import Gumshoe" in script.read_text():
-        # The part looks for a module's exports, and otherwise leaves its name in the window.
-        parts = [(static / "scripts/gumshoe-patched.js").read_text(), re.sub("^import .*", "", script.read_text())]
-        script.write_text("\n".join(parts))
-    part = re.search(r"@import url\((/javascript/[^)]*)\);", style.read_text())
-    if part:
-        style.write_text(pathlib.Path("/usr/share" + part[1]).read_text() + style.read_text().replace(part[0], ""))
+    code, rules = script.read_text(), style.read_text()
+    # Parts that lie in files of their own, where a browser may not read them.
+    if "import Gumshoe" in code:
+        part = (static / "scripts/gumshoe-patched.js").read_text()  # without modules it leaves its name in the window
+        script.write_text(part + re.sub("^import .*", "", code))
+    normal = re.search(r"@import url\((/javascript/[^)]*)\);", rules)
+    if normal:
+        rules = pathlib.Path("/usr/share" + normal[1]).read_text() + rules.replace(normal[0], "")
+    # The dark colours for readers whose system is dark: a rule in two conditions, which their compiler drops.
+    if "prefers-color-scheme" not in rules:
+        dark = re.search(r'body\[data-theme="dark"\] (\{[^}]*\})', rules)[1]
+        rules += f'\n@media screen and (prefers-color-scheme: dark) {{ body:not([data-theme="light"]) {dark} }}\n'
+    style.write_text(rules)
 
 
 def setup(app):

@@ -29,6 +29,7 @@ LANGUAGES = [
     ("JavaScript", "typescript", "bindings/javascript/tessaro.d.ts", r"^ *(?:export )?(?:function )?NAME\(.*?;"),
     ("Pascal", "pascal", "bindings/pascal/tessaro.pas", r"^ *function NAME\b[^;]*(?:\([^)]*\))?[^;]*;"),
 ]
+EXAMPLES_BEGIN = "In Python, after `from array import array`, `from tessaro import Image, constants`, `from tessaro.functions import *`."
 MOST_FIGURES = 6  # on the page of a function that many entries of the gallery call
 
 
@@ -182,7 +183,7 @@ class Reference:
         text.append(self.shown(name))
         example = self.examples.get(function.get("alias_of", name))
         if example:
-            text.append(f"## Example\n\n{example}\n")
+            text.append(f"## Example\n\n{example}\n\n{EXAMPLES_BEGIN}\n")
         if self.speeds[name]:
             text.append("## Measured\n\n" + table(["case", "unit", "tessaro", "limit of the memory", "others"],
                                                self.speeds[name]) + f"\n{self.machine}\n")
@@ -412,7 +413,7 @@ def title_of(header):
 
 def table(head, rows):
     lines = [head, ["---"] * len(head)] + rows
-    return "".join("| " + " | ".join(cell for cell in line) + " |\n" for line in lines) + "\n"
+    return "".join("| " + " | ".join(cell.replace("|", "\\|") for cell in line) + " |\n" for line in lines) + "\n"
 
 
 def toctree(pages):
@@ -439,8 +440,7 @@ def main():
         path = chosen.output / name
         path.parent.mkdir(parents=True, exist_ok=True)
         made.add(path)
-        if not path.exists() or path.read_text() != text:  # so that Sphinx reads only what is new
-            path.write_text(text)
+        path.write_text(text)
     for path in chosen.output.rglob("*.md"):
         if path not in made:
             path.unlink()
