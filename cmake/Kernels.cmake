@@ -54,16 +54,16 @@ if("sse2" IN_LIST TESSARO_BUILT_BACKENDS)
   set(TESSARO_ARCHITECTURE x86)
 endif()
 
-# A family of kernels is one file src/<subsystem>/<family>.kernels.hpp whose first line reads
+# A family of kernels is one file <subsystem>/<family>.kernels.hpp below the root, whose first line reads
 #   // kernels: <Table>
 # followed by -<back end> for each that measured no faster than the one below, and +<back end> for each that only few
 # families have. <Table> is declared in <family>.hpp beside it. One translation unit is generated per back end, always
 # optimised, and one that lists the tables. A back end that is left out is served by the next lower one. Where a back end
 # goes about a family in its own way altogether, <family>.<back end>.hpp fills the table in place of <family>.kernels.hpp.
-function(tessaro_add_kernels target)
+function(tessaro_add_kernels target root)
   target_include_directories(${target} PUBLIC ${PROJECT_BINARY_DIR})
-  file(GLOB_RECURSE families CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/*.kernels.hpp)
-  file(GLOB_RECURSE engines CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/*.*.hpp)
+  file(GLOB_RECURSE families CONFIGURE_DEPENDS ${root}/*.kernels.hpp)
+  file(GLOB_RECURSE engines CONFIGURE_DEPENDS ${root}/*.*.hpp)
   foreach(path IN LISTS families)
     file(STRINGS ${path} tag LIMIT_COUNT 1)
     if(NOT tag MATCHES "^// kernels: ([A-Za-z0-9_]+)(( [-+][a-z0-9]+)*)$")
@@ -72,7 +72,7 @@ function(tessaro_add_kernels target)
     set(table ${CMAKE_MATCH_1})
     string(REPLACE " " ";" choices "${CMAKE_MATCH_2}")
     set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${path})
-    cmake_path(RELATIVE_PATH path BASE_DIRECTORY ${PROJECT_SOURCE_DIR}/src OUTPUT_VARIABLE family)
+    cmake_path(RELATIVE_PATH path BASE_DIRECTORY ${root} OUTPUT_VARIABLE family)
     string(REPLACE ".kernels.hpp" "" family ${family})
     string(REPLACE "/" "_" stem ${family})
     set(entries "")
@@ -84,7 +84,7 @@ function(tessaro_add_kernels target)
         string(APPEND declared "template <> const ${table} ${served};\n")
         set(unit ${PROJECT_BINARY_DIR}/kernels/${stem}.${backend}.cpp)
         set(kernels ${family}.kernels.hpp)
-        if(${PROJECT_SOURCE_DIR}/src/${family}.${backend}.hpp IN_LIST engines)
+        if(${root}/${family}.${backend}.hpp IN_LIST engines)
           set(kernels ${family}.${backend}.hpp)
         endif()
         file(CONFIGURE OUTPUT ${unit} @ONLY CONTENT
@@ -92,8 +92,9 @@ function(tessaro_add_kernels target)
 #include \"simd/@backend@.hpp\"
 #include \"@kernels@\"
 ")
+        # Loops begin where a line of the cache does: their speed must not depend on where the linker puts them.
         # Vectors wider than a back end's registers go to inlined functions only, whatever the convention for them.
-        set_source_files_properties(${unit} PROPERTIES COMPILE_OPTIONS "-O3;-fno-math-errno;-Wno-psabi;${TESSARO_FLAGS_${backend}}")
+        set_source_files_properties(${unit} PROPERTIES SKIP_PRECOMPILE_HEADERS ON COMPILE_OPTIONS "-O3;-falign-loops=64;-fno-math-errno;-Wno-psabi;${TESSARO_FLAGS_${backend}}")
         target_sources(${target} PRIVATE ${unit})
       endif()
       string(APPEND entries "&${served}, ")

@@ -2,6 +2,7 @@
 #include "codec/differences.hpp"
 
 #include "core/numbers.hpp"
+#include "core/overlap.hpp"
 #include "tessaro/codec.h"
 
 using namespace tessaro;
@@ -11,10 +12,8 @@ namespace {
 // The kernels of this processor, or one sample after another where a sample that is still to be read would be
 // overwritten within a block.
 const DifferenceKernels& kernels_for(const void* source, const void* destination) {
-  // A destination before the source counts as far behind it.
-  const auto ahead = reinterpret_cast<uintptr_t>(destination) - reinterpret_cast<uintptr_t>(source);
-  return ahead == 0 || ahead >= difference_block ? kernels<DifferenceKernels>()
-                                                 : kernels<DifferenceKernels>(Backend::scalar);
+  return kernels<DifferenceKernels>(reads_own_writes(destination, source, difference_block) ? Backend::scalar
+                                                                                            : active_backend);
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 #include "codec/planes.hpp"
 
 #include "core/numbers.hpp"
+#include "core/overlap.hpp"
 #include "tessaro/codec.h"
 
 using namespace tessaro;
@@ -10,8 +11,7 @@ namespace {
 
 // The kernels of this processor, or one byte after another where the memories overlap.
 const PlaneKernels& kernels_for(const void* source, const void* destination, size_t n) {
-  const auto ahead = reinterpret_cast<uintptr_t>(destination) - reinterpret_cast<uintptr_t>(source);
-  return ahead >= n && 0 - ahead >= n ? kernels<PlaneKernels>() : kernels<PlaneKernels>(Backend::scalar);
+  return kernels<PlaneKernels>(share_memory(source, n, destination, n) ? Backend::scalar : active_backend);
 }
 
 }  // namespace

@@ -58,28 +58,6 @@ int32_t ClipScaledBlit(const ImageView& dst, const ImageView& src, ScaledBlit& b
   return b.dw == 0 || b.dh == 0 || b.sw == 0 || b.sh == 0 ? status_nothing : status_done;
 }
 
-bool rows_apart(const Area& a) { return a.pitch >= 4 * a.width || -a.pitch >= 4 * a.width; }
-
-bool share_memory(const Area& a, const Area& b) {
-  struct Span {
-    uintptr_t first, end;
-  };
-  const auto span_of = [](const Area& n) -> Span {
-    const auto start = reinterpret_cast<uintptr_t>(n.at);
-    const uintptr_t last = start + static_cast<uintptr_t>(n.pitch * (n.height - 1));
-    const uintptr_t row = 4 * static_cast<uintptr_t>(n.width);
-    return n.pitch < 0 ? Span{last, start + row} : Span{start, last + row};
-  };
-  const Span m = span_of(a), n = span_of(b);
-  if (m.end <= n.first || n.end <= m.first) return false;
-  if (a.pitch != b.pitch || a.pitch == 0) return true;
-  // Rows of one pitch: a starts so many bytes behind the start of the row of b before it.
-  const auto pitch = static_cast<uintptr_t>(a.pitch < 0 ? -a.pitch : a.pitch);
-  const uintptr_t ahead =
-      m.first >= n.first ? (m.first - n.first) % pitch : pitch - 1 - (n.first - m.first - 1) % pitch;
-  return ahead < 4 * static_cast<uintptr_t>(b.width) || ahead + 4 * static_cast<uintptr_t>(a.width) > pitch;
-}
-
 bool clip_one(const ImageRecord* image, int32_t x, int32_t y, int32_t w, int32_t h, Area& area) {
   const ImageView view = ImageView::of(image);
   int64_t ax = x, ay = y, aw = w, ah = h, ignored_x = 0, ignored_y = 0;

@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "core/image.hpp"
+#include "core/overlap.hpp"
 
 namespace tessaro {
 
@@ -27,30 +28,6 @@ struct ScaledBlit {
 // The rectangles that remain may still be negative in size or, after truncation, reach past the source: a
 // caller that walks them must check.
 int32_t ClipScaledBlit(const ImageView& dst, const ImageView& src, ScaledBlit& blit);
-
-// The area of one image that an operation works on.
-struct Area {
-  uint8_t* at;
-  ptrdiff_t pitch;
-  ptrdiff_t width, height;  // pixels, rows; both at least 1
-};
-struct AreaPair {
-  uint8_t* dst;
-  ptrdiff_t dst_pitch;
-  const uint8_t* src;
-  ptrdiff_t src_pitch;
-  ptrdiff_t width, height;
-};
-
-// Whether two areas may have a byte in common: their spans of memory meet, unless they lie side by side in one image. Where
-// they have none, any order of work gives the same.
-bool share_memory(const Area& a, const Area& b);
-// Whether no row of an area runs into the next one: where one does, the order of its rows shows.
-bool rows_apart(const Area& a);
-inline Area dst_of(const AreaPair& n) { return {n.dst, n.dst_pitch, n.width, n.height}; }
-inline Area src_of(const AreaPair& n) {
-  return {const_cast<uint8_t*>(n.src), n.src_pitch, n.width, n.height};
-}
 
 // The clip of every one-image operation; false when nothing is left.
 bool clip_one(const ImageRecord* image, int32_t x, int32_t y, int32_t w, int32_t h, Area& area);

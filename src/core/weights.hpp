@@ -14,6 +14,15 @@ inline bool usable_opacity(float& opacity) {
 }
 inline uint32_t constant_weight(float opacity) { return static_cast<uint32_t>(trunc32(opacity * 256.0f)); }
 
+// (a * u + b * v) >> 8 in all four channels, two of them a product of 32 bits. Weights u and v that add up to more than 256
+// let channels run over into their neighbours.
+[[gnu::always_inline]] inline uint32_t weighted_sum(uint32_t a, uint32_t u, uint32_t b, uint32_t v) {
+  constexpr uint32_t lanes = 0x00FF00FF;
+  const uint32_t blue_red = ((a & lanes) * u + (b & lanes) * v) >> 8 & lanes;
+  const uint32_t green_alpha = ((a >> 8 & lanes) * u + (b >> 8 & lanes) * v) & ~lanes;
+  return blue_red | green_alpha;
+}
+
 // The weight, 0..256, of a pixel with this alpha (0..255) under an opacity of 0..1. The factor is a little
 // above 1 / 255, so that full opacity gives 256 for alpha 255, and the alpha itself below it.
 inline uint32_t alpha_weight(uint32_t alpha, float opacity) {

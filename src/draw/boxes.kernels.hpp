@@ -32,7 +32,7 @@ void tiles(const Area& n, const TileRows& rows, int64_t y, int64_t tile_height, 
   } else {
     const MaskedTile<Px> rule{Px::splat(mask)};
     tile_rows(n, rows, y, tile_height,
-              [&](uint8_t* dst, const uint8_t* src, size_t width) { row2<Px>(dst, src, width, rule); });
+              [&](uint8_t* dst, const uint8_t* src, size_t width) { walk_row<Px>(dst, width, rule, src); });
   }
 }
 
@@ -64,20 +64,14 @@ void gradient(const Area& n, const uint32_t* weights, const RowEnds* ends, uint3
   uint8_t* row = n.at;
   for (ptrdiff_t y = 0; y < n.height; ++y, row += n.pitch) {
     if (mask != 0) {
-      row2<Px>(row, w, width, Gradient<Px, true>(ends[y].left, ends[y].right, mask));
+      walk_row<Px>(row, width, Gradient<Px, true>(ends[y].left, ends[y].right, mask), w);
       continue;
     }
     const Gradient<Px, false> rule(ends[y].left, ends[y].right, mask);
-    size_t x = 0;
-    if (streaming.on() && can_align(row)) {
-      x = pixels_to_align(row);
-      row2<Px>(row, w, x, rule);
-      for (; x + Px::lanes <= width; x += Px::lanes) {
-        const Px weight = Px::load(w + 4 * x);
-        rule(weight, weight).stream(row + 4 * x);
-      }
-    }
-    row2<Px>(row + 4 * x, w + 4 * x, width - x, rule);
+    if (streaming.on() && can_align(row))
+      stream_row<Px>(row, width, rule, w);
+    else
+      walk_row<Px>(row, width, rule, w);
   }
 }
 
@@ -129,10 +123,10 @@ TESSARO_KERNELS(BoxKernels){
     .corners = corners,
     .multiply =
         [](uint8_t* row, const uint32_t* columns, size_t width, uint32_t colour) {
-          row2<Px>(row, reinterpret_cast<const uint8_t*>(columns), width, Multiply<Px>(colour));
+          walk_row<Px>(row, width, Multiply<Px>(colour), reinterpret_cast<const uint8_t*>(columns));
         },
     .exclusive =
         [](uint8_t* row, const uint32_t* columns, size_t width, uint32_t colour) {
-          row2<Px>(row, reinterpret_cast<const uint8_t*>(columns), width, Exclusive<Px>(colour));
+          walk_row<Px>(row, width, Exclusive<Px>(colour), reinterpret_cast<const uint8_t*>(columns));
         },
 };

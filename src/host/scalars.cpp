@@ -5,6 +5,7 @@
 
 #include "core/numbers.hpp"
 #include "core/random.hpp"
+#include "core/weights.hpp"
 #include "simd/processor.hpp"
 #include "tessaro/tessaro.h"
 
@@ -96,10 +97,7 @@ uint32_t TESSARO_CALL dwColorBlend(uint32_t colour0, uint32_t colour1, float fac
   if (!(factor >= 0.0f)) factor = 0.0f;
   if (factor > 1.0f) factor = 1.0f;
   const auto k = static_cast<uint32_t>(trunc32(factor * 256.0f));
-  const uint32_t j = 256 - k, lanes = 0x00FF00FF;
-  const uint32_t blue_red = ((colour0 & lanes) * j + (colour1 & lanes) * k) >> 8 & lanes;
-  const uint32_t green_alpha = ((colour0 >> 8 & lanes) * j + (colour1 >> 8 & lanes) * k) & ~lanes;
-  return blue_red | green_alpha;
+  return weighted_sum(colour0, 256 - k, colour1, k);
 }
 
 intptr_t TESSARO_CALL dllMethod1(TessaroMethod1 fn, intptr_t a) { return fn(a); }

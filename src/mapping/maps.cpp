@@ -42,9 +42,10 @@ struct Mapping {
 };
 
 bool runs_into_itself(const Mapping& m, ptrdiff_t y) {
-  const uintptr_t ahead = reinterpret_cast<uintptr_t>(m.areas.dst + y * m.areas.dst_pitch) -
-                          reinterpret_cast<uintptr_t>(m.areas.src + y * m.areas.src_pitch);
-  return ahead != 0 && ahead + 3 < 4 * map_block + 3;  // from 3 bytes behind, which still share a pixel
+  const uint8_t* dst = m.areas.dst + y * m.areas.dst_pitch;
+  const uint8_t* src = m.areas.src + y * m.areas.src_pitch;
+  return dst != src &&
+         reads_own_writes(dst + 4, src, 4 * (map_block + 1));  // less than a pixel behind counts too
 }
 
 // Whether pixels may be written in any order.

@@ -93,7 +93,7 @@ struct Alpha {
     if (on.invert) a = P::Half::splat(255) - a;
     if (on.min_with_dest) a = min(a, of_dest);
     if (on.max_with_dest) a = max(a, of_dest);
-    return with_alpha(d, join(a - a, a));
+    return with_alpha(d, whole(shl<8>(a)));
   }
 };
 
@@ -113,20 +113,14 @@ struct KeyedMix {
 };
 
 void fill(Area n, uint32_t colour) {
-  if (n.pitch == 4 * n.width) {
-    n.width *= n.height;
-    n.height = 1;
-  }
+  n = flattened(n);
   if (n.width < long_row) return walk1<Fill>(n, colour);
   for (; n.height > 0; --n.height, n.at += n.pitch)
     tessaro::processor::fill(n.at, colour, static_cast<size_t>(n.width));
 }
 
 void copy(AreaPair n) {
-  if (n.dst_pitch == 4 * n.width && n.src_pitch == 4 * n.width) {
-    n.width *= n.height;
-    n.height = 1;
-  }
+  n = flattened(n);
   const RowWriter write(n.width, n.height);
   for (; n.height > 0; --n.height, n.dst += n.dst_pitch, n.src += n.src_pitch) {
     const auto width = static_cast<size_t>(n.width);

@@ -31,11 +31,7 @@ TESSARO_INLINE bool any_bit(P a) {
 
 template <class Test>
 bool holds(const AreaPair& areas) {
-  AreaPair n = areas;
-  if (n.dst_pitch == 4 * n.width && n.src_pitch == 4 * n.width) {
-    n.width *= n.height;
-    n.height = 1;
-  }
+  AreaPair n = flattened(areas);
   constexpr size_t lanes = Px::lanes;
   const auto width = static_cast<size_t>(n.width);
   for (; n.height > 0; --n.height, n.dst += n.dst_pitch, n.src += n.src_pitch) {

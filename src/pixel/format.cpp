@@ -1,6 +1,7 @@
 #include "pixel/format.hpp"
 
 #include "core/clip.hpp"
+#include "core/overlap.hpp"
 #include "tessaro/tessaro.h"
 
 using namespace tessaro;
@@ -50,11 +51,6 @@ int32_t fill_bottom_up(ImageRecord* image, const void* bits, int32_t stride, con
         static_cast<size_t>(view.width));
   }
   return status_done;
-}
-
-bool meet(const void* a, size_t a_bytes, const void* b, size_t b_bytes) {
-  const auto x = reinterpret_cast<uintptr_t>(a), y = reinterpret_cast<uintptr_t>(b);
-  return x < y ? y - x < a_bytes : x - y < b_bytes;
 }
 
 }  // namespace
@@ -156,14 +152,14 @@ int32_t TESSARO_CALL BBIBltToF(void* dst, const uint32_t* src, int32_t count, in
     return status_done;
   }
   const size_t whole = left * format_bytes[f];
-  const bool free_table = !(use_table && meet(to, whole, table, 768));
+  const bool free_table = !(use_table && share_memory(to, whole, table, 768));
   if (use_table && free_table && k.looked_up_to[f] &&
       k.looked_up_to[f](to, from, left, parts, bytes(table), colour, weight))
     return status_done;
   // Through a piece of memory that stays in cache; pixel by pixel where a write may reach what is still to be
   // read.
   uint8_t piece[4 * 512];
-  const bool apart = free_table && !meet(to, whole, from, 4 * left);
+  const bool apart = free_table && !share_memory(to, whole, from, 4 * left);
   const size_t most = apart ? 512 : 1;
   while (left > 0) {
     const size_t n = left < most ? left : most;

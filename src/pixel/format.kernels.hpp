@@ -1,8 +1,8 @@
 // kernels: FormatKernels +avx512vbmi
 #include "pixel/format.hpp"
 
-#include "pixel/narrow.hpp"
 #include "simd/rules.hpp"
+#include "simd/walk.hpp"
 
 namespace {
 
@@ -14,21 +14,29 @@ TESSARO_INLINE P field_up(P a) {
   return shl<to - first>(a & P::splat(((1u << count) - 1) << first));
 }
 
-// The channels of a block apart, 16 bits each, in the order of Words.
+// The first n of 2 * lanes pixels.
+template <class P>
+TESSARO_INLINE Pair<P> load_pair(const uint8_t* at, size_t n) {
+  constexpr size_t lanes = P::lanes;
+  return {load_some<P>(at, n < lanes ? n : lanes),
+          n > lanes ? load_some<P>(at + 4 * lanes, n - lanes) : P::splat(0)};
+}
+
+// The channels of a block apart, 16 bits each, in the order of Halfwords.
 template <class P>
 struct Apart {
   typename P::Half blue, green, red, alpha;
   // Colours are moved up by so many bits.
   template <int up = 0>
   TESSARO_INLINE static Apart of(Pair<P> a) {
-    const Words<P> w = words(a.first, a.second);
+    const Halfwords<P> w = halfwords(a.first, a.second);
     if constexpr (up == 0)
       return {even(w.lower), odd(w.lower), even(w.upper), odd(w.upper)};
     else
       return {even_up<up>(w.lower), odd_up<up>(w.lower), even_up<up>(w.upper), odd(w.upper)};
   }
   // In the upper bytes; the lower ones are not cleared.
-  TESSARO_INLINE static Apart tops_of(Words<P> w) {
+  TESSARO_INLINE static Apart tops_of(Halfwords<P> w) {
     const auto lower = halves(w.lower), upper = halves(w.upper);
     return {shl<8>(lower), lower, shl<8>(upper), upper};
   }
@@ -124,15 +132,6 @@ struct AsAlpha {
   }
 };
 
-// True where a block of pixels may be read before its first one is written: the runs do not meet, or every
-// write stays behind the reads still to come.
-TESSARO_INLINE bool may_read_ahead(const uint8_t* dst, size_t dst_bytes, const uint8_t* src, size_t src_bytes,
-                                   size_t count) {
-  const auto d = reinterpret_cast<uintptr_t>(dst), s = reinterpret_cast<uintptr_t>(src);
-  if (d <= s && dst_bytes <= src_bytes) return true;
-  return d < s ? s - d >= dst_bytes * count : d - s >= src_bytes * count;
-}
-
 template <class Format>
 TESSARO_INLINE void write_block(uint8_t* dst, Pair<Px> a, Pair<Px> b) {
   a = {Format::encode(a.first), Format::encode(a.second)};
@@ -150,8 +149,8 @@ TESSARO_INLINE void write_block(uint8_t* dst, Pair<Px> a, Pair<Px> b) {
 }
 template <class Format>
 TESSARO_INLINE void write_block(uint8_t* dst, Apart<Px> a, Apart<Px> b) {
-  store_words(dst, Format::encode(a));
-  store_words(dst + 4 * Px::lanes, Format::encode(b));
+  store_halfwords(dst, Format::encode(a));
+  store_halfwords(dst + 4 * Px::lanes, Format::encode(b));
 }
 template <class Format>
 TESSARO_INLINE void write_one(uint8_t* dst, Pair<One> a) {
@@ -188,9 +187,9 @@ template <class Format>
 void encode(uint8_t* dst, const uint8_t* src, size_t count) {
   encode_run<Format>(dst, count, may_read_ahead(dst, Format::bytes, src, 4, count),
                      [src]<class P>(P, size_t x, size_t n) {
-                       const auto a = Pair<P>::load(src + 4 * x, n);
+                       const auto a = load_pair<P>(src + 4 * x, n);
                        if constexpr (of_words<Format>)
-                         return Apart<P>::tops_of(words(a.first, a.second));
+                         return Apart<P>::tops_of(halfwords(a.first, a.second));
                        else
                          return a;
                      });
@@ -213,7 +212,7 @@ void encode_mixed_with_colour(uint8_t* dst, const uint8_t* src, size_t count, ui
   encode_run<Format>(dst, count, may_read_ahead(dst, Format::bytes, src, 4, count),
                      [=]<class P>(P, size_t x, size_t n) {
                        const P c = P::splat(colour);
-                       return mixed<Format>(Pair<P>{c, c}, Pair<P>::load(src + 4 * x, n), weight);
+                       return mixed<Format>(Pair<P>{c, c}, load_pair<P>(src + 4 * x, n), weight);
                      });
 }
 
@@ -223,7 +222,7 @@ void encode_mixed(uint8_t* dst, const uint8_t* a, const uint8_t* b, size_t count
       dst, count,
       may_read_ahead(dst, Format::bytes, a, 4, count) && may_read_ahead(dst, Format::bytes, b, 4, count),
       [=]<class P>(P, size_t x, size_t n) {
-        return mixed<Format>(Pair<P>::load(a + 4 * x, n), Pair<P>::load(b + 4 * x, n), weight);
+        return mixed<Format>(load_pair<P>(a + 4 * x, n), load_pair<P>(b + 4 * x, n), weight);
       });
 }
 
@@ -232,7 +231,7 @@ void saturated(uint8_t* dst, const uint8_t* src, size_t count, tessaro::Saturati
                      parts.channel_part <= saturation_limit && may_read_ahead(dst, 4, src, 4, count),
                      [=]<class P>(P, size_t x, size_t n) {
                        const Saturate<P> saturate{parts.channel_part, parts.sum_part};
-                       const auto a = Pair<P>::load(src + 4 * x, n);
+                       const auto a = load_pair<P>(src + 4 * x, n);
                        return Pair<P>{saturate(a.first), saturate(a.second)};
                      });
 }
@@ -245,7 +244,7 @@ void encode_saturated(uint8_t* dst, const uint8_t* src, size_t count, tessaro::S
       dst, count, parts.channel_part <= saturation_limit && may_read_ahead(dst, Format::bytes, src, 4, count),
       [=]<class P>(P, size_t x, size_t n) {
         const Saturate<P> saturate{parts.channel_part, parts.sum_part};
-        auto a = Pair<P>::load(src + 4 * x, n);
+        auto a = load_pair<P>(src + 4 * x, n);
         if constexpr (P::lanes == 1) a.first = saturate(a.first);
         constexpr int up = P::lanes == 1 ? 0 : 5;
         auto c = Apart<P>::template of<up>(a);
@@ -260,9 +259,9 @@ TESSARO_INLINE P decode_at(const uint8_t* src) {
   if constexpr (Format::bytes == 4)
     return P::load(src);
   else if constexpr (Format::bytes == 3)
-    return Format::decode(load_triples<P>(src));
+    return Format::decode(P::load_triples(src));
   else
-    return Format::decode(load_words<P>(src));
+    return Format::decode(P::load_halfwords(src));
 }
 
 template <class Format>
@@ -348,10 +347,10 @@ TESSARO_INLINE void look_up_block(uint8_t* dst, const uint8_t* src, size_t n, co
                                   const Saturate<P>& saturate) {
   constexpr size_t pair = 2 * P::lanes;
   constexpr int up = saturates ? 5 : 0;
-  auto a = Apart<P>::template of<up>(Pair<P>::load(src, n < pair ? n : pair));
-  auto b = Apart<P>::template of<up>(Pair<P>::load(src + 4 * pair, n < pair ? 0 : n - pair));
+  auto a = Apart<P>::template of<up>(load_pair<P>(src, n < pair ? n : pair));
+  auto b = Apart<P>::template of<up>(load_pair<P>(src + 4 * pair, n < pair ? 0 : n - pair));
   if constexpr (saturates) {
-    const auto sum = [](P::Half c, P::Half grey) { return c + grey; };  // packing saturates
+    const auto sum = [](P::Half c, P::Half grey) { return c + grey; };  // unpaired keeps within bytes
     saturate.apart(a.blue, a.green, a.red, sum);
     saturate.apart(b.blue, b.green, b.red, sum);
   }
@@ -360,11 +359,10 @@ TESSARO_INLINE void look_up_block(uint8_t* dst, const uint8_t* src, size_t n, co
   const P red = look_up(curves.channel[2], unpaired(a.red, b.red));
   const auto lower = paired(blue, green), reds = paired(red, P::splat(0));
   const auto with_alpha = [&](P::Half r, P::Half alpha) {
-    const P mixed{(alpha * curves.weight + curves.behind_alpha).v};
-    return choose_bits(P::splat(0xFF00FF00), mixed, P{r.v});
+    return choose_bits(P::splat(0xFF00FF00), whole(alpha * curves.weight + curves.behind_alpha), whole(r));
   };
-  const Words<P> first{{lower.first.v}, with_alpha(reds.first, a.alpha)};
-  const Words<P> second{{lower.second.v}, with_alpha(reds.second, b.alpha)};
+  const Halfwords<P> first{whole(lower.first), with_alpha(reds.first, a.alpha)};
+  const Halfwords<P> second{whole(lower.second), with_alpha(reds.second, b.alpha)};
   if constexpr (of_words<Format>)
     write_block<Format>(dst, Apart<P>::tops_of(first), Apart<P>::tops_of(second));
   else

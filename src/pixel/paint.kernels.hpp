@@ -41,7 +41,7 @@ struct Colour {
   TESSARO_INLINE P operator()(P) const { return colour; }
 };
 TESSARO_INLINE void fill(uint8_t* row, int32_t begin, int32_t end, uint32_t colour) {
-  row1<Px>(row + 4 * begin, static_cast<size_t>(end - begin), Colour<Px>{Px::splat(colour)});
+  walk_row<Px>(row + 4 * begin, static_cast<size_t>(end - begin), Colour<Px>{Px::splat(colour)});
 }
 
 // Follows rows in which the old colour has exactly the place of this span, filling them, and returns the last one.

@@ -1,5 +1,6 @@
 #include "pixel/turn.hpp"
 
+#include "core/overlap.hpp"
 #include "tessaro/tessaro.h"
 
 using namespace tessaro;

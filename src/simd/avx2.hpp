@@ -36,6 +36,15 @@ struct Px {
   TESSARO_INLINE void store(void* p, size_t n) const {
     _mm256_maskstore_epi32(static_cast<int*>(p), first(n), v);
   }
+  TESSARO_INLINE static Px load_halfwords(const uint8_t* p) {
+    return {_mm256_cvtepu16_epi32(_mm_loadu_si128(reinterpret_cast<const __m128i*>(p)))};
+  }
+  TESSARO_INLINE static Px load_triples(const uint8_t* p) {
+    const __m256i spread = _mm256_setr_epi32(0, 1, 2, 2, 3, 4, 5, 5);
+    const __m256i from = _mm256_setr_epi8(0, 1, 2, -1, 3, 4, 5, -1, 6, 7, 8, -1, 9, 10, 11, -1,  //
+                                          0, 1, 2, -1, 3, 4, 5, -1, 6, 7, 8, -1, 9, 10, 11, -1);
+    return {_mm256_shuffle_epi8(_mm256_permutevar8x32_epi32(Px::load(p, 6).v, spread), from)};
+  }
   TESSARO_INLINE static Px splat(uint32_t x) { return {_mm256_set1_epi32(static_cast<int>(x))}; }
   TESSARO_INLINE static uint32_t bits(__m256i mask) {
     return static_cast<uint32_t>(_mm256_movemask_ps(_mm256_castsi256_ps(mask)));
@@ -147,6 +156,7 @@ TESSARO_INLINE Px::Half shr(Px::Half a) {
   return {_mm256_srli_epi16(a.v, k)};
 }
 TESSARO_INLINE Px::Half halves(Px a) { return {a.v}; }
+TESSARO_INLINE Px whole(Px::Half a) { return {a.v}; }
 template <int k>
 TESSARO_INLINE Px::Half colour_sums(Px a, int m, int c) {
   const __m256i pairs = _mm256_maddubs_epi16(a.v, _mm256_set1_epi32(0x010101 << k));
@@ -166,6 +176,22 @@ TESSARO_INLINE Px::Half ramp_alpha(Px a, const AlphaLine& line) {
   const __m256i values = _mm256_sra_epi32(sums, _mm_cvtsi32_si128(line.shift));
   const __m256i words = _mm256_packus_epi32(values, values);
   return {_mm256_min_epu16(_mm256_unpacklo_epi16(words, words), _mm256_set1_epi16(256))};
+}
+
+TESSARO_INLINE Px::Half falling_weights(Px::Half even, Px::Half odd, const FallingLine& line) {
+  const __m256i z = _mm256_and_si256(odd.v, _mm256_set1_epi32(0xFFFF));
+  const __m256i sum = _mm256_add_epi32(_mm256_madd_epi16(even.v, even.v), _mm256_madd_epi16(z, z));
+  const __m256i lengths = _mm256_cvttps_epi32(_mm256_sqrt_ps(_mm256_cvtepi32_ps(sum)));
+  const __m256d factor = _mm256_set1_pd(line.factor);
+  const auto weights = [factor](__m128i four) {
+    const __m256d most = _mm256_set1_pd(256);
+    return _mm256_cvttpd_epi32(
+        _mm256_min_pd(most, _mm256_sub_pd(most, _mm256_mul_pd(_mm256_cvtepi32_pd(four), factor))));
+  };
+  const __m256i weight = _mm256_set_m128i(weights(_mm256_extracti128_si256(lengths, 1)),
+                                          weights(_mm256_castsi256_si128(lengths)));
+  const __m256i limited = max(Px::Half{_mm256_packs_epi32(weight, weight)}, Px::Half::splat(0)).v;
+  return {_mm256_unpacklo_epi16(limited, limited)};
 }
 
 // --- Pixels as numbers, and moved about
@@ -229,7 +255,42 @@ TESSARO_INLINE Px from_sums(Px::Half first, Px::Half second) {
   return {_mm256_permute4x64_epi64(_mm256_packus_epi16(first.v, second.v), 0xD8)};
 }
 
-static_assert(PixelVector<Px> && MovingPixels<Px>);
+// --- Pixels of fewer bytes
+
+TESSARO_INLINE void store_halfwords(uint8_t* p, Px::Half a) {
+  const __m256i lower_first = _mm256_setr_epi8(0, 1, 4, 5, 8, 9, 12, 13, 2, 3, 6, 7, 10, 11, 14, 15,  //
+                                               0, 1, 4, 5, 8, 9, 12, 13, 2, 3, 6, 7, 10, 11, 14, 15);
+  Px{_mm256_permute4x64_epi64(_mm256_shuffle_epi8(a.v, lower_first), 0xD8)}.store(p);
+}
+TESSARO_INLINE void store_triples(uint8_t* p, Px a, Px b, Px c, Px d) {
+  // Twelve bytes at the front of each 128 bits; then each vector's six of 32 bits to where the stores want them.
+  const __m256i front = _mm256_setr_epi8(0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, -1, -1, -1, -1,  //
+                                         0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, -1, -1, -1, -1);
+  const auto placed = [front](Px x, __m256i order) {
+    return _mm256_permutevar8x32_epi32(_mm256_shuffle_epi8(x.v, front), order);
+  };
+  a.v = placed(a, _mm256_setr_epi32(0, 1, 2, 4, 5, 6, 7, 7));
+  b.v = placed(b, _mm256_setr_epi32(2, 4, 5, 6, 7, 7, 0, 1));
+  c.v = placed(c, _mm256_setr_epi32(5, 6, 7, 7, 0, 1, 2, 4));
+  d.v = placed(d, _mm256_setr_epi32(7, 7, 0, 1, 2, 4, 5, 6));
+  Px{_mm256_blend_epi32(a.v, b.v, 0xC0)}.store(p);
+  Px{_mm256_blend_epi32(b.v, c.v, 0xF0)}.store(p + 32);
+  Px{_mm256_blend_epi32(c.v, d.v, 0xFC)}.store(p + 64);
+}
+TESSARO_INLINE __m256i packed_bytes(Px a, Px b, Px c, Px d) {
+  return _mm256_permutevar8x32_epi32(
+      _mm256_packus_epi16(_mm256_packus_epi32(a.v, b.v), _mm256_packus_epi32(c.v, d.v)),
+      _mm256_setr_epi32(0, 4, 1, 5, 2, 6, 3, 7));
+}
+TESSARO_INLINE void store_bytes(uint8_t* p, Px a, Px b, Px c, Px d) { Px{packed_bytes(a, b, c, d)}.store(p); }
+TESSARO_INLINE void store_bits(uint8_t* p, Px a, Px b, Px c, Px d) {
+  const __m256i turn = _mm256_setr_epi8(7, 6, 5, 4, 3, 2, 1, 0, 15, 14, 13, 12, 11, 10, 9, 8,  //
+                                        7, 6, 5, 4, 3, 2, 1, 0, 15, 14, 13, 12, 11, 10, 9, 8);
+  const int bits = _mm256_movemask_epi8(_mm256_shuffle_epi8(packed_bytes(a, b, c, d), turn));
+  std::memcpy(p, &bits, sizeof bits);
+}
+
+static_assert(PixelVector<Px> && MovingPixels<Px> && PackedPixels<Px>);
 
 }  // namespace
 

@@ -26,6 +26,15 @@ struct Px {
   TESSARO_INLINE void stream(void* p) const { _mm512_stream_si512(static_cast<__m512i*>(p), v); }
   TESSARO_INLINE static void fence() { _mm_sfence(); }
   TESSARO_INLINE void store(void* p, size_t n) const { _mm512_mask_storeu_epi32(p, first(n), v); }
+  TESSARO_INLINE static Px load_halfwords(const uint8_t* p) {
+    return {_mm512_cvtepu16_epi32(_mm256_loadu_si256(reinterpret_cast<const __m256i*>(p)))};
+  }
+  TESSARO_INLINE static Px load_triples(const uint8_t* p) {
+    const __m512i spread = _mm512_setr_epi32(0, 1, 2, 2, 3, 4, 5, 5, 6, 7, 8, 8, 9, 10, 11, 11);
+    const __m512i from = _mm512_set4_epi32(static_cast<int>(0x800B0A09), static_cast<int>(0x80080706),
+                                           static_cast<int>(0x80050403), static_cast<int>(0x80020100));
+    return {_mm512_shuffle_epi8(_mm512_permutexvar_epi32(spread, _mm512_maskz_loadu_epi32(0xFFF, p)), from)};
+  }
   TESSARO_INLINE static Px splat(uint32_t x) { return {_mm512_set1_epi32(static_cast<int>(x))}; }
   TESSARO_INLINE static uint32_t bits(__mmask16 mask) { return mask; }
 };
@@ -136,6 +145,7 @@ TESSARO_INLINE Px::Half shr(Px::Half a) {
   return {_mm512_srli_epi16(a.v, k)};
 }
 TESSARO_INLINE Px::Half halves(Px a) { return {a.v}; }
+TESSARO_INLINE Px whole(Px::Half a) { return {a.v}; }
 template <int k>
 TESSARO_INLINE Px::Half colour_sums(Px a, int m, int c) {
   const __m512i pairs = _mm512_maddubs_epi16(a.v, _mm512_set1_epi32(0x010101 << k));
@@ -153,6 +163,19 @@ TESSARO_INLINE Px::Half ramp_alpha(Px a, const AlphaLine& line) {
   const __m512i values = _mm512_sra_epi32(sums, _mm_cvtsi32_si128(line.shift));
   const __m512i words = _mm512_packus_epi32(values, values);
   return {_mm512_min_epu16(_mm512_unpacklo_epi16(words, words), _mm512_set1_epi16(256))};
+}
+
+TESSARO_INLINE Px::Half falling_weights(Px::Half even, Px::Half odd, const FallingLine& line) {
+  const __m512i z = _mm512_maskz_mov_epi16(0x55555555, odd.v);
+  const __m512i sum = _mm512_add_epi32(_mm512_madd_epi16(even.v, even.v), _mm512_madd_epi16(z, z));
+  const __m512 lengths =
+      _mm512_roundscale_ps(_mm512_sqrt_ps(_mm512_cvtepi32_ps(sum)), _MM_FROUND_TO_ZERO | _MM_FROUND_NO_EXC);
+  // In floats, rounded once and downwards.
+  const __m512 all = _mm512_fnmadd_round_ps(lengths, _mm512_set1_ps(line.slope), _mm512_set1_ps(line.start),
+                                            _MM_FROUND_TO_NEG_INF | _MM_FROUND_NO_EXC);
+  const __m512i weight =
+      _mm512_max_epi32(_mm512_cvttps_epi32(_mm512_min_ps(_mm512_set1_ps(256), all)), _mm512_setzero_si512());
+  return {_mm512_shuffle_epi8(weight, _mm512_set4_epi32(0x0D0C0D0C, 0x09080908, 0x05040504, 0x01000100))};
 }
 
 // --- Pixels as numbers, and moved about
@@ -216,7 +239,58 @@ TESSARO_INLINE Px from_sums(Px::Half first, Px::Half second) {
                                    _mm512_packus_epi16(first.v, second.v))};
 }
 
-static_assert(PixelVector<Px> && MovingPixels<Px>);
+// --- Pixels of fewer bytes
+
+// Here the lanes are in the order of the pixels.
+template <>
+TESSARO_INLINE Halfwords<Px> halfwords<Px>(Px first, Px second) {
+  alignas(64) static constexpr uint16_t lower[] = {0,  2,  4,  6,  8,  10, 12, 14, 16, 18, 20,
+                                                   22, 24, 26, 28, 30, 32, 34, 36, 38, 40, 42,
+                                                   44, 46, 48, 50, 52, 54, 56, 58, 60, 62};
+  const __m512i from = Px::load(lower).v, next = _mm512_add_epi16(from, _mm512_set1_epi16(1));
+  return {{_mm512_permutex2var_epi16(first.v, from, second.v)},
+          {_mm512_permutex2var_epi16(first.v, next, second.v)}};
+}
+template <>
+TESSARO_INLINE Pair<Px> pixels<Px>(Halfwords<Px> w) {
+  alignas(64) static constexpr uint16_t first[] = {0,  32, 1,  33, 2,  34, 3,  35, 4,  36, 5,
+                                                   37, 6,  38, 7,  39, 8,  40, 9,  41, 10, 42,
+                                                   11, 43, 12, 44, 13, 45, 14, 46, 15, 47};
+  const __m512i from = Px::load(first).v, next = _mm512_add_epi16(from, _mm512_set1_epi16(16));
+  return {{_mm512_permutex2var_epi16(w.lower.v, from, w.upper.v)},
+          {_mm512_permutex2var_epi16(w.lower.v, next, w.upper.v)}};
+}
+TESSARO_INLINE void store_halfwords(uint8_t* p, Px::Half a) { Px{a.v}.store(p); }
+TESSARO_INLINE void store_triples(uint8_t* p, Px a, Px b, Px c, Px d) {
+  // Twelve bytes at the front of each 128 bits, then those of two vectors side by side.
+  const __m512i front = _mm512_set4_epi32(static_cast<int>(0x80808080), 0x0E0D0C0A, 0x09080605, 0x04020100);
+  a.v = _mm512_shuffle_epi8(a.v, front);
+  b.v = _mm512_shuffle_epi8(b.v, front);
+  c.v = _mm512_shuffle_epi8(c.v, front);
+  d.v = _mm512_shuffle_epi8(d.v, front);
+  Px{_mm512_permutex2var_epi32(a.v, _mm512_setr_epi32(0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, 16, 17, 18, 20),
+                               b.v)}
+      .store(p);
+  Px{_mm512_permutex2var_epi32(
+         b.v, _mm512_setr_epi32(5, 6, 8, 9, 10, 12, 13, 14, 16, 17, 18, 20, 21, 22, 24, 25), c.v)}
+      .store(p + 64);
+  Px{_mm512_permutex2var_epi32(
+         c.v, _mm512_setr_epi32(10, 12, 13, 14, 16, 17, 18, 20, 21, 22, 24, 25, 26, 28, 29, 30), d.v)}
+      .store(p + 128);
+}
+TESSARO_INLINE __m512i packed_bytes(Px a, Px b, Px c, Px d) {
+  const __m512i order = _mm512_setr_epi32(0, 4, 8, 12, 1, 5, 9, 13, 2, 6, 10, 14, 3, 7, 11, 15);
+  return _mm512_permutexvar_epi32(
+      order, _mm512_packus_epi16(_mm512_packus_epi32(a.v, b.v), _mm512_packus_epi32(c.v, d.v)));
+}
+TESSARO_INLINE void store_bytes(uint8_t* p, Px a, Px b, Px c, Px d) { Px{packed_bytes(a, b, c, d)}.store(p); }
+TESSARO_INLINE void store_bits(uint8_t* p, Px a, Px b, Px c, Px d) {
+  const __m512i turn = _mm512_set4_epi32(0x08090A0B, 0x0C0D0E0F, 0x00010203, 0x04050607);
+  const uint64_t bits = _mm512_movepi8_mask(_mm512_shuffle_epi8(packed_bytes(a, b, c, d), turn));
+  std::memcpy(p, &bits, sizeof bits);
+}
+
+static_assert(PixelVector<Px> && MovingPixels<Px> && PackedPixels<Px>);
 
 }  // namespace
 

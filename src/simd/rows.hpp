@@ -35,6 +35,18 @@ TESSARO_INLINE size_t pixels_to_align(const uint8_t* row) {
   return -reinterpret_cast<uintptr_t>(row) / 4 % Px::lanes;
 }
 
+// dst[x] = rule(dst[x], sources[x]...) for a row that is not read: past the caches from the first aligned vector to the last
+// whole one. The pixels must be such that can be aligned.
+template <class P, class Rule, class... Sources>
+TESSARO_INLINE void stream_row(uint8_t* dst, size_t width, const Rule& rule, const Sources*... sources) {
+  size_t x = pixels_to_align(dst);
+  if (x > width) x = width;
+  if (x != 0) part_step<P>(dst, 0, x, rule, sources...);
+  for (; x + P::lanes <= width; x += P::lanes)
+    rule(P::splat(0), P::load(sources + 4 * x)...).stream(dst + 4 * x);
+  if (const size_t rest = width - x) part_step<P>(dst, x, rest, rule, sources...);
+}
+
 // Copies rows of an area; chosen once for all its rows. Source and destination share no memory, or the destination
 // lies before its source.
 class RowWriter {
@@ -49,22 +61,15 @@ class RowWriter {
       __builtin_memmove(dst, src, 4 * width);
       return;
     }
+    if (streaming_.on() && can_align(dst)) return stream_row<Px>(dst, width, Replace<Px>{}, src);
     // Aligned stores: where the pitch is no multiple of a vector, others would cross two lines of the cache each.
-    const size_t ahead = pixels_to_align(dst);
-    if (ahead != 0 && width >= aligned_width) {
+    if (const size_t ahead = pixels_to_align(dst); ahead != 0 && width >= aligned_width) {
       Px::load(src, ahead).store(dst, ahead);
       dst += 4 * ahead;
       src += 4 * ahead;
       width -= ahead;
     }
-    if (streaming_.on() && reinterpret_cast<uintptr_t>(dst) % (4 * Px::lanes) == 0) {
-      const size_t whole = width / Px::lanes * Px::lanes;
-      for (size_t x = 0; x < whole; x += Px::lanes) Px::load(src + 4 * x).stream(dst + 4 * x);
-      dst += 4 * whole;
-      src += 4 * whole;
-      width -= whole;
-    }
-    row2<Px>(dst, src, width, Replace<Px>{});
+    walk_row<Px>(dst, width, Replace<Px>{}, src);
   }
 
  private:

@@ -2,6 +2,7 @@
 // overlapping memory demands one pixel after another.
 #pragma once
 
+#include "core/numbers.hpp"
 #include "simd/lanes.hpp"
 #include "simd/vocabulary.hpp"
 
@@ -21,11 +22,19 @@ struct One {
     std::memcpy(&a.v, p, 4);
     return a;
   }
-  TESSARO_INLINE static One load(const void* p, size_t) { return load(p); }
+  TESSARO_INLINE static One load(const void* p, size_t n) { return n == 0 ? One{0} : load(p); }
   TESSARO_INLINE void store(void* p) const { std::memcpy(p, &v, 4); }
-  TESSARO_INLINE void store(void* p, size_t) const { store(p); }
+  TESSARO_INLINE void store(void* p, size_t n) const {
+    if (n != 0) store(p);
+  }
   TESSARO_INLINE void stream(void* p) const { store(p); }
   TESSARO_INLINE static void fence() {}
+  TESSARO_INLINE static One load_halfwords(const uint8_t* p) {
+    return {p[0] | static_cast<uint32_t>(p[1]) << 8};
+  }
+  TESSARO_INLINE static One load_triples(const uint8_t* p) {
+    return {p[0] | static_cast<uint32_t>(p[1]) << 8 | static_cast<uint32_t>(p[2]) << 16};
+  }
   TESSARO_INLINE static One splat(uint32_t x) { return {x}; }
   TESSARO_INLINE static uint32_t bits(bool mask) { return mask; }
 };
@@ -93,9 +102,9 @@ TESSARO_INLINE One join_high(One::Half e, One::Half o) {
 TESSARO_INLINE Paired<One::Half> paired(One low, One high) {
   return {{even(low).v | even(high).v << 8}, {odd(low).v | odd(high).v << 8}};
 }
-TESSARO_INLINE One unpaired(One::Half first, One::Half second) { return join(first, second); }
 TESSARO_INLINE One::Half alpha_halves(One a) { return One::Half::splat(a.v >> 24); }
 TESSARO_INLINE One::Half halves(One a) { return {a.v}; }
+TESSARO_INLINE One whole(One::Half a) { return {a.v}; }
 template <int k>
 TESSARO_INLINE One::Half colour_sums(One a, int m, int c) {
   const auto sum = static_cast<int>((a.v & 255) + (a.v >> 8 & 255) + (a.v >> 16 & 255));
@@ -150,8 +159,11 @@ TESSARO_INLINE One join_sat(One::Half e, One::Half o) {
   const auto byte = [](One::Half c) { return min(max(c, One::Half::splat(0)), One::Half::splat(255)); };
   return join(byte(e), byte(o));
 }
+TESSARO_INLINE One unpaired(One::Half first, One::Half second) { return join_sat(first, second); }
 TESSARO_INLINE One::Half sum_in_byte(One::Half a, One::Half b) {
-  return min(max(a + b, One::Half::splat(0)), One::Half::splat(255));
+  return per_lane(a, b, [](uint32_t x, uint32_t y) {
+    return tessaro::clamp_byte(static_cast<int16_t>(x) + static_cast<int16_t>(y));
+  });
 }
 template <int k>
 TESSARO_INLINE One::Half shl(One::Half a) {
@@ -168,6 +180,15 @@ TESSARO_INLINE One::Half odd_up(One a) {
 template <int k>
 TESSARO_INLINE One::Half shr(One::Half a) {
   return per_lane(a, a, [](uint32_t x, uint32_t) { return x >> k; });
+}
+
+TESSARO_INLINE One::Half falling_weights(One::Half even, One::Half odd, const FallingLine& line) {
+  const int32_t x = static_cast<int16_t>(even.v), y = static_cast<int16_t>(even.v >> 16),
+                z = static_cast<int16_t>(odd.v);
+  const auto length = static_cast<int32_t>(__builtin_sqrtf(static_cast<float>(x * x + y * y + z * z)));
+  const double v = 256.0 - length * line.factor;
+  const int32_t weight = tessaro::trunc32(v > 256.0 ? 256.0 : v);
+  return One::Half::splat(weight < 0 ? 0 : static_cast<uint32_t>(weight));
 }
 
 // --- Pixels as numbers, and moved about
@@ -201,6 +222,36 @@ TESSARO_INLINE P picked_singly(const uint32_t* from, P where) {
   where.store(v);
   for (uint32_t& x : v) x = from[x % (2 * P::lanes)];
   return P::load(v);
+}
+
+// --- Pixels of fewer bytes
+
+template <class P>
+TESSARO_INLINE Halfwords<P> halfwords(P first, P second) {
+  const P lower = P::splat(0xFFFF);
+  return {choose_bits(lower, first, shl<16>(second)), choose_bits(lower, shr<16>(first), second)};
+}
+template <class P>
+TESSARO_INLINE Pair<P> pixels(Halfwords<P> w) {
+  const P lower = P::splat(0xFFFF);
+  return {choose_bits(lower, w.lower, shl<16>(w.upper)), choose_bits(lower, shr<16>(w.lower), w.upper)};
+}
+template <size_t bytes>
+TESSARO_INLINE void store_one(uint8_t* p, One a) {
+  for (size_t i = 0; i < bytes; ++i) p[i] = static_cast<uint8_t>(a.v >> 8 * i);
+}
+template <size_t bytes>
+TESSARO_INLINE void store_ones(uint8_t* p, One a, One b, One c, One d) {
+  store_one<bytes>(p, a);
+  store_one<bytes>(p + bytes, b);
+  store_one<bytes>(p + 2 * bytes, c);
+  store_one<bytes>(p + 3 * bytes, d);
+}
+TESSARO_INLINE void store_halfwords(uint8_t* p, One::Half a) { std::memcpy(p, &a.v, 4); }
+TESSARO_INLINE void store_triples(uint8_t* p, One a, One b, One c, One d) { store_ones<3>(p, a, b, c, d); }
+TESSARO_INLINE void store_bytes(uint8_t* p, One a, One b, One c, One d) { store_ones<1>(p, a, b, c, d); }
+TESSARO_INLINE void store_bits(uint8_t* p, One a, One b, One c, One d) {
+  *p = static_cast<uint8_t>((a.v & 128) | (b.v & 128) >> 1 | (c.v & 128) >> 2 | (d.v & 128) >> 3);
 }
 
 // --- Tables of bytes
@@ -237,6 +288,6 @@ TESSARO_INLINE OneQuad operator*(OneQuad a, const OneQuad& b) {
 using Px = One;
 using Quad = OneQuad;
 #endif
-static_assert(PixelVector<One> && MovingPixels<One> && LookedUpBytes<One>);
+static_assert(PixelVector<One> && MovingPixels<One> && PackedPixels<One> && LookedUpBytes<One>);
 
 }  // namespace

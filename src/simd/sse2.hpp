@@ -46,6 +46,20 @@ struct Px {
   }
   TESSARO_INLINE void stream(void* p) const { _mm_stream_si128(static_cast<__m128i*>(p), v); }
   TESSARO_INLINE static void fence() { _mm_sfence(); }
+  TESSARO_INLINE static Px load_halfwords(const uint8_t* p) {
+    return {_mm_unpacklo_epi16(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p)), _mm_setzero_si128())};
+  }
+  TESSARO_INLINE static Px load_triples(const uint8_t* p) {
+    const __m128i v = Px::load(p, 3).v;
+    const auto only = [](int lane) {
+      return _mm_setr_epi32(lane == 0 ? 0xFFFFFF : 0, lane == 1 ? 0xFFFFFF : 0, lane == 2 ? 0xFFFFFF : 0,
+                            lane == 3 ? 0xFFFFFF : 0);
+    };
+    return {
+        _mm_or_si128(_mm_or_si128(_mm_and_si128(v, only(0)), _mm_and_si128(_mm_slli_si128(v, 1), only(1))),
+                     _mm_or_si128(_mm_and_si128(_mm_slli_si128(v, 2), only(2)),
+                                  _mm_and_si128(_mm_slli_si128(v, 3), only(3))))};
+  }
   TESSARO_INLINE static Px splat(uint32_t x) { return {_mm_set1_epi32(static_cast<int>(x))}; }
   TESSARO_INLINE static uint32_t bits(__m128i mask) {
     return static_cast<uint32_t>(_mm_movemask_ps(_mm_castsi128_ps(mask)));
@@ -152,6 +166,7 @@ TESSARO_INLINE Px::Half shr(Px::Half a) {
   return {_mm_srli_epi16(a.v, k)};
 }
 TESSARO_INLINE Px::Half halves(Px a) { return {a.v}; }
+TESSARO_INLINE Px whole(Px::Half a) { return {a.v}; }
 template <int k>
 TESSARO_INLINE Px::Half colour_sums(Px a, int m, int c) {
   const __m128i factor = _mm_set1_epi16(static_cast<short>(m));
@@ -175,6 +190,20 @@ TESSARO_INLINE Px::Half ramp_alpha(Px a, const AlphaLine& line) {
   const __m128i values = _mm_sra_epi32(sums, _mm_cvtsi32_si128(line.shift));
   const __m128i words = _mm_packs_epi32(values, values);
   return min(max(Px::Half{_mm_unpacklo_epi16(words, words)}, Px::Half::splat(0)), Px::Half::splat(256));
+}
+
+TESSARO_INLINE Px::Half falling_weights(Px::Half even, Px::Half odd, const FallingLine& line) {
+  const __m128i z = _mm_and_si128(odd.v, _mm_set1_epi32(0xFFFF));
+  const __m128i sum = _mm_add_epi32(_mm_madd_epi16(even.v, even.v), _mm_madd_epi16(z, z));
+  const __m128i lengths = _mm_cvttps_epi32(_mm_sqrt_ps(_mm_cvtepi32_ps(sum)));
+  const __m128d factor = _mm_set1_pd(line.factor);
+  const auto weights = [factor](__m128i two) {
+    const __m128d most = _mm_set1_pd(256);
+    return _mm_cvttpd_epi32(_mm_min_pd(most, _mm_sub_pd(most, _mm_mul_pd(_mm_cvtepi32_pd(two), factor))));
+  };
+  const __m128i weight = _mm_unpacklo_epi64(weights(lengths), weights(_mm_unpackhi_epi64(lengths, lengths)));
+  const __m128i limited = max(Px::Half{_mm_packs_epi32(weight, weight)}, Px::Half::splat(0)).v;
+  return {_mm_unpacklo_epi16(limited, limited)};
 }
 
 // --- Pixels as numbers, and moved about
@@ -221,7 +250,40 @@ TESSARO_INLINE Paired<Px::Half> neighbour_sums(Px a, Px b) {
 }
 TESSARO_INLINE Px from_sums(Px::Half first, Px::Half second) { return join(first, second); }
 
-static_assert(PixelVector<Px> && MovingPixels<Px>);
+// --- Pixels of fewer bytes
+
+TESSARO_INLINE void store_halfwords(uint8_t* p, Px::Half a) {
+  const __m128i quarters = _mm_shufflehi_epi16(_mm_shufflelo_epi16(a.v, 0xD8), 0xD8);
+  Px{_mm_shuffle_epi32(quarters, 0xD8)}.store(p);
+}
+TESSARO_INLINE void store_triples(uint8_t* p, Px a, Px b, Px c, Px d) {
+  const auto front = [](Px x) {  // six bytes in each 64 bits, then twelve in 128
+    const __m128i low = _mm_set_epi32(0, 0xFFFFFF, 0, 0xFFFFFF);
+    const __m128i six = _mm_or_si128(_mm_and_si128(x.v, low),
+                                     _mm_slli_epi64(_mm_and_si128(_mm_srli_epi64(x.v, 32), low), 24));
+    return _mm_or_si128(_mm_move_epi64(six), _mm_slli_si128(_mm_srli_si128(six, 8), 6));
+  };
+  a.v = front(a);
+  b.v = front(b);
+  c.v = front(c);
+  d.v = front(d);
+  Px{_mm_or_si128(a.v, _mm_slli_si128(b.v, 12))}.store(p);
+  Px{_mm_or_si128(_mm_srli_si128(b.v, 4), _mm_slli_si128(c.v, 8))}.store(p + 16);
+  Px{_mm_or_si128(_mm_srli_si128(c.v, 8), _mm_slli_si128(d.v, 4))}.store(p + 32);
+}
+TESSARO_INLINE __m128i packed_bytes(Px a, Px b, Px c, Px d) {
+  return _mm_packus_epi16(_mm_packs_epi32(a.v, b.v), _mm_packs_epi32(c.v, d.v));
+}
+TESSARO_INLINE void store_bytes(uint8_t* p, Px a, Px b, Px c, Px d) { Px{packed_bytes(a, b, c, d)}.store(p); }
+TESSARO_INLINE void store_bits(uint8_t* p, Px a, Px b, Px c, Px d) {
+  auto bits = static_cast<uint32_t>(_mm_movemask_epi8(packed_bytes(a, b, c, d)));
+  bits = (bits & 0x5555) << 1 | (bits >> 1 & 0x5555);
+  bits = (bits & 0x3333) << 2 | (bits >> 2 & 0x3333);
+  bits = (bits & 0x0F0F) << 4 | (bits >> 4 & 0x0F0F);
+  std::memcpy(p, &bits, 2);
+}
+
+static_assert(PixelVector<Px> && MovingPixels<Px> && PackedPixels<Px>);
 
 }  // namespace
 

@@ -25,8 +25,9 @@
 //   join_sat(e, o)               back to bytes; signed lanes, kept within 0..255
 //   join_high(e, o)              back to bytes from the upper halves, that is shifted right by 8
 //   paired(low, high)            each byte of `high` above that of `low`: .first and .second hold the lanes in an order that
-//                                only unpaired(first, second) knows, which takes lanes of at most 255 back to bytes
-//   halves(a)                    the lower and the upper 16 bits of a pixel as they are
+//                                only unpaired(first, second) knows, which takes signed lanes back to bytes, kept within
+//                                0..255
+//   halves(a)                    the lower and the upper 16 bits of a pixel as they are; whole(h) is the pixel again
 //   alpha_halves(a)              the alpha in both lanes of each pixel
 //   colour_sums<k>(a, m, c)      (((blue + green + red) << k) * m + c) >> 16, signed, in both lanes; k at most 6, m of 16
 //                                bits with sign
@@ -36,6 +37,9 @@
 //   mul_high(a, b)               (a * b) >> 16, unsigned; mul_high_signed(a, b) signed
 //   sum_in_byte(a, b)            a + b (signed) kept within 0..255; b at most 255, the sum above -32512
 //   plus_equal(a, b)             a + 1 where a == b, else a
+//   falling_weights(e, o, line)  trunc(256 - length * factor) kept within 0..256, in both lanes, where length is the root,
+//                                truncated, of the squares of both lanes of e and the lower one of o, signed; their sum
+//                                below 2^20; see FallingLine
 //
 // A Quad holds the four channels of one pixel in 16 bits each, blue first; + and * are modulo 65536.
 //   Quad::of(p)                  from the four bytes of a pixel
@@ -57,6 +61,17 @@
 //   neighbour_sums(a, b)         of the 2 * lanes pixels a, b: each channel of every other pixel and of the one after it added,
 //                                in an order that only from_sums(.first, .second) knows, which takes lanes of at most 255 back
 //                                to bytes
+//
+// Pixels that memory holds in fewer than four bytes. Stores write exactly the bytes of their pixels, loads read no others.
+//   P::load_halfwords(p)         one vector from two bytes a pixel, and P::load_triples(p) from three; the upper bytes are 0
+//   halfwords(a, b)              the lower and the upper 16 bits of the 2 * lanes pixels a, b, in an order that only pixels()
+//                                and store_halfwords know
+//   pixels(halfwords)            .first and .second as they were
+//   store_halfwords(p, half)     the lower or the upper ones
+//   store_triples(p, a, b, c, d) the lower three bytes of 4 * lanes pixels
+//   store_bytes(p, a, b, c, d)   the lowest byte; the upper ones must be 0
+//   store_bits(p, a, b, c, d)    the top bit of the lowest byte, the first pixel in bit 7; the upper bytes must be 0. One
+//                                pixel a vector fills half a byte, the other half is 0.
 //
 // Tables of bytes:
 //   byte_tables<P>               whether look_up is worth while; without, it is one byte at a time
@@ -81,6 +96,32 @@ struct Unzipped {
 };
 
 using tessaro::AlphaLine;
+
+// The 2 * lanes pixels of two vectors, in their order.
+template <class P>
+struct Pair {
+  P first, second;
+};
+template <class P>
+struct Halfwords {
+  P lower, upper;
+};
+
+// Single precision gives the lengths exactly: a float holds every sum below 2^24, and the root of one less than a square lies
+// further below the integer than half a unit in the last place.
+//
+// The line is meant in doubles: the product is exact, the difference rounded once. Floats, rounded once and downwards, keep
+// the same integer part but where doubles round to 256: 256 - x does for x up to 2^-46. That takes a tiny factor; scaled by
+// 2^31, floats round at the same x. A factor that is not a number gives 0.
+struct FallingLine {
+  double factor;
+  float start = 256, slope = 0;
+  TESSARO_INLINE constexpr explicit FallingLine(float f) : factor(static_cast<double>(f)) {
+    const bool tiny = f > 0 && f <= 0x1p-46f;
+    start = tiny ? 256 + 0x1p-15f : 256;
+    slope = tiny ? f * 0x1p31f : f;
+  }
+};
 
 template <class H>
 struct Paired {
@@ -121,7 +162,7 @@ concept PixelVector = requires(P a, typename P::Half h, const void* in, void* ou
   { join_sat(even(a), odd(a)) } -> std::same_as<P>;
   { join_high(even(a), odd(a)) } -> std::same_as<P>;
   { unpaired(paired(a, a).first, h) } -> std::same_as<P>;
-  { halves(a) } -> std::same_as<typename P::Half>;
+  { whole(halves(a)) } -> std::same_as<P>;
   { alpha_halves(a) } -> std::same_as<typename P::Half>;
   { colour_sums<6>(a, 1, 1) } -> std::same_as<typename P::Half>;
   { lookup_alpha(a, table) } -> std::same_as<typename P::Half>;
@@ -130,6 +171,7 @@ concept PixelVector = requires(P a, typename P::Half h, const void* in, void* ou
   { min(max(h, h), P::Half::splat(1)) } -> std::same_as<typename P::Half>;
   { sum_in_byte(h, h) } -> std::same_as<typename P::Half>;
   { plus_equal(h, h) } -> std::same_as<typename P::Half>;
+  { falling_weights(h, h, FallingLine{1.0f}) } -> std::same_as<typename P::Half>;
   { mul_high(h, h) } -> std::same_as<typename P::Half>;
   { mul_high_signed(h, h) } -> std::same_as<typename P::Half>;
   { shl<1>(shr<1>(h)) } -> std::same_as<typename P::Half>;
@@ -160,6 +202,16 @@ concept MovingPixels = requires(P a, typename P::Half h, P (&rows)[P::lanes], co
   { pair_products(h, h) } -> std::same_as<P>;
   { trunc_dot(a, a, a, 0.5, 0.5, 0.5) } -> std::same_as<P>;
   { from_sums(neighbour_sums(a, a).first, h) } -> std::same_as<P>;
+};
+template <class P>
+concept PackedPixels = requires(P a, typename P::Half h, const uint8_t* in, uint8_t* out) {
+  { P::load_halfwords(in) } -> std::same_as<P>;
+  { P::load_triples(in) } -> std::same_as<P>;
+  { pixels(halfwords(a, a)) } -> std::same_as<Pair<P>>;
+  store_halfwords(out, h);
+  store_triples(out, a, a, a, a);
+  store_bytes(out, a, a, a, a);
+  store_bits(out, a, a, a, a);
 };
 template <class P>
 concept LookedUpBytes = requires(P a, const uint8_t* in) {

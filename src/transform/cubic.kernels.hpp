@@ -71,7 +71,7 @@ void inner(uint8_t* dst, const CubicColumns& columns, const CubicRow& row, size_
         std::memcpy(&taps.samples[k][x], row.source[acting[k].row] + at + 4 * acting[k].column, 4);
     }
     taps.merge_all(padded);
-    row2<Px>(dst + 4 * from, reinterpret_cast<const uint8_t*>(taps.samples[0]), pixels, Replace<Px>{});
+    walk_row<Px>(dst + 4 * from, pixels, Replace<Px>{}, reinterpret_cast<const uint8_t*>(taps.samples[0]));
   }
 }
 

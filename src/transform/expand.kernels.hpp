@@ -39,10 +39,10 @@ void gradient(const Stretch& n, const Gradient& g) {
     const uint8_t* columns = weights + 4 * static_cast<ptrdiff_t>(x);
     if constexpr (std::same_as<P, Px>) {
       rule.start_row(row);
-      row3<P>(dst, src, columns, static_cast<size_t>(width), rule);
+      walk_row<P>(dst, static_cast<size_t>(width), rule, src, columns);
     } else {
       one.start_row(row);
-      row3<P>(dst, src, columns, static_cast<size_t>(width), one);
+      walk_row<P>(dst, static_cast<size_t>(width), one, src, columns);
     }
   });
 }

@@ -23,6 +23,21 @@ struct RenderRule {
   }
 };
 
+template <>
+struct RenderRule<
+    One> {  // weights of any size: two channels a product of 32 bits, which may run over into each other
+  const Render& r;
+  TESSARO_INLINE explicit RenderRule(const Render& render) : r(render) {}
+  TESSARO_INLINE One operator()(One d, One s) const {
+    using tessaro::weighted_sum;
+    if (const uint32_t w = r.table[r.tint >> 24]; r.tinted)
+      s = with_alpha(One{weighted_sum(s.v, 256 - w, r.tint, w)}, s);
+    const uint32_t weight = r.table[s.v >> 24];
+    return r.add ? add_sat(d, One{weighted_sum(0, 0, s.v, weight)})
+                 : One{weighted_sum(d.v, 256 - weight, s.v, weight)};
+  }
+};
+
 // The sample between two interpolated rows, then the rule.
 template <class P, class Rule>
 struct Between {
@@ -144,12 +159,12 @@ TESSARO_INLINE void bilinear(const Bilinear& b, const Args&... args) {
     const auto *top = reinterpret_cast<const uint8_t*>(upper.pixels),
                *bottom = reinterpret_cast<const uint8_t*>(lower.pixels);
     if (!prepared) {
-      row3<Px>(dst, top, bottom, width, between);
+      walk_row<Px>(dst, width, between, top, bottom);
       continue;
     }
     for (size_t x = 0; x < width; x += part_width) {
       const size_t part = width - x < part_width ? width - x : part_width;
-      row3<Px>(pixels, top + 4 * x, bottom + 4 * x, part, between);
+      walk_row<Px>(pixels, part, between, top + 4 * x, bottom + 4 * x);
       write(dst + 4 * x, pixels, part);
     }
   }

@@ -124,9 +124,9 @@ struct Assemble {
 void choose(ChooseRows rows, size_t width, const Assembly& from) {
   constexpr size_t vector = 4 * Px::lanes;
   if (reads_own_writes(rows.dst, rows.colour, vector) || reads_own_writes(rows.dst, rows.alpha, vector))
-    row3<One>(rows.dst, rows.colour, rows.alpha, width, Assemble<One>{from});
+    walk_row<One>(rows.dst, width, Assemble<One>{from}, rows.colour, rows.alpha);
   else
-    row3<Px>(rows.dst, rows.colour, rows.alpha, width, Assemble<Px>{from});
+    walk_row<Px>(rows.dst, width, Assemble<Px>{from}, rows.colour, rows.alpha);
 }
 
 // By shifts, or by one byte shuffle an image where there is one.

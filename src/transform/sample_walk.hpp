@@ -194,9 +194,9 @@ struct RowsByRule {
   template <class P>
   TESSARO_INLINE void operator()(uint8_t* dst, const uint8_t* src, int32_t, int32_t width, int32_t) const {
     if constexpr (std::same_as<P, V>)
-      row2<P>(dst, src, static_cast<size_t>(width), rule);
+      walk_row<P>(dst, static_cast<size_t>(width), rule, src);
     else
-      row2<P>(dst, src, static_cast<size_t>(width), one);
+      walk_row<P>(dst, static_cast<size_t>(width), one, src);
   }
 };
 
