@@ -191,8 +191,10 @@ enum TessaroRender {
 /**
  * Brings each sample into d by a table of weights and a mode.
  *
- * @param[in] table [256 words] Weights of 0..256 by alpha, for example from BBIAlphaTableCreate; larger ones
- *     give unspecified colours. Read once, before the first pixel is written.
+ * @param[in] table [256 words] Weights of 0..256 by alpha, for example from BBIAlphaTableCreate. With larger
+ *     ones channels run over into their neighbours, since two go through one sum of 32 bits:
+ *     `((x & 0x00FF00FF) * (256 - w) + (y & 0x00FF00FF) * w) >> 8`. Read once, before the first pixel is
+ *     written.
  * @param mode [one of TessaroRender] What becomes of the sample.
  * @param smooth [flag] Interpolate; off: always the nearest sample.
  * @param tint [colour] The colour of the tint.

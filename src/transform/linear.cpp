@@ -1,5 +1,8 @@
 #include "transform/linear.hpp"
 
+#include <algorithm>
+#include <iterator>
+
 #include "core/weights.hpp"
 #include "tessaro/tessaro.h"
 
@@ -69,13 +72,16 @@ int32_t TESSARO_CALL BBILinearRender(ImageRecord* dst, const ImageRecord* src, i
   if (!clip_linear(dst, src, r)) return status_nothing;
   uint32_t weights[256];  // the host's need not be aligned
   std::memcpy(weights, table, sizeof weights);
+  // Vectors hold weights of up to 256; single pixels take any.
+  const bool usual = std::all_of(weights, std::end(weights), [](uint32_t w) { return w <= 256; });
+  const LinearKernels& k = kernels<LinearKernels>(usual ? active_backend : Backend::scalar);
   const Render render = {weights, mode == 1 || mode == 3, mode == 2 || mode == 3, tint_colour};
   if (!smooth || is_for_nearest(r)) {
     run_stretch(ImageView::of(dst), ImageView::of(src), r,
-                [&](const Stretch& n) { kernels<LinearKernels>().render_nearest(n, render); });
+                [&](const Stretch& n) { k.render_nearest(n, render); });
     return status_done;
   }
-  return interpolate(dst, src, r, [&](const Bilinear& b) { kernels<LinearKernels>().render(b, render); });
+  return interpolate(dst, src, r, [&](const Bilinear& b) { k.render(b, render); });
 }
 
 }  // extern "C"

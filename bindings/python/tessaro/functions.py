@@ -6368,8 +6368,9 @@ def BBILinearRender(
     sh : int, pixels
         The size of the rectangle in `src`.
     table : buffer of 256 words
-        Weights of 0..256 by alpha, for example from BBIAlphaTableCreate; larger ones give unspecified
-        colours. Read once, before the first pixel is written.
+        Weights of 0..256 by alpha, for example from BBIAlphaTableCreate. With larger ones channels run over
+        into their neighbours, since two go through one sum of 32 bits: `((x & 0x00FF00FF) * (256 - w) + (y
+        & 0x00FF00FF) * w) >> 8`. Read once, before the first pixel is written.
     mode : Render
         What becomes of the sample.
     smooth : int, flag
