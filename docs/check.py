@@ -160,7 +160,10 @@ LOOK = """(async () => {
   const text = document.querySelector("article").cloneNode(true);
   text.querySelectorAll("code, pre, script, style, .entry").forEach(node => node.remove());
   for (const match of text.textContent.matchAll(/.*(`|\\*\\*|\\]\\().*/g)) missing.push("markup: " + match[0]);
-  const wide = document.scrollingElement.scrollWidth - innerWidth;
+  // The theme lets a part of the page scroll rather than the page.
+  let wide = 0;
+  for (let part = document.querySelector("article"); part; part = part.parentElement)
+    wide = Math.max(wide, part.scrollWidth - screen.width);
   return missing.filter(Boolean).concat(wide > 0 ? ["wider than a phone by " + wide] : []);
 })()"""
 

@@ -20,14 +20,14 @@ import struct
 HERE = pathlib.Path(__file__).resolve().parent
 ROOT = HERE.parent.parent
 
-# Where the bindings declare a function: what a page calls the language, its highlighter, the file, and what a
-# declaration looks like there. A binding that is not there is left out.
+# How the bindings declare a function: what a page calls the language, its highlighter, the files below bindings/, and what a
+# declaration looks like there. A language that has no binding is left out.
 LANGUAGES = [
-    ("Python", "python", "bindings/python/tessaro/functions.pyi", r"^def NAME\(.*?\) -> [^:]*:"),
-    ("Lua", "c", "bindings/lua/tessaro.lua", r"^[^\n(]*\bNAME\([^;]*;"),
-    ("C#", "csharp", "bindings/csharp/Tessaro.cs", r"^ *public static (?:extern |unsafe )*[^\n(]*\bNAME\([^;{=]*"),
-    ("JavaScript", "typescript", "bindings/javascript/tessaro.d.ts", r"^ *(?:export )?(?:function )?NAME\(.*?;"),
-    ("Pascal", "pascal", "bindings/pascal/tessaro.pas", r"^ *function NAME\b[^;]*(?:\([^)]*\))?[^;]*;"),
+    ("Python", "python", "*.pyi", r"^def NAME\(.*?\) -> [^:\n]*"),
+    ("Lua", "c", "*.lua", r"^[^\n(]*\bNAME\([^;]*;"),
+    ("C#", "csharp", "*.cs", r"^ *public static (?:extern |unsafe )*[^\n(]*\bNAME\([^;{=]*"),
+    ("JavaScript", "typescript", "*.d.ts", r"^ *(?:export )?(?:function )?NAME\(.*?;"),
+    ("Pascal", "pascal", "*.pas", r"^ *(?:function|procedure) NAME\b[^;(]*(?:\([^)]*\))?[^;]*;"),
 ]
 EXAMPLES_BEGIN = "In Python, after `from array import array`, `from tessaro import Image, constants`, `from tessaro.functions import *`."
 MOST_FIGURES = 6  # on the page of a function that many entries of the gallery call
@@ -66,8 +66,9 @@ class Reference:
         self.tasks = self.read_tasks()
         self.examples = read_examples()
         self.gallery = gallery
-        self.declarations = [(title, highlighter, (ROOT / path).read_text(), pattern)
-                             for title, highlighter, path, pattern in LANGUAGES if (ROOT / path).exists()]
+        self.declarations = [(title, highlighter, "\n".join(f.read_text() for f in sorted((ROOT / "bindings").rglob(files))
+                                                            if "node_modules" not in f.parts), pattern)
+                             for title, highlighter, files, pattern in LANGUAGES]
         # What text may name, and where that is described.
         self.places = {name: f"../functions/{name}.md" for name in self.functions}
         self.places |= {t["name"]: f"../types.md#{t['name'].lower()}" for t in self.api["types"]}
