@@ -18,6 +18,9 @@ install() {
   done
   [ ${#missing[@]} = 0 ] && return 0
   printf '\n== Installing %s\n' "${missing[*]}"
+  for package in "${missing[@]}"; do  # of another architecture, `name:architecture`
+    [[ $package != *:* ]] || as_root dpkg --add-architecture "${package#*:}"
+  done
   as_root apt-get update -qq || true  # a stale list of one source need not matter; the install decides
   as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >&2
 }
