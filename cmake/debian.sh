@@ -13,8 +13,9 @@ as_root() {
 install() {
   local missing=() package
   command -v dpkg-query >/dev/null || { printf 'Not a Debian machine. Needed: %s\n' "$*" >&2; return 0; }
-  for package in "$@"; do
-    [ "$(dpkg-query --show --showformat='${db:Status-Status}' "$package" 2>/dev/null)" = installed ] || missing+=("$package")
+  for package in "$@"; do  # of this machine's architecture, or `name:architecture`
+    dpkg-query --show --showformat='${Architecture} ${db:Status-Status}\n' "$package" 2>/dev/null |
+      grep -qE "^(all|$([[ $package == *:* ]] && echo "${package#*:}" || dpkg --print-architecture)) installed" || missing+=("$package")
   done
   [ ${#missing[@]} = 0 ] && return 0
   printf '\n== Installing %s\n' "${missing[*]}"
@@ -22,5 +23,5 @@ install() {
     [[ $package != *:* ]] || as_root dpkg --add-architecture "${package#*:}"
   done
   as_root apt-get update -qq || true  # a stale list of one source need not matter; the install decides
-  as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >&2
+  as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq -o DPkg::Lock::Timeout=300 --no-install-recommends "${missing[@]}" >&2
 }
