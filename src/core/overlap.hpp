@@ -36,10 +36,15 @@ inline Area src_of(const AreaPair& n) {
   return {const_cast<uint8_t*>(n.src), n.src_pitch, n.width, n.height};
 }
 
+// Addresses may be numbers as well: what lies outside a buffer has one too, which need not fit a pointer.
+template <class Address>
+[[gnu::always_inline]] constexpr bool share_memory(Address a, Address a_bytes, Address b, Address b_bytes) {
+  return a < b ? b - a < a_bytes : a - b < b_bytes;
+}
 [[gnu::always_inline]] inline bool share_memory(const void* a, size_t a_bytes, const void* b,
                                                 size_t b_bytes) {
-  const auto x = reinterpret_cast<uintptr_t>(a), y = reinterpret_cast<uintptr_t>(b);
-  return x < y ? y - x < a_bytes : x - y < b_bytes;
+  return share_memory<uintptr_t>(reinterpret_cast<uintptr_t>(a), a_bytes, reinterpret_cast<uintptr_t>(b),
+                                 b_bytes);
 }
 // Areas that lie side by side in one image do not meet, although the spans of memory from their first to their last byte do.
 bool share_memory(const Area& a, const Area& b);
@@ -49,11 +54,16 @@ bool share_memory(const Area& a, const Area& b);
   return ahead != 0 && ahead < bytes;
 }
 
+template <class Address>
+[[gnu::always_inline]] constexpr bool may_read_ahead(Address dst, Address dst_bytes, Address src,
+                                                     Address src_bytes, Address count) {
+  if (dst <= src && dst_bytes <= src_bytes) return true;
+  return !share_memory<Address>(dst, dst_bytes * count, src, src_bytes * count);
+}
 [[gnu::always_inline]] inline bool may_read_ahead(const void* dst, size_t dst_bytes, const void* src,
                                                   size_t src_bytes, size_t count) {
-  if (reinterpret_cast<uintptr_t>(dst) <= reinterpret_cast<uintptr_t>(src) && dst_bytes <= src_bytes)
-    return true;
-  return !share_memory(dst, dst_bytes * count, src, src_bytes * count);
+  return may_read_ahead<uintptr_t>(reinterpret_cast<uintptr_t>(dst), dst_bytes,
+                                   reinterpret_cast<uintptr_t>(src), src_bytes, count);
 }
 
 inline bool rows_apart(const Area& a) { return a.pitch >= 4 * a.width || -a.pitch >= 4 * a.width; }

@@ -48,12 +48,6 @@ bool runs_into_itself(const Mapping& m, ptrdiff_t y) {
          reads_own_writes(dst + 4, src, 4 * (map_block + 1));  // less than a pixel behind counts too
 }
 
-// Whether pixels may be written in any order.
-bool apart(const AreaPair& n) {
-  if (!rows_apart(dst_of(n))) return false;
-  return (n.dst == n.src && n.dst_pitch == n.src_pitch) || !share_memory(dst_of(n), src_of(n));
-}
-
 // The rows at the top that go through tables, one for every map row in use: how many they are. Building the tables and
 // transposing tiles take a good many rows to pay; then they do by far (BBIMapUCVX/512: 4.5 times single bytes).
 ptrdiff_t by_tables(const Mapping& m, const int32_t* offsets) {
@@ -134,7 +128,9 @@ void run(const Mapping& m) {
   else if (m.rows == Rows::column)
     for (ptrdiff_t x = 0; x < n.width; ++x) offsets[static_cast<size_t>(x)] = m.offset(4 * int64_t{x});
 
-  if (m.rows == Rows::column && apart(n)) return by_columns(m, offsets.data());
+  const bool in_place = n.dst == n.src && n.dst_pitch == n.src_pitch;
+  if (m.rows == Rows::column && rows_apart(dst_of(n)) && (in_place || !share_memory(dst_of(n), src_of(n))))
+    return by_columns(m, offsets.data());
 
   const MapByValue values{m.map.pixels, offsets.data(), m.rows == Rows::sum, m.from_dest, m.keep_alpha};
   const auto width = static_cast<size_t>(n.width);

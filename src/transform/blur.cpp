@@ -38,13 +38,14 @@ void blur_in_order(uint8_t* dst, ptrdiff_t dst_step, const uint8_t* src, ptrdiff
 void blur_rows(AreaPair n, ptrdiff_t r, bool loop) {
   const MeanKernels& k = kernels<MeanKernels>();
   const auto width = static_cast<size_t>(n.width), radius = static_cast<size_t>(r);
+  const size_t row = 4 * width;
   // Room for the window that hangs over at both ends.
   HeapArray<uint16_t> sums(4 * (width + 2 * radius + 1));
   const Divider full = dividers.of(2 * radius + 1);
   for (; n.height > 0; --n.height, n.dst += n.dst_pitch, n.src += n.src_pitch) {
     // A whole row is read before it is written. In order, pixel i + r is read before pixel i is written, so that only
     // a destination further ahead of its source than that, or one that a loop comes back to, makes a difference.
-    if (!sums || (rows_meet(n) && (loop || distance(n) > 4 * r))) {
+    if (!sums || (share_memory(n.dst, row, n.src, row) && (loop || distance(n) > 4 * r))) {
       blur_in_order(n.dst, 4, n.src, 4, n.width, r, loop);
       continue;
     }

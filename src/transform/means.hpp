@@ -45,10 +45,6 @@ constexpr uint32_t divided(uint64_t sums, Divider by) {
 inline ptrdiff_t distance(const AreaPair& n) {
   return static_cast<ptrdiff_t>(reinterpret_cast<uintptr_t>(n.dst) - reinterpret_cast<uintptr_t>(n.src));
 }
-inline bool rows_meet(const AreaPair& n) {
-  const size_t row = 4 * static_cast<size_t>(n.width);
-  return share_memory(n.dst, row, n.src, row);
-}
 // True where no row of the destination runs into another and each of its columns meets no column of the source but its own,
 // so that all columns may move down together.
 inline bool columns_apart(const AreaPair& n) {

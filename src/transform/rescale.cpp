@@ -77,7 +77,8 @@ void scale_rows(AreaPair n, int32_t num, int32_t den) {
   for (; n.height > 0; --n.height, n.dst += n.dst_pitch, n.src += n.src_pitch) {
     // A whole row is read before it is written. In order, every pixel is read before its own place is written, so that
     // only a destination on the side where reading has yet to come makes a difference.
-    if (!sums || !parts || !places || (rows_meet(n) && (backward ? distance(n) < 0 : distance(n) > 0))) {
+    if (!sums || !parts || !places ||
+        (backward ? reads_own_writes(n.src, n.dst, 4 * width) : reads_own_writes(n.dst, n.src, 4 * width))) {
       scale_in_order(n.dst, 4, n.src, 4, n.width, num, den);
       continue;
     }

@@ -27,7 +27,7 @@ void resample(const Wave& to, const Wave& from, double ratio, int32_t fine, Behi
   const int64_t inside = frames_below(static_cast<double>(from.count), ratio, to.count);
   const auto before = [ratio](int64_t i) { return static_cast<int64_t>(static_cast<double>(i) * ratio); };
   // A source that the destination overwrites is taken one frame after another.
-  const bool apart = to.address(to.count) <= from.address(0) || from.address(from.count) <= to.address(0);
+  const bool apart = !share_memory(to.data, to.bytes(), from.data, from.bytes());
   const int lanes = lanes_of(to, from);
   const Side<int16_t> dst(to, 0, lanes), src(from, 0, lanes);
   const auto blend = kernels<ResampleKernels>().blend[lanes - 1];

@@ -28,11 +28,6 @@ bool well_spaced(double place, const Taps& taps) {
   return place < ring_frames - 4;
 }
 
-struct Memory {
-  int64_t at, bytes;
-};
-bool apart(Memory a, Memory b) { return a.at + a.bytes <= b.at || b.at + b.bytes <= a.at; }
-
 }  // namespace
 
 extern "C" int32_t TESSARO_CALL waveEffectReverbA1(const WaveBuffer* buffer, int32_t* frame_position,
@@ -43,8 +38,7 @@ extern "C" int32_t TESSARO_CALL waveEffectReverbA1(const WaveBuffer* buffer, int
   if (count < 1 || load<WaveBuffer>(ring).count < ring_frames) return status_nothing;
   if (!open_wave(buffer, wave) || load<WaveBuffer>(buffer).count == 0) return status_nothing;
   if (!open_wave(ring, echoes) || echoes.stored != stored64) return status_nothing;
-  if (!(level > 0.0)) level = 0.0;
-  if (level > 99.99) level = 99.99;
+  level = clamped(level, 0.0, 99.99);
   predelay = clamped(predelay, 10, 88200);
   spread = clamped(spread, 1, 44100);
   taps = clamped(taps, 1, static_cast<int32_t>(most_taps));
@@ -66,12 +60,13 @@ extern "C" int32_t TESSARO_CALL waveEffectReverbA1(const WaveBuffer* buffer, int
       clear_frames(echoes.data, (origin + i) & ring_mask, 1);
   };
   const int64_t first = smaller(side.first_inside(), count), last = larger(side.last_inside(count), first);
-  const Memory ring_memory = {echoes.address(0), 16 * ring_frames},
-               table_memory = {static_cast<int64_t>(reinterpret_cast<uintptr_t>(table)), 24 * most_taps},
-               sound_memory = {side.address(first), (last - first) * side.frame_bytes()};
+  constexpr size_t ring_bytes = 16 * ring_frames, table_bytes = 24 * most_taps;
+  const uint8_t* sound = side.bytes_at(first);
+  const auto sound_bytes = static_cast<size_t>((last - first) * side.frame_bytes());
   const bool by_taps = kernel.scatter_block != nullptr && well_spaced(predelay, all) &&
-                       apart(ring_memory, table_memory) && apart(ring_memory, sound_memory) &&
-                       apart(table_memory, sound_memory);
+                       !share_memory(echoes.data, ring_bytes, table, table_bytes) &&
+                       !share_memory(echoes.data, ring_bytes, sound, sound_bytes) &&
+                       !share_memory(table, table_bytes, sound, sound_bytes);
   pass(0, first);
   for (int64_t i = first, n; i < last; i += n) {
     const int64_t position = (origin + i) & ring_mask;

@@ -29,6 +29,7 @@ struct Wave {
   int lanes;  // channels
 
   size_t frame_bytes() const { return stored_bytes[stored] * static_cast<size_t>(lanes); }
+  size_t bytes() const { return static_cast<size_t>(count) * frame_bytes(); }
   void silence(uint8_t* to, int64_t frames) const {
     std::memset(to, stored == stored8 ? 128 : 0, static_cast<size_t>(frames) * frame_bytes());
   }
@@ -44,12 +45,6 @@ struct Wave {
 
 // False when a field of the record's format code is invalid.
 bool open_wave(const WaveBuffer* record, Wave& wave);
-
-// Adds a frame at the float scale to the one that is stored and saturates, each stored form in its own way:
-// 8-bit clamps only where the stored byte is below 128, 16-bit wraps and replaces only -32768, the others clamp. No export
-// mixes at that scale yet.
-void AddWave64(void* data, int32_t index, int32_t bits, int32_t channels, int32_t count, double left,
-               double right);
 
 // Integer codes times a gain, truncated, in one multiplication: by `gain`, or for a magnitude a of 16 bits or less
 // a * (whole + (high + low / 65536) / 65536); from `most` on the product is beyond the highest code.

@@ -64,36 +64,6 @@ TEST(Samples, WritesWrapTruncateAndClampAsTheirScaleSays) {
     }
 }
 
-TEST(Samples, MixingSaturatesEachFormInItsOwnWay) {
-  const auto mixed = [](int32_t bits, int64_t before, double v) {
-    uint8_t bytes[16];
-    const Buffer stereo{bytes, 1, bits, 2}, mono{bytes + 8, 1, bits, 1};
-    for (const Buffer& b : {stereo, mono}) {
-      for (int lane = 0; lane < b.channels; ++lane) b.put(0, lane, before);
-      AddWave64(b.data, 0, bits, b.channels, 1, v, v);
-      EXPECT_EQ(b.stored(0, 1), stereo.stored(0, 0)) << bits << ' ' << before << ' ' << v;
-    }
-    return stereo.stored(0, 0);
-  };
-  EXPECT_EQ(mixed(16, 30000, 0.5), -19153);
-  EXPECT_EQ(mixed(16, -1, -1.0), -32767);  // -32768 is replaced
-  EXPECT_EQ(mixed(24, 8388000, 0.5), 8388607);
-  EXPECT_EQ(mixed(24, -8388000, -0.5), -8388607);
-  for (int byte = 0; byte < 256; ++byte)
-    for (int step = -127; step <= 127; ++step) {
-      // Biased sum of both; it stops at 127 where the stored byte is below 128.
-      const int want = byte < 128 ? std::min(byte + step, 127) : std::max(byte + step, 128);
-      ASSERT_EQ(mixed(8, byte, step / 127.0 * 1.0000001), want & 255) << byte << ' ' << step;
-    }
-  double real[2] = {0.9, -0.9};
-  AddWave64(real, 0, 64, 2, 1, 0.5, std::nan(""));
-  EXPECT_EQ((Frame64{real[0], real[1]}), (Frame64{1.0, -1.0}));
-  AddWave64(real, 1, 64, 1, 2, 2.5, -0.5);
-  AddWave64(real, 2, 64, 1, 2, 2.5, -0.5);
-  AddWave64(real, 0, 32, 1, 2, 2.5, -0.5);
-  EXPECT_EQ((Frame64{real[0], real[1]}), (Frame64{1.0, 0.0}));
-}
-
 TEST(Samples, FormatCodesAreMadeAndChecked) {
   EXPECT_EQ(waveFormatEnc(16, 2, 500), 128018);
   EXPECT_EQ(waveFormatEnc(64, 1, -1), -256 + 65);

@@ -6,7 +6,7 @@
 namespace tessaro {
 namespace {
 
-constexpr uint32_t least_length = 129, margin = 128;
+constexpr uint32_t margin = 128;
 constexpr unsigned head_bits = 5;
 constexpr unsigned repeat_head = 1;
 
@@ -91,7 +91,7 @@ using namespace tessaro;
 
 extern "C" int32_t TESSARO_CALL icaEncoder(const void* source, void* destination, uint32_t length,
                                            uint32_t* written) {
-  if (length < least_length) return 1;
+  if (length <= margin) return 1;
   return encode_pixels(source, destination, length, written, margin, code_pixel);
 }
 

@@ -6,7 +6,7 @@
 namespace tessaro {
 namespace {
 
-constexpr uint32_t least_length = 129, margin = 128;
+constexpr uint32_t margin = 128;
 
 // How a pair is sent: its mark and two fields of `width` bits. `keep` is what stays of the pair before; pairs stand
 // in the bytes 0 and 2 of a word.
@@ -72,7 +72,7 @@ using namespace tessaro;
 
 extern "C" int32_t TESSARO_CALL imistEncoder(const void* source, void* destination, uint32_t length,
                                              uint32_t* written) {
-  if (length < least_length) return 1;
+  if (length <= margin) return 1;
   return encode_pixels(source, destination, length, written, margin, [](uint32_t pixel, uint32_t before) {
     return code_pair(pixel, pixel ^ before) + code_pair(pixel >> 8, (pixel ^ before) >> 8);
   });

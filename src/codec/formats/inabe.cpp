@@ -9,7 +9,7 @@
 namespace tessaro {
 namespace {
 
-constexpr uint32_t least_length = 257, margin = 256;
+constexpr uint32_t margin = 256;
 // The widths that an encoder chooses from, and where a decoder stops to count: fields end at 32 bits.
 constexpr unsigned short_widths = 8, longest_field = 32;
 
@@ -261,7 +261,7 @@ using namespace tessaro;
 
 extern "C" int32_t TESSARO_CALL inabeEncoder(const void* source, void* destination, uint32_t length,
                                              uint32_t* written) {
-  if (length < least_length) return 1;
+  if (length <= margin) return 1;
   const auto* bytes = static_cast<const uint8_t*>(source);
   const uint32_t limit = length - margin;
   Encoder out(static_cast<uint8_t*>(destination), limit);

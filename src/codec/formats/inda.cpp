@@ -11,7 +11,7 @@
 namespace tessaro {
 namespace {
 
-constexpr uint32_t least_length = 65, margin = 64;
+constexpr uint32_t margin = 64;
 constexpr unsigned block_bytes = 8;
 
 constexpr uint64_t each_byte = 0x0101010101010101;
@@ -180,7 +180,7 @@ using namespace tessaro;
 
 extern "C" int32_t TESSARO_CALL indaEncoder(const void* source, void* destination, uint32_t length,
                                             uint32_t* written) {
-  if (length < least_length) return 1;
+  if (length <= margin) return 1;
   const auto* at = static_cast<const uint8_t*>(source);
   const uint8_t* const end = at + length;
   const uint32_t limit = length - margin;
