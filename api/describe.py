@@ -451,9 +451,10 @@ class Reader:
         level = next((level for level in levels
                       if self.listed(source, level, "return") or self.listed(source, level, "retval")), None)
         found = {}
+        if c_type == "void":  # the results of its group are not its own
+            return found
         if level is None:
-            if c_type != "void":
-                source.problem(place, f"{name}: nothing says what it returns")
+            source.problem(place, f"{name}: nothing says what it returns")
             return found
         for entry in self.listed(source, level, "return"):
             try:
