@@ -4,135 +4,87 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdio>
 #include <fstream>
 #include <iterator>
+#include <memory>
+#include <sndfile.hh>
+#include <stdexcept>
 
 namespace gallery {
-namespace {
 
-std::optional<std::string> contents(const std::string& path) {
+std::string contents_of(const std::string& path) {
   std::ifstream in(path, std::ios::binary);
-  if (!in) return {};
-  return std::string(std::istreambuf_iterator<char>(in), {});
+  std::string bytes(std::istreambuf_iterator<char>(in), {});
+  if (!in) throw std::runtime_error("cannot read " + path);
+  return bytes;
 }
 
-uint32_t little_endian(const std::string& bytes, size_t at, int count) {
-  uint32_t v = 0;
-  for (int i = 0; i < count; ++i)
-    v |= static_cast<uint32_t>(static_cast<uint8_t>(bytes[at + static_cast<size_t>(i)])) << 8 * i;
-  return v;
-}
-
-}  // namespace
-
-std::optional<Picture> load_picture(const std::string& path, std::string& why) {
-  const auto file = contents(path);
-  if (!file) {
-    why = "cannot read " + path;
-    return {};
-  }
+Picture load_picture(const std::string& path) {
+  const std::string file = contents_of(path);
+  const auto size = static_cast<int32_t>(std::min<size_t>(file.size(), INT32_MAX));
   int32_t width = 0, height = 0;
-  const auto size = static_cast<int32_t>(std::min<size_t>(file->size(), INT32_MAX));
-  if (DecodeImageHead(file->data(), size, &width, &height) || width == 0) {
-    why = path + " is no picture that can be decoded, or larger than 8 MiB";
-    return {};
-  }
+  if (DecodeImageHead(file.data(), size, &width, &height) != 0 || width == 0)
+    throw std::runtime_error(path + " is no picture that can be decoded, or larger than 8 MiB");
   // Extents come in hundredths of a millimetre, 96 pixels to an inch.
-  const long columns = std::lround(width * 96 / 2540.0), rows = std::lround(height * 96 / 2540.0);
-  if (columns > 8191) {
-    why = path + " is wider than the 8191 pixels that an image record can describe";
-    return {};
-  }
-  Picture picture(static_cast<int>(columns), static_cast<int>(rows));
-  DecodeImage(picture.record(), file->data(), size);
+  const auto pixels = [](int32_t extent) { return static_cast<int>(std::lround(extent * 96 / 2540.0)); };
+  Picture picture(pixels(width), pixels(height));
+  if (!picture)
+    throw std::runtime_error(path + " is wider than the 8191 pixels that an image record can describe");
+  DecodeImage(static_cast<ImageRecord*>(picture), file.data(), size);
+  const uint32_t* begin = picture.pixels();
+  if (std::none_of(begin, begin + picture.count(), [](uint32_t p) { return p >> 24; }))
+    BBIClearMask(picture, 0, 0, 0, 255, 0x00FFFFFF);
   return picture;
 }
 
 void write_png(const std::string& path, const Picture& picture, bool with_alpha) {
-  std::FILE* file = std::fopen(path.c_str(), "wb");
-  if (!file) return;
-  png_structp png = png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, nullptr, nullptr);
-  png_infop info = png ? png_create_info_struct(png) : nullptr;
-  if (info && !setjmp(png_jmpbuf(png))) {
-    png_init_io(png, file);
-    png_set_compression_level(png, 4);
-    png_set_IHDR(png, info, static_cast<png_uint_32>(picture.width()),
-                 static_cast<png_uint_32>(picture.height()), 8,
-                 with_alpha ? PNG_COLOR_TYPE_RGB_ALPHA : PNG_COLOR_TYPE_RGB, PNG_INTERLACE_NONE,
-                 PNG_COMPRESSION_TYPE_DEFAULT, PNG_FILTER_TYPE_DEFAULT);
-    png_write_info(png, info);
-    png_set_bgr(png);
-    if (!with_alpha) png_set_filler(png, 0, PNG_FILLER_AFTER);
-    for (int y = 0; y < picture.height(); ++y)
-      png_write_row(png, reinterpret_cast<png_const_bytep>(picture.pixels() + y * picture.width()));
-    png_write_end(png, info);
-  }
-  png_destroy_write_struct(&png, &info);
-  std::fclose(file);
+  Picture opaque = picture;
+  if (!with_alpha) BBIClearMask(opaque, 0, 0, 0, 255, 0x00FFFFFF);
+  png_image image{};
+  image.version = PNG_IMAGE_VERSION;
+  image.width = static_cast<png_uint_32>(picture.width());
+  image.height = static_cast<png_uint_32>(picture.height());
+  image.format = PNG_FORMAT_BGRA;
+  image.flags = PNG_IMAGE_FLAG_FAST;
+  if (!png_image_write_to_file(&image, path.c_str(), 0, opaque.pixels(), opaque.pitch(), nullptr))
+    throw std::runtime_error("cannot write " + path + ": " + image.message);
 }
 
-std::optional<Sound> load_wav(const std::string& path, std::string& why) {
-  const auto file = contents(path);
-  if (!file) {
-    why = "cannot read " + path;
-    return {};
-  }
-  why = path + " is no WAV file of 8, 16 or 24-bit PCM";
-  const std::string& bytes = *file;
-  if (bytes.size() < 12 || bytes.compare(0, 4, "RIFF") != 0 || bytes.compare(8, 4, "WAVE") != 0) return {};
-  Sound sound;
-  size_t bits = 0;
-  for (size_t at = 12; at + 8 <= bytes.size();) {
-    const std::string name = bytes.substr(at, 4);
-    const size_t size = std::min<size_t>(little_endian(bytes, at + 4, 4), bytes.size() - at - 8);
-    const size_t body = at + 8;
-    if (name == "fmt " && size >= 16) {
-      uint32_t tag = little_endian(bytes, body, 2);
-      if (tag == 0xFFFE && size >= 26) tag = little_endian(bytes, body + 24, 2);  // extensible: the real tag
-      sound.channels = static_cast<int>(little_endian(bytes, body + 2, 2));
-      sound.rate = static_cast<int>(little_endian(bytes, body + 4, 4));
-      bits = little_endian(bytes, body + 14, 2);
-      if (tag != 1 || (bits != 8 && bits != 16 && bits != 24) || sound.channels < 1 || sound.rate < 1)
-        return {};
-    } else if (name == "data" && bits) {
-      const size_t width = bits / 8;
-      for (size_t i = body; i + width <= body + size; i += width) {
-        // 8 bits are unsigned; of 24 the upper 16 are kept.
-        const uint32_t v =
-            width == 1 ? (little_endian(bytes, i, 1) ^ 0x80) << 8 : little_endian(bytes, i + width - 2, 2);
-        sound.samples.push_back(static_cast<int16_t>(v));
-      }
-      sound.samples.resize(sound.samples.size() / static_cast<size_t>(sound.channels) *
-                           static_cast<size_t>(sound.channels));
-      if (sound.samples.empty()) return {};
-      return sound;
+Sound load_sound(const std::string& path) {
+  constexpr int most_seconds = 30;
+  SndfileHandle file(path);
+  const int channels = file.channels(), rate = file.samplerate();
+  if (file.error() != SF_ERR_NO_ERROR) throw std::runtime_error(path + ": " + file.strError());
+  if (rate < 1000 || rate > 441000)
+    throw std::runtime_error(path + " has " + std::to_string(rate) +
+                             " frames a second; a wave buffer has 1000 to 441000");
+  if (channels > 2)
+    std::printf("%s has %d channels: odd ones are folded to the left, even ones to the right\n", path.c_str(),
+                channels);
+  if (file.frames() > most_seconds * rate)
+    std::printf("%s is long: only the first %d seconds are used\n", path.c_str(), most_seconds);
+
+  std::vector<double> samples(static_cast<size_t>(std::min<sf_count_t>(file.frames(), most_seconds * rate)) *
+                              static_cast<size_t>(channels));
+  const auto frames = static_cast<int>(file.readf(samples.data(), most_seconds * rate));
+  if (frames < 4096) throw std::runtime_error(path + " is shorter than the 4096 frames that are shown");
+  const int used = std::min(channels, 2);
+  Sound exact(TESSARO_BITS_64, used, rate, frames);
+  for (int frame = 0; frame < frames; ++frame)
+    for (int side = 0; side < used; ++side) {
+      double sum = 0;
+      for (int c = side; c < channels; c += 2) sum += samples[static_cast<size_t>(frame * channels + c)];
+      static_cast<double*>(exact.data())[frame * used + side] = sum / ((channels - side + 1) / 2);
     }
-    at = body + size + size % 2;
-  }
-  return {};
+  return exact.as(TESSARO_BITS_16, used);
 }
 
 void write_wav(const std::string& path, const Sound& sound) {
-  std::string head;
-  const auto put = [&head](size_t value, int count) {
-    for (int i = 0; i < count; ++i) head += static_cast<char>(value >> 8 * i);
-  };
-  const size_t bytes = 2 * sound.samples.size(), frame = 2 * static_cast<size_t>(sound.channels);
-  head = "RIFF";
-  put(36 + bytes, 4);
-  head += "WAVEfmt ";
-  put(16, 4);
-  put(1, 2);
-  put(static_cast<size_t>(sound.channels), 2);
-  put(static_cast<size_t>(sound.rate), 4);
-  put(static_cast<size_t>(sound.rate) * frame, 4);
-  put(frame, 2);
-  put(16, 2);
-  head += "data";
-  put(bytes, 4);
-  std::ofstream out(path, std::ios::binary);
-  out << head;
-  out.write(reinterpret_cast<const char*>(sound.samples.data()), static_cast<std::streamsize>(bytes));
+  const Sound plain = sound.as(TESSARO_BITS_16, int(sound.channels()));
+  SndfileHandle file(path, SFM_WRITE, SF_FORMAT_WAV | SF_FORMAT_PCM_16, int(plain.channels()), plain.rate());
+  if (file.writef(static_cast<const short*>(plain.data()), plain.frames()) != plain.frames())
+    throw std::runtime_error("cannot write " + path + ": " + file.strError());
 }
 
 }  // namespace gallery

@@ -1,19 +1,22 @@
-// What the gallery reads and writes: picture files through the library, PNG and WAV files.
+// What the gallery reads and writes: picture files through the library, PNG files by libpng, sound files by libsndfile.
+// Whatever fails is thrown as one line that tells the user what is wrong.
 #pragma once
 
-#include <optional>
 #include <string>
 
-#include "page.hpp"
+#include "gallery.hpp"
 
 namespace gallery {
 
-// Decoded by DecodeImageHead and DecodeImage. Nothing for a file that they do not draw; `why` says what is wrong.
-std::optional<Picture> load_picture(const std::string& path, std::string& why);
+// Any picture that DecodeImage draws, made opaque if it has no alpha.
+Picture load_picture(const std::string& path);
 void write_png(const std::string& path, const Picture& picture, bool with_alpha);
 
-// PCM of 8, 16 or 24 bits.
-std::optional<Sound> load_wav(const std::string& path, std::string& why);
+// Any sound that libsndfile reads, as 16 bits; more than two channels are folded to two.
+Sound load_sound(const std::string& path);
+// As a WAV file of 16 bits.
 void write_wav(const std::string& path, const Sound& sound);
+
+std::string contents_of(const std::string& path);
 
 }  // namespace gallery
