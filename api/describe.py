@@ -267,7 +267,7 @@ class Entry:
         elif item[0] == "retval":
             self.value, _, rest = rest.partition(" ")
         bracket = re.match(r"\[([^\]]*)\]\s*(.*)", rest.strip(), re.S)
-        self.bracket, self.text = (bracket[1].strip(), bracket[2]) if bracket else ("", rest.strip())
+        self.bracket, self.text = (" ".join(bracket[1].split()), bracket[2]) if bracket else ("", rest.strip())
         self.used = False
 
 
@@ -448,6 +448,8 @@ class Reader:
         return {**found, "direction": entry.direction, **about, "text": entry.text}
 
     def results(self, name, source, place, levels, names, c_type):
+        if c_type == "void":
+            return {}
         level = next((level for level in levels
                       if self.listed(source, level, "return") or self.listed(source, level, "retval")), None)
         found = {}

@@ -133,7 +133,7 @@ TESSARO_API int32_t TESSARO_CALL LetWave24(void* data, int32_t index, int32_t bi
                                            int32_t count, int32_t left, int32_t right);
 /**
  * @brief Reads a frame at the float scale.
- * @param[in] data [max(count, 0) * (bits / 8) * (2 - min(abs(channels - 2), 1)) bytes] Frame 0.
+ * @param[in] data [max(count, 0) * min(bits / 8, 8) * (2 - min(abs(channels - 2), 1)) bytes] Frame 0.
  * @param[out] left [1 doubles] The left sample, or the only one; untouched for unknown bits.
  * @param[out] right [1 doubles] The right sample, or the only one; untouched for unknown bits.
  */
@@ -141,7 +141,7 @@ TESSARO_API int32_t TESSARO_CALL GetWave64(const void* data, int32_t index, int3
                                            int32_t count, double* left, double* right);
 /**
  * @brief Writes a frame at the float scale, clamped to -1..1.
- * @param[in,out] data [max(count, 0) * (bits / 8) * (2 - min(abs(channels - 2), 1)) bytes] Frame 0.
+ * @param[in,out] data [max(count, 0) * min(bits / 8, 8) * (2 - min(abs(channels - 2), 1)) bytes] Frame 0.
  * @param left [value, -1..1] The left value; not a number counts as -1.
  * @param right [value, -1..1] The right one.
  */

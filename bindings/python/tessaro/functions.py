@@ -7672,7 +7672,7 @@ def GetWave64(
 
     Parameters
     ----------
-    data : buffer of max(count, 0) * (bits / 8) * (2 - min(abs(channels - 2), 1)) bytes
+    data : buffer of max(count, 0) * min(bits / 8, 8) * (2 - min(abs(channels - 2), 1)) bytes
         Frame 0.
     index : int, index
         The frame.
@@ -7696,7 +7696,7 @@ def GetWave64(
     channels = _a.signed("channels", channels)
     count = _a.signed("count", count)
     return _GetWave64(
-        _a.memory("data", data, _max(count, 0) * _a.div(bits, 8) * (2 - _min(_abs(channels - 2), 1)), False),
+        _a.memory("data", data, _max(count, 0) * _min(_a.div(bits, 8), 8) * (2 - _min(_abs(channels - 2), 1)), False),
         _a.signed("index", index),
         bits,
         channels,
@@ -7716,7 +7716,7 @@ def LetWave64(
 
     Parameters
     ----------
-    data : buffer of max(count, 0) * (bits / 8) * (2 - min(abs(channels - 2), 1)) bytes, changed
+    data : buffer of max(count, 0) * min(bits / 8, 8) * (2 - min(abs(channels - 2), 1)) bytes, changed
         Frame 0.
     index : int, index
         The frame.
@@ -7740,7 +7740,7 @@ def LetWave64(
     channels = _a.signed("channels", channels)
     count = _a.signed("count", count)
     return _LetWave64(
-        _a.memory("data", data, _max(count, 0) * _a.div(bits, 8) * (2 - _min(_abs(channels - 2), 1)), True),
+        _a.memory("data", data, _max(count, 0) * _min(_a.div(bits, 8), 8) * (2 - _min(_abs(channels - 2), 1)), True),
         _a.signed("index", index),
         bits,
         channels,
