@@ -75,4 +75,4 @@ def check_sounds():
 
 check_page()
 check_sounds()
-sys.exit("\n".join(faults))
+sys.exit("\n".join(faults) or 0)
