@@ -66,7 +66,7 @@ def row(function, enums):
     returns = function["returns"]
     cases = [f"{{{case['value']}, {'true' if case['untouched'] else 'false'}}}" for case in returns.get("cases", ())]
     value = ", ".join(limits(returns["value"], places, enums)) if "value" in returns else None
-    results = f"{{.is_value = {'false' if value is None else 'true'}, .cases = {{{', '.join(cases)}}}, " \
+    results = f"{{.type = \"{returns['type']}\", .is_value = {'false' if value is None else 'true'}, .cases = {{{', '.join(cases)}}}, " \
               f".value = {{{value or ''}}}}}"
     parameters = ",\n    ".join(listed)
     return f'{{"{name}", "{function.get("alias_of", name)}", caller({name}),\n   {{{parameters}}},\n   {results}}},\n'

@@ -61,6 +61,7 @@ class Arguments {
   Arguments(const Export& self, uint64_t seed, Range range, const Coded& coded, bool other);
 
   const Values& values() const { return values_; }
+  const auto& blocks() const { return blocks_; }
   bool changed() const;
   // What the call wrote that it may not write; empty if nothing.
   std::string harm() const;
@@ -110,5 +111,8 @@ class Arguments {
   std::deque<WaveBuffer> sounds_;
   std::deque<WaveBuffer> sounds_before_;
 };
+
+// A format's pixels and stream. Each has pixels of its own, or all decoders would give back the same.
+Coded code(const Export& self, uint64_t seed);
 
 }  // namespace host

@@ -109,6 +109,7 @@ struct Case {
   bool untouched;  // no memory changes with it
 };
 struct Results {
+  const char* type = "";
   bool is_value = false;  // of `value`, or one of the cases
   std::vector<Case> cases = {};
   Parameter value = {};

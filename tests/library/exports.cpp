@@ -176,7 +176,8 @@ std::vector<uint8_t> pixels_in_runs(Random& random, size_t bytes, uint32_t run) 
   return source;
 }
 
-// A format's pixels and stream. Each has pixels of its own, or all decoders would give back the same.
+}  // namespace
+
 Coded code(const Export& self, uint64_t seed) {
   if (self.letters.find_first_of("SD") == std::string::npos) return {};
   uint64_t format = seed;
@@ -206,6 +207,8 @@ Coded code(const Export& self, uint64_t seed) {
     return coded;
   }
 }
+
+namespace {
 
 // Why a result is none of those that are listed; empty if it is.
 std::string result_harm(const Export& self, const Values& values, int64_t result, bool changed) {
