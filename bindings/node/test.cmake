@@ -1,0 +1,6 @@
+include(${CMAKE_CURRENT_LIST_DIR}/../test.cmake)
+set(here ${CMAKE_CURRENT_LIST_DIR})
+run(${NODE} ${here}/tests/replay.js ${CALLS})
+run(${NODE} ${here}/tests/callbacks.js)
+run(${NODE} ${here}/example/evening.js)
+expect_evening()
