@@ -1,0 +1,5 @@
+include(${CMAKE_CURRENT_LIST_DIR}/../test.cmake)
+set(ENV{LUA_PATH} "${CMAKE_CURRENT_LIST_DIR}/?.lua;${CMAKE_CURRENT_LIST_DIR}/?/init.lua")
+run(${LUAJIT} ${CMAKE_CURRENT_LIST_DIR}/tests/replay.lua ${CALLS})
+run(${LUAJIT} ${CMAKE_CURRENT_LIST_DIR}/example/evening.lua)
+expect_evening()
