@@ -154,7 +154,7 @@ class Reference:
         note = self.markdown(entry.get("text", ""), up=up)
         if time:
             note += f" *{time:.3g} ms.*"
-        call = f"\n```c\n{entry['call'].strip()}\n```\n" if entry.get("call") else ""
+        call = f"\n```cpp\n{entry['call'].strip()}\n```\n" if entry.get("call") else ""
         return (f":::{{container}} entry\n```{{raw}} html\n{''.join(parts)}\n```\n"
                 f"**{entry['title']}.** {note}\n{call}:::\n")
 
