@@ -1,10 +1,10 @@
-#!/usr/bin/env python3
+#!/usr/bin/python3
 """Makes the packages of a release from what was built.
 
     build.py [--out out/packages]
 
-Reads build/native, build/windows-x64 and build/windows-x86, and out/docs where it is there. `./run package` builds all of
-that first. Nothing of the moment or of the machine gets into an archive: entries are sorted, belong to nobody and have the
+Reads build/native, build/windows-x64, build/windows-x86 and out/docs, which `./run package` builds first, and says what it
+leaves out. Nothing of the moment or of the machine gets into an archive: entries are sorted, belong to nobody and have the
 time of the last commit (or SOURCE_DATE_EPOCH), so that the same sources give the same bytes.
 """
 
@@ -29,7 +29,7 @@ version = json.loads((root / "api" / "tessaro.json").read_text())["version"]
 
 
 def run(*command, **options):
-    return subprocess.run(command, check=True, stdout=subprocess.PIPE, text=True, **options).stdout
+    return subprocess.run(command, check=True, stdout=subprocess.PIPE, **{"text": True, **options}).stdout
 
 
 def moment():
@@ -113,7 +113,7 @@ def linux(out, folder):
     about.mkdir()
     (about / "control").write_text(
         f"Package: tessaro\nVersion: {version}\nArchitecture: amd64\nSection: libs\nPriority: optional\n"
-        f"Maintainer: The tessaro developers <tessaro@localhost>\nInstalled-Size: {size}\n{needs}"
+        f"Maintainer: The tessaro developers <tessaro@example.invalid>\nInstalled-Size: {size}\n{needs}"
         "Description: raster images, byte-stream codecs and audio waveforms\n"
         " The library, its reader of picture files, its headers for C and C++, and what\n"
         " CMake and pkg-config ask for.\n"
@@ -122,6 +122,7 @@ def linux(out, folder):
     for path in [folder, *below(folder)]:
         if not path.is_symlink():
             path.chmod(mode_of(path))
+        os.utime(path, (moment(), moment()), follow_symlinks=False)
     run("dpkg-deb", "--root-owner-group", "-Zxz", "--build", folder, out / f"tessaro_{version}_amd64.deb",
         env=dict(os.environ, SOURCE_DATE_EPOCH=str(moment())))  # fmt: skip
 
@@ -149,7 +150,52 @@ def python(out, _):
             env=dict(os.environ, SOURCE_DATE_EPOCH=str(moment())))  # fmt: skip
 
 
-steps = (sources, linux, windows, python)
+def javascript(out, folder):
+    package = root / "bindings" / "node"
+    if not package.exists():
+        return "no package for JavaScript: bindings/node is not there"
+    copy(tracked("bindings/node"), folder, package)
+    for library, target in (("native/libtessaro.so", "linux-x64"), ("native/libtessaro-pictures.so.0", "linux-x64"),
+                            ("windows-x64/tessaro.dll", "win32-x64"), ("windows-x86/tessaro.dll", "win32-ia32")):  # fmt: skip
+        (folder / "lib" / target).mkdir(exist_ok=True)
+        shutil.copyfile(root / "build" / library, folder / "lib" / target / Path(library).name)
+    for path in below(folder):
+        path.chmod(mode_of(path))
+    run("npm", "pack", "--silent", "--pack-destination", out, cwd=folder)
+
+
+def other_languages(out, folder):
+    """Files that a program takes into its own folder."""
+    made = ("cpp", "python", "node")  # have packages of their own, or are headers
+    copy(tracked("bindings/*.txt"), folder, root / "bindings")
+    parts = {path.relative_to(root / "bindings").parts[0] for path in tracked("bindings/*/*")} - set(made)
+    if not parts:
+        return "no files for other languages: bindings/ has none"
+    hidden = ("generate.py", "CMakeLists.txt", "tests")
+    for part in parts:
+        inside = root / "bindings" / part
+        copy([path for path in tracked(f"bindings/{part}") if path.relative_to(inside).parts[0] not in hidden], folder,
+             root / "bindings")  # fmt: skip
+    write_zip(out, f"tessaro-{version}-bindings", folder)
+
+
+def reference(out, _):
+    if not (root / "out" / "docs" / "index.html").exists():
+        return "no reference: out/docs is not there"
+    write_zip(out, f"tessaro-{version}-reference", root / "out" / "docs")
+
+
+def conformance(out, folder):
+    calls = root / "build" / "native" / "tests" / "conformance" / "calls.txt"
+    if not calls.exists():
+        return "no conformance set: build/native/tests/conformance/calls.txt is not there"
+    copy([path for path in tracked("tests/conformance") if path.suffix in (".md", ".py")], folder, root / "tests/conformance")
+    shutil.copy(calls, folder)
+    shutil.copy(root / "docs" / "formats.md", folder)
+    write_tar(out, f"tessaro-{version}-conformance", folder)
+
+
+steps = (sources, linux, windows, python, javascript, other_languages, reference, conformance)
 
 
 def main():
@@ -162,7 +208,9 @@ def main():
         with tempfile.TemporaryDirectory() as folder:
             place = Path(folder) / "package"
             place.mkdir()
-            step(out, place)
+            lacking = step(out, place)
+            if lacking:
+                print(f"Left out: {lacking}")
     sums = [f"{hashlib.sha256(path.read_bytes()).hexdigest()}  {path.name}\n" for path in sorted(out.iterdir())]
     (out / "SHA256SUMS").write_text("".join(sums))
     for path in sorted(out.iterdir()):

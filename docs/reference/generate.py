@@ -150,10 +150,7 @@ class Reference:
                 parts.append(f'<audio controls preload="none" src="{source}" title="{name}"></audio>')
             else:
                 parts.append(f'<img loading="lazy" src="{source}" alt="{name}"{size_of(self.gallery / file)}>')
-        time = entry.get("milliseconds")
         note = self.markdown(entry.get("text", ""), up=up)
-        if time:
-            note += f" *{time:.3g} ms.*"
         call = f"\n```cpp\n{entry['call'].strip()}\n```\n" if entry.get("call") else ""
         return (f":::{{container}} entry\n```{{raw}} html\n{''.join(parts)}\n```\n"
                 f"**{entry['title']}.** {note}\n{call}:::\n")
