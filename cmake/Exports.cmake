@@ -25,6 +25,8 @@ function(tessaro_export_table target)
     target_sources(${target} PRIVATE ${out}/tessaro.def)
     # Finds _Name@bytes for a name written without decoration.
     target_link_options(${target} PRIVATE -Wl,--enable-stdcall-fixup)
+    # The same sources give the same file.
+    target_link_options(${target} PRIVATE -Wl,--no-insert-timestamp)
     if(CMAKE_SIZEOF_VOID_P EQUAL 4)
       add_custom_command(TARGET ${target} POST_BUILD VERBATIM
         COMMAND ${CMAKE_COMMAND} -DDLL=$<TARGET_FILE:${target}> -DTABLE=${table} -DNM=${CMAKE_NM}

@@ -13,4 +13,8 @@ foreach(row IN LISTS rows)
   string(APPEND def "  ${name}${CMAKE_MATCH_1}\n")
 endforeach()
 file(WRITE ${OUT}.def "${def}")
-execute_process(COMMAND ${DLLTOOL} --kill-at --input-def ${OUT}.def --output-lib ${OUT} COMMAND_ERROR_IS_FATAL ANY)
+# By its bare name, which becomes part of symbols.
+cmake_path(GET OUT PARENT_PATH folder)
+cmake_path(GET OUT FILENAME library)
+execute_process(COMMAND ${DLLTOOL} --kill-at --input-def ${library}.def --output-lib ${library} WORKING_DIRECTORY ${folder}
+                COMMAND_ERROR_IS_FATAL ANY)

@@ -136,7 +136,7 @@ def windows(out, folder):
         to.mkdir()
         for name in ("tessaro.dll", "libtessaro.dll.a"):
             shutil.copy(built / name, to)
-        run(f"{tools}-w64-mingw32-strip", "--strip-unneeded", "--enable-deterministic-archives", to / "tessaro.dll")
+        run(f"{tools}-w64-mingw32-strip", "--preserve-dates", "--strip-unneeded", to / "tessaro.dll")
         # The linkers of Microsoft and LLVM look for _Name@bytes on x86, and the library has Name.
         decorated = built / "libtessaro.dll.a.def"
         run("llvm-dlltool", "-m", machine, "--kill-at", "-d", decorated if target == "x86" else folder / "tessaro.def",

@@ -8,6 +8,8 @@ static struct {
   uint32_t pixels[8 * 8];
 } image = {{4, 12}, {8, 8, 32}, {0}};
 
+int _fltused = 1; /* what a runtime would define for programs with floats */
+
 int start(void) {
   int wrong = 0;
   for (int i = 0; i < 1000; ++i) {

@@ -60,7 +60,7 @@ def build(library, platform, out):
         environment.setdefault("SOURCE_DATE_EPOCH", first_moment)
         command = [sys.executable, "setup.py", "-q", "bdist_wheel", "--dist-dir", root / "dist"]
         run = subprocess.run(
-            command, cwd=root, env=environment, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True
+            command, cwd=root, env=environment, umask=0o022, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True
         )
         if run.returncode:
             sys.exit(run.stdout)
