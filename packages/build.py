@@ -3,7 +3,7 @@
 
     build.py [--out out/packages]
 
-Reads build/native, build/windows-x64, build/windows-x86 and out/docs, which `./run package` builds first, and says what it
+Reads the folders of the targets in build and out/docs, which `./run package` builds first, and says what it
 leaves out. Nothing of the moment or of the machine gets into an archive: entries are sorted, belong to nobody and have the
 time of the last commit (or SOURCE_DATE_EPOCH), so that the same sources give the same bytes.
 """
@@ -14,6 +14,7 @@ import hashlib
 import io
 import json
 import os
+import re
 import shutil
 import subprocess
 import sys
@@ -93,26 +94,32 @@ def sources(out, _):
 
 
 def linux(out, folder):
-    """The same installation as an archive for any prefix and as a package for Debian and its kin."""
-    prefix = folder / "usr"
-    run("cmake", "--install", root / "build" / "native", "--prefix", prefix, "--strip")
-    for library in (prefix / "lib").glob("*.so*"):
-        library.chmod(0o644)
-    copy([root / paper for paper in papers], prefix / "share" / "doc" / "tessaro")
-    write_tar(out, f"tessaro-{version}-linux-x86_64", prefix)
+    """The same installation as an archive for any prefix and as a package for Debian and its kin, for each processor."""
+    for preset, processor, debian in (("native", "x86_64", "amd64"), ("linux-arm64", "aarch64", "arm64")):
+        place = folder / debian
+        prefix = place / "usr"
+        run("cmake", "--install", root / "build" / preset, "--prefix", prefix, "--strip")
+        for library in (prefix / "lib").glob("*.so*"):
+            library.chmod(0o644)
+        copy([root / paper for paper in papers], prefix / "share" / "doc" / "tessaro")
+        write_tar(out, f"tessaro-{version}-linux-{processor}", prefix)
+        write_deb(out, place, debian)
 
+
+def write_deb(out, folder, architecture):
     # What the libraries need, as Debian names it. Pictures need more than the rest, and are not everybody's.
     (folder / "debian").mkdir()
     (folder / "debian" / "control").write_text("Source: tessaro\n\nPackage: tessaro\nArchitecture: any\n")
     needs = run("dpkg-shlibdeps", "-O", "-dDepends", "usr/lib/libtessaro.so.0", "-dRecommends",
-                "usr/lib/libtessaro-pictures.so.0", cwd=folder, stderr=subprocess.DEVNULL)  # fmt: skip
-    needs = needs.replace("shlibs:", "").replace("=", ": ", 1).replace("\nRecommends=", "\nRecommends: ")
+                "usr/lib/libtessaro-pictures.so.0", cwd=folder, stderr=subprocess.DEVNULL,
+                env=dict(os.environ, DEB_HOST_ARCH=architecture))  # fmt: skip
     shutil.rmtree(folder / "debian")
-    size = sum(path.lstat().st_size for path in below(prefix)) // 1024
+    needs = re.sub(r"^shlibs:(\w+)=", r"\1: ", needs, flags=re.M)
+    size = sum(path.lstat().st_size for path in below(folder)) // 1024
     about = folder / "DEBIAN"
     about.mkdir()
     (about / "control").write_text(
-        f"Package: tessaro\nVersion: {version}\nArchitecture: amd64\nSection: libs\nPriority: optional\n"
+        f"Package: tessaro\nVersion: {version}\nArchitecture: {architecture}\nSection: libs\nPriority: optional\n"
         f"Maintainer: The tessaro developers <tessaro@example.invalid>\nInstalled-Size: {size}\n{needs}"
         "Description: raster images, byte-stream codecs and audio waveforms\n"
         " The library, its reader of picture files, its headers for C and C++, and what\n"
@@ -123,7 +130,7 @@ def linux(out, folder):
         if not path.is_symlink():
             path.chmod(mode_of(path))
         os.utime(path, (moment(), moment()), follow_symlinks=False)
-    run("dpkg-deb", "--root-owner-group", "-Zxz", "--build", folder, out / f"tessaro_{version}_amd64.deb",
+    run("dpkg-deb", "--root-owner-group", "-Zxz", "--build", folder, out / f"tessaro_{version}_{architecture}.deb",
         env=dict(os.environ, SOURCE_DATE_EPOCH=str(moment())))  # fmt: skip
 
 
@@ -145,7 +152,7 @@ def windows(out, folder):
 
 
 def python(out, _):
-    for library in ("native/libtessaro.so", "windows-x64/tessaro.dll", "windows-x86/tessaro.dll"):
+    for library in ("native/libtessaro.so", "linux-arm64/libtessaro.so", "windows-x64/tessaro.dll", "windows-x86/tessaro.dll"):
         run(sys.executable, "-B", root / "bindings/python/build_wheel.py", "--library", root / "build" / library, "--out", out,
             env=dict(os.environ, SOURCE_DATE_EPOCH=str(moment())))  # fmt: skip
 
@@ -156,6 +163,7 @@ def javascript(out, folder):
         return "no package for JavaScript: bindings/node is not there"
     copy(tracked("bindings/node"), folder, package)
     for library, target in (("native/libtessaro.so", "linux-x64"), ("native/libtessaro-pictures.so.0", "linux-x64"),
+                            ("linux-arm64/libtessaro.so", "linux-arm64"), ("linux-arm64/libtessaro-pictures.so.0", "linux-arm64"),
                             ("windows-x64/tessaro.dll", "win32-x64"), ("windows-x86/tessaro.dll", "win32-ia32")):  # fmt: skip
         (folder / "lib" / target).mkdir(exist_ok=True)
         shutil.copyfile(root / "build" / library, folder / "lib" / target / Path(library).name)
@@ -167,11 +175,11 @@ def javascript(out, folder):
 def other_languages(out, folder):
     """Files that a program takes into its own folder."""
     made = ("cpp", "python", "node")  # have packages of their own, or are headers
-    copy(tracked("bindings/*.txt"), folder, root / "bindings")
+    copy(tracked(":(glob)bindings/*.md", "bindings/declarations.txt"), folder, root / "bindings")
     parts = {path.relative_to(root / "bindings").parts[0] for path in tracked("bindings/*/*")} - set(made)
     if not parts:
         return "no files for other languages: bindings/ has none"
-    hidden = ("generate.py", "CMakeLists.txt", "tests")
+    hidden = ("generate.py", "CMakeLists.txt", "test.cmake", "tests")
     for part in parts:
         inside = root / "bindings" / part
         copy([path for path in tracked(f"bindings/{part}") if path.relative_to(inside).parts[0] not in hidden], folder,

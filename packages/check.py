@@ -138,6 +138,17 @@ class Packages(unittest.TestCase):
                     place / target / "tessaro.lib")  # fmt: skip
                 run(wine, program, cwd=program.parent)
 
+    def test_arm64(self):
+        """By an emulated processor, which has this machine's libraries beside its own."""
+        prefix = self.unpack(f"tessaro-{version}-linux-aarch64.tar.gz")
+        place = languages[0].save(self.folder / "first")
+        run("aarch64-linux-gnu-gcc", languages[0].file, "-o", "first", f"-I{prefix / 'include'}", f"-L{prefix / 'lib'}", "-ltessaro",
+            cwd=place)  # fmt: skip
+        run("qemu-aarch64", "first", cwd=place, env=dict(os.environ, LD_LIBRARY_PATH=str(prefix / "lib")))
+        self.look(place)
+        needs = run("dpkg-deb", "--field", packages / f"tessaro_{version}_arm64.deb", "Architecture", "Depends", "Recommends")
+        self.assertRegex(needs, r"arm64\nDepends: libc6 .*\nRecommends: .*libjpeg")
+
     def test_made_again_they_are_the_same(self):
         again = self.folder / "again"
         environment = dict(os.environ, TZ="Asia/Kathmandu", LC_ALL="C", PYTHONHASHSEED="7")

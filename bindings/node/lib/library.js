@@ -6,8 +6,8 @@ const path = require('path');
 const koffi = require('koffi');
 
 const file = process.platform === 'win32' ? 'tessaro.dll' : 'libtessaro.so';
-const beside = path.join(__dirname, file);
-// Beside this file, where the environment says, where the system looks.
+const beside = path.join(__dirname, `${process.platform}-${process.arch}`, file);
+// Beside this file, as the package has it for each system; where the environment says, where the system looks.
 const place = fs.existsSync(beside) ? beside
   : process.env.TESSARO_LIBRARY || (process.platform === 'win32' ? file : `${file}.0`);
 
