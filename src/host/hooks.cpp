@@ -1,3 +1,4 @@
+// Window hooks: a table of windows, each with what is called before its own procedure.
 #include "host/hooks.hpp"
 
 #include "host/process.hpp"

@@ -36,7 +36,4 @@ class HookTable {
   Entry entries_[capacity] = {};
 };
 
-// HookTable::offer of the process's table.
-intptr_t offer_message(void* window, uint32_t message, uintptr_t first, intptr_t second);
-
 }  // namespace tessaro

@@ -1,3 +1,4 @@
+// What happens when the library is loaded and unloaded, and what it tells of processor and time.
 #include "host/process.hpp"
 
 #include "core/random.hpp"

@@ -1,16 +1,12 @@
-// Load and unload of the library, and the processor level.
+// The processor level, and what is left to do when the library goes.
 #pragma once
 
 #include <cstdint>
 
 namespace tessaro {
 
-// Run once when a process attaches the library and once when it lets go of it.
-void on_load();
-void on_unload();
-
-// The processor level for the feature flags that the processor reports in EDX: 2 or 3 without packed integers, 4 with
-// MMX, plus 8 with SSE and 16 with SSE2.
+// The processor level for the feature flags that the processor reports in EDX: 2 or 3 without packed
+// integers, 4 with MMX, plus 8 with SSE and 16 with SSE2.
 int32_t cpu_level_of(uint32_t flags);
 
 // Takes back the hooks that are left when the library goes.

@@ -1,3 +1,4 @@
+// The one worker thread, which calls a function of the host until it is told to stop.
 #include <atomic>
 
 #include "platform/platform.hpp"
@@ -40,7 +41,8 @@ int32_t TESSARO_CALL ThreadKill(void) {
   if (thread == nullptr) return 1;
   stop = 1;
   platform::close_thread(thread);
-  worker.compare_exchange_strong(thread, nullptr);  // not one that has begun meanwhile
+  // ThreadBegin may have returned and started the next worker meanwhile: that one's handle stays.
+  worker.compare_exchange_strong(thread, nullptr);
   return 0;
 }
 

@@ -1,17 +1,28 @@
-// The operating system as the rest of the library sees it. win32/ and posix/ implement it.
+// The operating system as the rest of the library sees it, which win32/ and posix/ implement, and what they
+// call in turn.
 #pragma once
 
 #include <cstdint>
 
 #include "tessaro/frame.h"
 
+namespace tessaro {
+
+// What the system calls; host/ defines it. The first two run once when a process attaches the library and
+// once when it lets go of it. The last offers a message to the hooks of its window.
+void on_load();
+void on_unload();
+intptr_t offer_message(void* window, uint32_t message, uintptr_t first, intptr_t second);
+
+}  // namespace tessaro
+
 namespace tessaro::platform {
 
 // Milliseconds since some start, modulo 2^32.
 uint32_t tick_count();
 
-// A thread that was started and not yet closed; null is none. Asking about a thread that another thread is
-// closing, or has closed, is allowed: it does not run.
+// A thread from its start to its close_thread; null is none. thread_runs may be asked at any time, also while
+// another thread closes this one and after: it does not run then.
 using Thread = void*;
 Thread start_thread(void (*routine)());  // null if the system has none to give
 bool thread_runs(Thread thread);
@@ -23,7 +34,7 @@ struct WindowSystem {
   intptr_t (*procedure)(void* window);  // 0 = cannot be read
   void (*set_procedure)(void* window, intptr_t procedure);
   intptr_t (*call)(intptr_t procedure, void* window, uint32_t message, uintptr_t first, intptr_t second);
-  // The procedure that a hooked window gets: it hands its arguments to offer_message (host/hooks.hpp).
+  // The procedure that a hooked window gets: it hands its arguments to offer_message.
   intptr_t (*replacement)();
 };
 extern const WindowSystem windows;

@@ -1,3 +1,4 @@
+// Threads under serial numbers, so that an old handle names no new thread.
 #include <pthread.h>
 #include <sched.h>
 #include <unistd.h>

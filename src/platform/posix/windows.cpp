@@ -1,3 +1,4 @@
+// A system without windows.
 #include "platform/platform.hpp"
 
 namespace tessaro::platform {

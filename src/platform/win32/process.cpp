@@ -1,6 +1,6 @@
+// Ticks of the system, and where the library hears that it is loaded and unloaded.
 #include <windows.h>
 
-#include "host/process.hpp"
 #include "platform/platform.hpp"
 
 namespace tessaro::platform {

@@ -1,3 +1,4 @@
+// Threads under handles of the system.
 #include <windows.h>
 
 #include <atomic>
@@ -8,8 +9,9 @@ namespace tessaro::platform {
 
 namespace {
 
-// The system may give the value of a closed handle to another object at once, and waiting for that may change it (an event
-// is reset, a mutex taken). So a handle is closed, and asked about without waiting, under a lock.
+// The system may give the value of a closed handle to another object at once, and waiting for that may change
+// it (an event is reset, a mutex taken). So a handle is closed, and asked about without waiting, under a
+// lock.
 constinit HANDLE open = nullptr;
 constinit std::atomic_flag locked;
 

@@ -1,6 +1,6 @@
+// Windows and their procedures, and calls of hooks in either convention.
 #include <windows.h>
 
-#include "host/hooks.hpp"
 #include "platform/platform.hpp"
 
 namespace tessaro::platform {
