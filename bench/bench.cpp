@@ -30,7 +30,8 @@ struct Picture::Block {
 };
 
 Picture::Picture(int width, int height, uint32_t seed) {
-  // Images of equal place within a page would make loads wait for unrelated stores; hosts' images seldom agree.
+  // Images of equal place within a page would make loads wait for unrelated stores; hosts' images seldom
+  // agree.
   static int made = 0;
   const size_t head = 64 + 64 * static_cast<size_t>(made++ * 7 % 61);
   const size_t count = static_cast<size_t>(width) * static_cast<size_t>(height);
@@ -98,9 +99,9 @@ double median(std::vector<double> values) {
   return values.size() % 2 ? values[half] : (values[half - 1] + values[half]) / 2;
 }
 
-// Processor time of this thread is measured, so that what other programs take does not count, and peers run in this
-// thread alone. The library interleaves the repetitions of everything that is registered together: one comparison at a
-// time.
+// Processor time of this thread is measured, so that what other programs take does not count, and peers run
+// in this thread alone. The library interleaves the repetitions of everything that is registered together:
+// one comparison at a time.
 std::vector<Rate> measure(const std::vector<Contender>& contenders, int repetitions, double seconds) {
   benchmark::ClearRegisteredBenchmarks();
   for (const Contender& contender : contenders) {
@@ -148,8 +149,8 @@ std::string format(const char* pattern, double value) {
 }
 
 // Millions of units a second, with as many digits as mean something.
-std::string rate_of(const Comparison& comparison, const Rate& rate) {
-  const double millions = comparison.work / rate.seconds / 1e6;
+std::string rate_of(double work, const Rate& rate) {
+  const double millions = work / rate.seconds / 1e6;
   return format(millions < 10 ? "%.2f" : millions < 100 ? "%.1f" : "%.0f", millions);
 }
 
@@ -157,15 +158,15 @@ std::string rate_of(const Comparison& comparison, const Rate& rate) {
 struct Row {
   std::string name, unit, own, limit, peers;
 };
-Row row_of(const Comparison& comparison, std::vector<Rate> rates) {
-  Row row{comparison.name, "M" + comparison.unit + "/s", "", "", ""};
+Row row_of(const Comparison& comparison, const Prepared& prepared, std::vector<Rate> rates) {
+  Row row{comparison.name + prepared.note, "M" + comparison.unit + "/s", "", "", ""};
   double own = 0;
   for (const Rate& rate : rates)
     if (rate.name == "tessaro") own = rate.seconds;
   std::stable_sort(rates.begin(), rates.end(),
                    [](const Rate& a, const Rate& b) { return a.seconds < b.seconds; });
   for (const Rate& rate : rates) {
-    const std::string value = rate_of(comparison, rate);
+    const std::string value = rate_of(prepared.work > 0 ? prepared.work : comparison.work, rate);
     const std::string ratio = own > 0 ? " (" + format("%.2f", rate.seconds / own) + ")" : "";
     if (rate.name == "tessaro")
       row.own = value;
@@ -232,7 +233,9 @@ int run(int argc, char** argv) {
   std::vector<Row> rows;
   for (const Comparison* comparison : chosen) {
     if (watched) std::fprintf(stderr, "%s ...\r", comparison->name.c_str());
-    rows.push_back(row_of(*comparison, measure(comparison->setup(), repetitions, seconds)));
+    const Prepared prepared = comparison->setup();
+    if (prepared.contenders.empty()) continue;
+    rows.push_back(row_of(*comparison, prepared, measure(prepared.contenders, repetitions, seconds)));
     const Row& row = rows.back();
     std::printf("%-28s %10s %-8s %16s  %s\n", row.name.c_str(), row.own.c_str(), row.unit.c_str(),
                 row.limit.c_str(), row.peers.c_str());

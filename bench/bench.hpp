@@ -19,13 +19,21 @@ struct Contender {
   std::function<void()> run;  // one call; owns what it captures
 };
 
+// What a comparison is once it is set up.
+struct Prepared {
+  Prepared(std::vector<Contender> all, std::string behind_name = "", double work_now = 0)
+      : contenders(std::move(all)), note(std::move(behind_name)), work(work_now) {}
+  std::vector<Contender> contenders;  // none where there is nothing to measure
+  std::string note;                   // stands behind the name
+  double work;                        // in place of the comparison's, unless 0
+};
 // setup runs only when the comparison is selected. work is what one run handles, in the unit that the row
 // reports a second of: pixels, bytes, frames, taps.
 struct Comparison {
   std::string name;  // "BBIBltAdd/512"
   double work;
   std::string unit;  // "pixel", "byte", "frame"
-  std::function<std::vector<Contender>()> setup;
+  std::function<Prepared()> setup;
 };
 bool compare(Comparison comparison);  // use: static const bool registered = compare({...});
 

@@ -1,42 +1,16 @@
-// The unscaled blits beside the limit and the libraries that do comparable work. What differs in their arithmetic:
-// pixman and libyuv blend premultiplied colours, SDL straight alpha; libyuv's product rounds in its own way.
-#include "bench.hpp"
+// The unscaled blits beside the limit and the libraries that do comparable work. What differs in their
+// arithmetic: pixman and libyuv blend premultiplied colours, SDL straight alpha; libyuv's product rounds in
+// its own way.
+#include "peers.hpp"
 #include "tessaro/tessaro.h"
 
 #if TESSARO_BENCH_HAS_LIBYUV
 #include <libyuv.h>
 #endif
-#if TESSARO_BENCH_HAS_PIXMAN
-#include <pixman.h>
-#endif
-#if TESSARO_BENCH_HAS_SDL2
-#include <SDL.h>
-#endif
-#if TESSARO_BENCH_HAS_OPENCV
-#include <opencv2/core.hpp>
-#endif
 
 using namespace tessaro::bench;
 
 namespace {
-
-// Two images of one size and the part of them that a call works on.
-struct Pair {
-  Picture dst, src;
-  int width, height;
-  int pitch() const { return 4 * dst.width(); }
-  size_t bytes() const { return dst.bytes(); }
-};
-using Call = std::function<void(const Pair&)>;
-struct Named {
-  std::string name;
-  std::function<std::function<void()>(const Pair&)> make;  // set-up, then the call to be measured
-};
-using Peers = std::vector<Named>;
-
-Named plain(std::string name, Call call) {
-  return {std::move(name), [call](const Pair& p) { return [=] { call(p); }; }};
-}
 
 #if TESSARO_BENCH_HAS_LIBYUV
 template <class F>
@@ -54,11 +28,6 @@ Named yuv3(F f) {  // f(a, pitch, b, pitch, dst, pitch, width, height)
 #endif
 
 #if TESSARO_BENCH_HAS_PIXMAN
-std::shared_ptr<pixman_image_t> pixman_of(const Picture& picture) {
-  return {pixman_image_create_bits(PIXMAN_a8r8g8b8, picture.width(), picture.height(),
-                                   reinterpret_cast<uint32_t*>(picture.pixels()), 4 * picture.width()),
-          pixman_image_unref};
-}
 Named pixman(pixman_op_t op) {
   return {"pixman", [op](const Pair& p) -> std::function<void()> {
             return [p, op, dst = pixman_of(p.dst), src = pixman_of(p.src)] {
@@ -70,11 +39,6 @@ Named pixman(pixman_op_t op) {
 #endif
 
 #if TESSARO_BENCH_HAS_SDL2
-std::shared_ptr<SDL_Surface> surface_of(const Picture& picture) {
-  return {SDL_CreateRGBSurfaceWithFormatFrom(picture.pixels(), picture.width(), picture.height(), 32,
-                                             4 * picture.width(), SDL_PIXELFORMAT_ARGB8888),
-          SDL_FreeSurface};
-}
 Named sdl(SDL_BlendMode mode) {
   return {"SDL2", [mode](const Pair& p) -> std::function<void()> {
             auto src = surface_of(p.src);
@@ -88,13 +52,11 @@ Named sdl(SDL_BlendMode mode) {
 #endif
 
 #if TESSARO_BENCH_HAS_OPENCV
-cv::Mat mat_of(const Picture& picture, const Pair& p) {
-  return cv::Mat(p.height, p.width, CV_8UC4, picture.pixels(), static_cast<size_t>(p.pitch()));
-}
 template <class F>
 Named opencv(F f) {  // f(src, dst) into dst
   return {"OpenCV", [f](const Pair& p) -> std::function<void()> {
-            return [p, f, src = mat_of(p.src, p), dst = mat_of(p.dst, p)]() mutable { f(src, dst); };
+            return [p, f, src = mat_of(p.src, p.width, p.height),
+                    dst = mat_of(p.dst, p.width, p.height)]() mutable { f(src, dst); };
           }};
 }
 #endif

@@ -1,6 +1,6 @@
-// The transforms beside memcpy, and every stream format beside QOI, LZ4, zstd -1 and zlib -1 on the same pixels: a
-// photograph, a screen of text and flat areas, a sprite with alpha. Names end with the size that the format reaches, in
-// percent of the source; peers carry theirs in brackets.
+// The transforms beside memcpy, and every stream format beside QOI, LZ4, zstd -1 and zlib -1 on the same
+// pixels: a photograph, a screen of text and flat areas, a sprite with alpha. Names end with the size that
+// the format reaches, in percent of the source; peers carry theirs in brackets.
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
@@ -11,6 +11,14 @@
 #include "tessaro/tessaro.h"
 
 #if TESSARO_BENCH_HAS_QOI
+// It allocates what it makes; here it is given the same memory every time, so that none of that is measured.
+static void* same_memory(size_t bytes) {
+  static std::vector<uint8_t> memory;
+  if (memory.size() < bytes) memory.resize(bytes);
+  return memory.data();
+}
+#define QOI_MALLOC(bytes) same_memory(static_cast<size_t>(bytes))
+#define QOI_FREE(memory) static_cast<void>(memory)
 #define QOI_IMPLEMENTATION
 #define QOI_NO_STDIO
 #pragma GCC diagnostic push
@@ -39,37 +47,39 @@ using SafeDecoder = decltype(&iDecoderSafe);
 
 constexpr int width = 640, height = 427;
 
-struct Data {
-  std::string name;
-  std::shared_ptr<Bytes> bytes;
-  uint32_t size() const { return static_cast<uint32_t>(bytes->size()); }
-};
+constexpr uint32_t size = 4 * width * height;  // bytes of a picture
+
+using Shared = std::shared_ptr<Bytes>;
 
 // The gallery's first photograph, opaque.
-Data photograph() {
-  std::ifstream file(BENCH_MEDIA "/rocket.jpg", std::ios::binary);
-  const std::string content{std::istreambuf_iterator<char>(file), {}};
-  const Picture picture(width, height);
-  if (content.empty()) std::fprintf(stderr, "no photograph: noise takes its place\n");
-  DecodeImage(picture.record(), content.data(), static_cast<int32_t>(content.size()));
-  auto bytes = std::make_shared<Bytes>(picture.pixels(), picture.pixels() + picture.bytes());
-  for (size_t i = 3; i < bytes->size(); i += 4) (*bytes)[i] = 255;
-  return {"photograph", bytes};
+const Shared& photograph() {
+  static const Shared made = [] {
+    std::ifstream file(BENCH_MEDIA "/rocket.jpg", std::ios::binary);
+    const std::string content{std::istreambuf_iterator<char>(file), {}};
+    const Picture picture(width, height);
+    if (content.empty()) std::fprintf(stderr, "no photograph: noise takes its place\n");
+    DecodeImage(picture.record(), content.data(), static_cast<int32_t>(content.size()));
+    auto bytes = std::make_shared<Bytes>(picture.pixels(), picture.pixels() + picture.bytes());
+    for (size_t i = 3; i < bytes->size(); i += 4) (*bytes)[i] = 255;
+    return bytes;
+  }();
+  return made;
 }
 
-Data drawn(const char* name, const std::function<uint32_t(int x, int y)>& pixel) {
-  auto bytes = std::make_shared<Bytes>(4 * width * height);
+template <class Pixel>
+Shared drawn(Pixel pixel) {
+  auto bytes = std::make_shared<Bytes>(size);
   for (int y = 0; y < height; ++y)
     for (int x = 0; x < width; ++x) {
       const uint32_t p = pixel(x, y);
       std::memcpy(bytes->data() + 4 * (y * width + x), &p, 4);
     }
-  return {name, bytes};
+  return bytes;
 }
 
 // Windows with title bars, and lines of small marks instead of letters.
-Data screen() {
-  return drawn("screen", [](int x, int y) -> uint32_t {
+Shared screen() {
+  return drawn([](int x, int y) -> uint32_t {
     const int wx = x % 320, wy = y % 214;
     if (wx < 8 || wy < 8) return 0xFF3A6EA5;
     if (wy < 26) return 0xFF0A246A;
@@ -84,16 +94,23 @@ Data screen() {
 }
 
 // A disc cut out of the photograph with a soft edge, nothing around it.
-Data sprite(const Data& photo) {
-  return drawn("sprite", [&](int x, int y) -> uint32_t {
+Shared sprite() {
+  const Shared& photo = photograph();
+  return drawn([&](int x, int y) -> uint32_t {
     const int dx = x - width / 2, dy = y - height / 2, far = (dx * dx + dy * dy) / 100;
     const int alpha = far < 300 ? 255 : far < 400 ? 255 * (400 - far) / 100 : 0;
     if (alpha == 0) return 0;
     uint32_t p;
-    std::memcpy(&p, photo.bytes->data() + 4 * (y * width + x), 4);
+    std::memcpy(&p, photo->data() + 4 * (y * width + x), 4);
     return (p & 0xFFFFFF) | static_cast<uint32_t>(alpha) << 24;
   });
 }
+
+struct Data {
+  std::string name;
+  Shared (*make)();
+};
+const Data pictures[] = {{"photograph", [] { return photograph(); }}, {"screen", screen}, {"sprite", sprite}};
 
 std::string percent(size_t part, size_t whole) {
   char text[32];
@@ -105,13 +122,10 @@ struct Peer {
   std::string name;
   std::function<void()> encode, decode;
 };
-std::vector<Peer> peers(const Data& data) {
+std::vector<Peer> peers(const Shared& source) {
   std::vector<Peer> all;
-  const auto source = data.bytes;
-  const size_t size = source->size();
   const auto back = std::make_shared<Bytes>(size);
-  [[maybe_unused]] const auto add = [&](const char* name, const std::shared_ptr<Bytes>& stream, auto encode,
-                                        auto decode) {
+  [[maybe_unused]] const auto add = [&](const char* name, const Shared& stream, auto encode, auto decode) {
     stream->resize(encode());
     all.push_back({name + (" (" + percent(stream->size(), size)) + ")", [=] { encode(); }, decode});
   };
@@ -121,15 +135,14 @@ std::vector<Peer> peers(const Data& data) {
     int length = 0;
     auto* made = static_cast<uint8_t*>(qoi_encode(source->data(), &shape, &length));
     const auto stream = std::make_shared<Bytes>(made, made + length);
-    std::free(made);
     all.push_back({"QOI (" + percent(stream->size(), size) + ")",
                    [=] {
                      int n;
-                     std::free(qoi_encode(source->data(), &shape, &n));
+                     qoi_encode(source->data(), &shape, &n);
                    },
                    [=] {
                      qoi_desc read;
-                     std::free(qoi_decode(stream->data(), static_cast<int>(stream->size()), &read, 4));
+                     qoi_decode(stream->data(), static_cast<int>(stream->size()), &read, 4);
                    }});
   }
 #endif
@@ -205,45 +218,60 @@ const Format formats[] = {
     {"c2f", c2fEncoder, nullptr, c2fDecoder},
 };
 
-void add(const Format& format, const Data& data) {
-  const auto stream = std::make_shared<Bytes>(data.size() + data.size() / 32 + 64);
-  const auto back = std::make_shared<Bytes>(data.size());
-  auto source = data.bytes;
-  const uint32_t size = data.size();
+// What a format makes of a picture. Its size stands behind the name of the row.
+struct Coded {
+  Shared picture, source, stream;
+  std::string note;
+  bool good;
+};
+Coded coded(const Format& format, const Data& data) {
+  Coded c{data.make(), nullptr, std::make_shared<Bytes>(size + size / 32 + 64), "", false};
+  c.source = c.picture;
+  uint32_t n = 0;
   if (format.prepared) {
-    auto planes = std::make_shared<Bytes>(size);
-    uint32_t n;
-    ichshift4Encoder(source->data(), planes->data(), size, &n);
-    source = std::make_shared<Bytes>(size);
-    iwave11Encoder(planes->data(), source->data(), size, &n);
+    Bytes planes(size);
+    c.source = std::make_shared<Bytes>(size);
+    ichshift4Encoder(c.picture->data(), planes.data(), size, &n);
+    iwave11Encoder(planes.data(), c.source->data(), size, &n);
   }
-  uint32_t written = 0;
-  const bool coded = format.encoder(source->data(), stream->data(), size, &written) == 0;
-  const std::string tail = "/" + data.name + "/" + (coded ? percent(written, size) : "given up");
+  c.good = format.encoder(c.source->data(), c.stream->data(), size, &n) == 0;
+  c.note = "/" + (c.good ? percent(n, size) : "given up");
+  if (c.good) c.stream->resize(n);
+  return c;
+}
+
+void add(const Format& format, const Data& data) {
   const std::string name = format.name;
   const size_t slash = std::min(name.find('/'), name.size());
-  const auto title = [=](const char* way) { return name.substr(0, slash) + way + name.substr(slash) + tail; };
-  compare({title("Encoder"), static_cast<double>(size), "byte", [=] {
+  const auto title = [&](const char* way) {
+    return name.substr(0, slash) + way + name.substr(slash) + "/" + data.name;
+  };
+  compare({title("Encoder"), size, "byte", [=] {
+             const Coded c = coded(format, data);
+             const auto room = std::make_shared<Bytes>(size + size / 32 + 64);
              std::vector<Contender> all{{"tessaro", [=] {
                                            uint32_t n;
-                                           format.encoder(source->data(), stream->data(), size, &n);
+                                           format.encoder(c.source->data(), room->data(), size, &n);
                                          }}};
-             for (const Peer& peer : peers(data)) all.push_back({peer.name, peer.encode});
-             return all;
+             for (const Peer& peer : peers(c.picture)) all.push_back({peer.name, peer.encode});
+             return Prepared(all, c.note);
            }});
-  if (!coded) return;
-  const auto good = std::make_shared<Bytes>(stream->begin(), stream->begin() + written);
-  compare({title("Decoder"), static_cast<double>(size), "byte", [=] {
+  compare({title("Decoder"), size, "byte", [=] {
              std::vector<Contender> all;
-             const auto safe = [=] { format.safe(good->data(), back->data(), written, size); };
+             const Coded c = coded(format, data);
+             if (!c.good) return Prepared(all);
+             const auto back = std::make_shared<Bytes>(size);
+             const auto safe = [=] {
+               format.safe(c.stream->data(), back->data(), static_cast<uint32_t>(c.stream->size()), size);
+             };
              if (format.decoder) {
-               all.push_back({"tessaro", [=] { format.decoder(good->data(), back->data(), size); }});
+               all.push_back({"tessaro", [=] { format.decoder(c.stream->data(), back->data(), size); }});
                all.push_back({"hardened", safe});
              } else {
                all.push_back({"tessaro", safe});
              }
-             for (const Peer& peer : peers(data)) all.push_back({peer.name, peer.decode});
-             return all;
+             for (const Peer& peer : peers(c.picture)) all.push_back({peer.name, peer.decode});
+             return Prepared(all, c.note);
            }});
 }
 
@@ -280,8 +308,7 @@ void add(const Transform& transform, int edge) {
 const bool registered = [] {
   for (const Transform& transform : transforms)
     for (int edge : image_sizes) add(transform, edge);
-  const Data photo = photograph();
-  for (const Data& data : {photo, screen(), sprite(photo)})
+  for (const Data& data : pictures)
     for (const Format& format : formats) add(format, data);
   return true;
 }();

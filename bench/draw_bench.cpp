@@ -1,16 +1,13 @@
-// Drawing beside what memory allows and beside the libraries that draw the same shapes. Lines differ in the pixels
-// that they choose, not in how many.
+// Drawing beside what memory allows and beside the libraries that draw the same shapes. Lines differ in the
+// pixels that they choose, not in how many.
 #include <algorithm>
 #include <cstdlib>
 
-#include "bench.hpp"
+#include "peers.hpp"
 #include "tessaro/tessaro.h"
 
 #if TESSARO_BENCH_HAS_LIBYUV
 #include <libyuv.h>
-#endif
-#if TESSARO_BENCH_HAS_SDL2
-#include <SDL.h>
 #endif
 #if TESSARO_BENCH_HAS_OPENCV
 #include <opencv2/imgproc.hpp>
@@ -20,12 +17,12 @@ using namespace tessaro::bench;
 
 namespace {
 
-using Call = std::function<void(const Picture& dst, const Picture& pattern)>;
+using Draw = std::function<void(const Picture& dst, const Picture& pattern)>;
 using Limit = void (*)(void* dst, size_t bytes);
 
 // One call over the whole of a square image; the pattern has 256 x 256 pixels.
-bool shape(const std::string& name, int size, double share, Limit limit, Call own,
-           std::vector<std::pair<std::string, Call>> peers = {}) {
+bool shape(const std::string& name, int size, double share, Limit limit, Draw own,
+           std::vector<std::pair<std::string, Draw>> peers = {}) {
   return compare({name + "/" + std::to_string(size), static_cast<double>(size) * size * share, "pixel", [=] {
                     const Picture dst(size, size), pattern(256, 256, 2);
                     std::vector<Contender> all{{"tessaro", [=] { own(dst, pattern); }}};
@@ -35,10 +32,6 @@ bool shape(const std::string& name, int size, double share, Limit limit, Call ow
                     return all;
                   }});
 }
-
-#if TESSARO_BENCH_HAS_OPENCV
-cv::Mat mat_of(const Picture& p) { return {p.height(), p.width(), CV_8UC4, p.pixels()}; }
-#endif
 
 bool boxes() {
   for (const int n : image_sizes) {
@@ -146,10 +139,7 @@ bool lines(const std::string& name, Line own, bool peers) {
                     }});
 #endif
 #if TESSARO_BENCH_HAS_SDL2
-               std::shared_ptr<SDL_Surface> surface(
-                   SDL_CreateRGBSurfaceWithFormatFrom(dst.pixels(), 1024, 1024, 32, 4096,
-                                                      SDL_PIXELFORMAT_ARGB8888),
-                   SDL_FreeSurface);
+               const auto surface = surface_of(dst);
                std::shared_ptr<SDL_Renderer> renderer(SDL_CreateSoftwareRenderer(surface.get()),
                                                       SDL_DestroyRenderer);
                all.push_back({"SDL2", [ends, surface, renderer] {

@@ -1,9 +1,8 @@
 // Blurs, halving, colour reduction, channel routing and region paint beside the limit and OpenCV's filters.
-#include "bench.hpp"
+#include "peers.hpp"
 #include "tessaro/tessaro.h"
 
 #if TESSARO_BENCH_HAS_OPENCV
-#include <opencv2/core.hpp>
 #include <opencv2/imgproc.hpp>
 #endif
 #if TESSARO_BENCH_HAS_LIBYUV
@@ -13,10 +12,6 @@
 using namespace tessaro::bench;
 
 namespace {
-
-#if TESSARO_BENCH_HAS_OPENCV
-cv::Mat mat_of(const Picture& p) { return {p.height(), p.width(), CV_8UC4, p.pixels()}; }
-#endif
 
 void add_blur(const std::string& name, decltype(&BBIBltUBlur) blur, int size, int radius, bool columns) {
   compare({name + "/r" + std::to_string(radius) + "/" + std::to_string(size),
@@ -41,14 +36,21 @@ void add_blur(const std::string& name, decltype(&BBIBltUBlur) blur, int size, in
 void add_paint(const std::string& name, int size, std::function<bool(int x, int y)> is_key, uint32_t op) {
   compare(
       {"BBIPaintChoose/" + name + "/" + std::to_string(size), static_cast<double>(size) * size, "pixel", [=] {
-         const Picture image(size, size, 1);
+         // Painted regions are keys no longer: each run begins with a copy of the drawing, as the limit does.
+         const Picture image(size, size, 1), drawing(size, size, 2);
          constexpr uint32_t key = 0xFF00FF00;
          for (int y = 0; y < size; ++y)
            for (int x = 0; x < size; ++x)
-             reinterpret_cast<uint32_t*>(image.pixels())[y * size + x] = is_key(x, y) ? key : 0xFF000000;
-         return std::vector<Contender>{
-             {"tessaro", [=] { BBIPaintChoose(image.record(), op, key, key, 5, 0); }},
-             {"limit", [=] { limit_read(image.pixels(), image.bytes()); }}};
+             reinterpret_cast<uint32_t*>(drawing.pixels())[y * size + x] = is_key(x, y) ? key : 0xFF000000;
+         return std::vector<Contender>{{"tessaro",
+                                        [=] {
+                                          limit_copy(image.pixels(), drawing.pixels(), drawing.bytes());
+                                          BBIPaintChoose(image.record(), op, key, key, 5, 0);
+                                        }},
+                                       {"limit", [=] {
+                                          limit_copy(image.pixels(), drawing.pixels(), drawing.bytes());
+                                          limit_read(image.pixels(), image.bytes());
+                                        }}};
        }});
 }
 
@@ -70,11 +72,14 @@ const bool registered = [] {
     const double pixels = static_cast<double>(size) * size;
     const std::string at = "/" + std::to_string(size);
     compare({"BBIBltHalfSize" + at, pixels, "pixel", [=] {
-               const Picture dst(size / 2, size / 2, 1), src(size, size, 2), copy(size, size, 3);
+               const Picture dst(size / 2, size / 2, 1), src(size, size, 2);
                std::vector<Contender> all = {
                    {"tessaro",
                     [=] { BBIBltHalfSize(dst.record(), src.record(), 0, 0, size / 2, size / 2, 0, 0); }},
-                   {"limit", [=] { limit_copy(copy.pixels(), src.pixels(), src.bytes()); }}};
+                   {"limit", [=] {
+                      limit_read(src.pixels(), src.bytes());
+                      limit_fill(dst.pixels(), dst.bytes());
+                    }}};
 #if TESSARO_BENCH_HAS_OPENCV
                all.push_back({"OpenCV", [=] {
                                 cv::Mat to = mat_of(dst);

@@ -1,19 +1,16 @@
-// Maps and stencils. The pictures are noise in every byte, alpha included: the worst that can happen, because the map row
-// changes from pixel to pixel. Rows that say "opaque" have one alpha, rows that say "cut out" a photograph that fades
-// towards the edge of a disc.
+// Maps and stencils. The pictures are noise in every byte, alpha included: the worst that can happen, because
+// the map row changes from pixel to pixel. Rows that say "opaque" have one alpha, rows that say "cut out" a
+// photograph that fades towards the edge of a disc.
 #include <cmath>
 #include <cstring>
 #include <fstream>
 #include <iterator>
 
-#include "bench.hpp"
+#include "peers.hpp"
 #include "tessaro/tessaro.h"
 
 #if TESSARO_BENCH_HAS_LIBYUV
 #include <libyuv.h>
-#endif
-#if TESSARO_BENCH_HAS_OPENCV
-#include <opencv2/core.hpp>
 #endif
 
 using namespace tessaro::bench;
@@ -60,9 +57,10 @@ bool map(const std::string& name, Map own, Form form = Form::noise, bool peers =
                           }});
 #endif
 #if TESSARO_BENCH_HAS_OPENCV
-           const auto mat = [](const Picture& p, int w, int h) { return cv::Mat(h, w, CV_8UC4, p.pixels()); };
-           all.push_back({"OpenCV", [=, to = mat(dst, size, size), from = mat(src, size, size),
-                                     lut = mat(table, 256, 1)]() mutable { cv::LUT(from, lut, to); }});
+           all.push_back({"OpenCV", [=, to = mat_of(dst), from = mat_of(src),
+                                     lut = cv::Mat(256, 1, CV_8UC4, table.pixels())]() mutable {
+                            cv::LUT(from, lut, to);
+                          }});
 #endif
            return all;
          }});

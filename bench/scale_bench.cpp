@@ -1,17 +1,13 @@
-// Stretched, interpolated and cross-faded copies beside the limit and the libraries that scale. What differs: OpenCV's
-// nearest sample is floor(x * scale) as here, those of libyuv and pixman are centred; the bilinear filters round each in its
-// own way; pixman blends premultiplied colours.
-#include "bench.hpp"
+// Stretched, interpolated and cross-faded copies beside the limit and the libraries that scale. What differs:
+// OpenCV's nearest sample is floor(x * scale) as here, those of libyuv and pixman are centred; the bilinear
+// filters round each in its own way; pixman blends premultiplied colours.
+#include "peers.hpp"
 #include "tessaro/tessaro.h"
 
 #if TESSARO_BENCH_HAS_LIBYUV
 #include <libyuv.h>
 #endif
-#if TESSARO_BENCH_HAS_PIXMAN
-#include <pixman.h>
-#endif
 #if TESSARO_BENCH_HAS_OPENCV
-#include <opencv2/core.hpp>
 #include <opencv2/imgproc.hpp>
 #endif
 
@@ -20,17 +16,6 @@
 using namespace tessaro::bench;
 
 namespace {
-
-// A source that is stretched onto a destination by a factor.
-struct Pair {
-  Picture dst, src;
-  Picture like_dst;  // a source of the destination's size, for limits
-};
-struct Named {
-  std::string name;
-  std::function<std::function<void()>(const Pair&)> make;  // set-up, then the call to be measured
-};
-using Peers = std::vector<Named>;
 
 #if TESSARO_BENCH_HAS_LIBYUV
 Named libyuv_scale(libyuv::FilterMode mode) {
@@ -43,9 +28,6 @@ Named libyuv_scale(libyuv::FilterMode mode) {
 }
 #endif
 #if TESSARO_BENCH_HAS_OPENCV
-cv::Mat mat_of(const Picture& picture) {
-  return cv::Mat(picture.height(), picture.width(), CV_8UC4, picture.pixels());
-}
 Named opencv_scale(int mode) {
   return {"OpenCV", [mode](const Pair& p) -> std::function<void()> {
             return [p, mode, src = mat_of(p.src), dst = mat_of(p.dst)]() mutable {
@@ -56,24 +38,18 @@ Named opencv_scale(int mode) {
 #endif
 #if TESSARO_BENCH_HAS_PIXMAN
 Named pixman_scale(pixman_op_t op, pixman_filter_t filter) {
-  return {
-      "pixman", [op, filter](const Pair& p) -> std::function<void()> {
-        const auto image_of = [](const Picture& picture) {
-          return std::shared_ptr<pixman_image_t>(
-              pixman_image_create_bits(PIXMAN_a8r8g8b8, picture.width(), picture.height(),
-                                       reinterpret_cast<uint32_t*>(picture.pixels()), 4 * picture.width()),
-              pixman_image_unref);
-        };
-        return [p, op, filter, dst = image_of(p.dst), src = image_of(p.src)] {
-          pixman_transform_t transform;
-          pixman_transform_init_scale(&transform, pixman_double_to_fixed(1.0 * p.src.width() / p.dst.width()),
-                                      pixman_double_to_fixed(1.0 * p.src.height() / p.dst.height()));
-          pixman_image_set_transform(src.get(), &transform);
-          pixman_image_set_filter(src.get(), filter, nullptr, 0);
-          pixman_image_composite32(op, src.get(), nullptr, dst.get(), 0, 0, 0, 0, 0, 0, p.dst.width(),
-                                   p.dst.height());
-        };
-      }};
+  return {"pixman", [op, filter](const Pair& p) -> std::function<void()> {
+            return [p, op, filter, dst = pixman_of(p.dst), src = pixman_of(p.src)] {
+              pixman_transform_t transform;
+              pixman_transform_init_scale(&transform,
+                                          pixman_double_to_fixed(1.0 * p.src.width() / p.dst.width()),
+                                          pixman_double_to_fixed(1.0 * p.src.height() / p.dst.height()));
+              pixman_image_set_transform(src.get(), &transform);
+              pixman_image_set_filter(src.get(), filter, nullptr, 0);
+              pixman_image_composite32(op, src.get(), nullptr, dst.get(), 0, 0, 0, 0, 0, 0, p.dst.width(),
+                                       p.dst.height());
+            };
+          }};
 }
 #endif
 
@@ -120,40 +96,38 @@ Peers cubic() {
 Peers faded() {
   return {
 #if TESSARO_BENCH_HAS_LIBYUV
-    {"libyuv", [](const Pair& p) -> std::function<void()> {
-       return [p] {
-         libyuv::ARGBInterpolate(p.dst.pixels(), 4 * p.dst.width(), p.src.pixels(), 4 * p.dst.width(),
-                                 p.dst.pixels(), 4 * p.dst.width(), p.dst.width(), p.dst.height(), 100);
-       };
-     }},
+    plain("libyuv", [](const Pair& p) {
+      libyuv::ARGBInterpolate(p.dst.pixels(), p.pitch(), p.src.pixels(), p.pitch(), p.dst.pixels(), p.pitch(),
+                              p.width, p.height, 100);
+    }),
 #endif
   };
 }
 Peers composited() {
   return {
 #if TESSARO_BENCH_HAS_LIBYUV
-    {"libyuv", [](const Pair& p) -> std::function<void()> {
-       return [p] {
-         libyuv::ARGBBlend(p.src.pixels(), 4 * p.dst.width(), p.dst.pixels(), 4 * p.dst.width(),
-                           p.dst.pixels(), 4 * p.dst.width(), p.dst.width(), p.dst.height());
-       };
-     }},
+    plain("libyuv", [](const Pair& p) {
+      libyuv::ARGBBlend(p.src.pixels(), p.pitch(), p.dst.pixels(), p.pitch(), p.dst.pixels(), p.pitch(),
+                        p.width, p.height);
+    }),
 #endif
   };
 }
 
-using Limit = void (*)(const Pair&);
-void filling(const Pair& p) { limit_fill(p.dst.pixels(), p.dst.bytes()); }
-void combining(const Pair& p) { limit_combine(p.dst.pixels(), p.like_dst.pixels(), p.dst.bytes()); }
+// As if the source had the destination's size.
+using Limit = void (*)(const Picture& dst, const Picture& src);
+void filling(const Picture& d, const Picture&) { limit_fill(d.pixels(), d.bytes()); }
+void combining(const Picture& d, const Picture& s) { limit_combine(d.pixels(), s.pixels(), d.bytes()); }
 
 bool scale(const std::string& name, std::vector<int> sizes, double factor, Limit limit, const Peers& peers,
-           std::function<void(const Pair&)> own) {
+           Call own) {
   for (const int size : sizes) {
     compare({name + "/" + std::to_string(size), static_cast<double>(size) * size, "pixel", [=] {
                const int from = static_cast<int>(std::lround(size / factor));
-               const Pair pair{{size, size, 1}, {from, from, 2}, {size, size, 3}};
+               const Pair pair{{size, size, 1}, {from, from, 2}, size, size};
                std::vector<Contender> all{{"tessaro", [=] { own(pair); }}};
-               if (limit) all.push_back({"limit", [=] { limit(pair); }});
+               if (limit)
+                 all.push_back({"limit", [=, like = Picture(size, size, 3)] { limit(pair.dst, like); }});
                for (const Named& peer : peers) all.push_back({peer.name, peer.make(pair)});
                return all;
              }});
@@ -162,14 +136,14 @@ bool scale(const std::string& name, std::vector<int> sizes, double factor, Limit
 }
 
 template <class F, class... More>
-std::function<void(const Pair&)> scaled(F f, More... more) {
+Call scaled(F f, More... more) {
   return [=](const Pair& p) {
     f(p.dst.record(), p.src.record(), 0, 0, p.dst.width(), p.dst.height(), 0, 0, p.src.width(),
       p.src.height(), more...);
   };
 }
 template <class F, class... More>
-std::function<void(const Pair&)> unscaled(F f, More... more) {
+Call unscaled(F f, More... more) {
   return [=](const Pair& p) {
     f(p.dst.record(), p.src.record(), 0, 0, p.dst.width(), p.dst.height(), 0, 0, more...);
   };

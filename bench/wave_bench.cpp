@@ -1,5 +1,5 @@
-// Waveforms: blits and effects beside memcpy of the bytes they read and write and plain loops, resampling beside
-// libsamplerate, the transform beside FFTW and KissFFT, the reverb beside a loop over its taps.
+// Waveforms: blits and effects beside memcpy of the bytes they read and write and plain loops, resampling
+// beside libsamplerate, the transform beside FFTW and KissFFT, the reverb beside a loop over its taps.
 #include <algorithm>
 #include <cmath>
 #include <cstring>
@@ -45,13 +45,18 @@ Shared sound(int bits, int channels = 2, int count = frames) {
   return std::make_shared<Sound>(bits, channels, count);
 }
 
-using Call = std::function<void(const WaveBuffer*, const WaveBuffer*)>;
+using WaveCall = std::function<void(const WaveBuffer*, const WaveBuffer*)>;
 
-// passes: how many times the bytes of one buffer are read or written.
-void add(const std::string& name, int bits, double passes, Call call, WaveLoop loop = nullptr) {
+// The integer scales take a buffer of doubles for packed samples of 24 bits, and touch no more of it.
+enum class Scale { integer, real };
+// passes: how many times the samples of one buffer are read or written.
+void add(const std::string& name, int bits, Scale scale, double passes, WaveCall call,
+         WaveLoop loop = nullptr) {
   compare({name + "/" + std::to_string(bits), static_cast<double>(frames_of(bits)), "frame", [=] {
              const Shared dst = sound(bits, 2, frames_of(bits)), src = sound(bits, 2, frames_of(bits));
-             const size_t moved = static_cast<size_t>(static_cast<double>(src->bytes.size()) * passes / 2);
+             const size_t moved =
+                 static_cast<size_t>(static_cast<double>(src->bytes.size()) * passes / 2 *
+                                     (bits == 64 && scale == Scale::integer ? 24 / 64.0 : 1));
              const auto from = std::make_shared<std::vector<uint8_t>>(moved),
                         to = std::make_shared<std::vector<uint8_t>>(moved);
              std::vector<Contender> all = {{"tessaro", [=] { call(&dst->record, &src->record); }},
@@ -69,22 +74,27 @@ void add_all() {
   for (const int bits : {16, 64, 24, 8}) {
     const WaveLoops plain = wave_loops(bits);
     add(
-        "waveBlt", bits, 2, [](auto d, auto s) { waveBlt(d, s, 0, 0, d->count, 0.8f); }, plain.gain);
+        "waveBlt", bits, Scale::integer, 2, [](auto d, auto s) { waveBlt(d, s, 0, 0, d->count, 0.8f); },
+        plain.gain);
     add(
-        "waveFormat", bits, 2, [](auto d, auto s) { waveFormat(d, s); }, plain.convert);
+        "waveFormat", bits, Scale::integer, 2, [](auto d, auto s) { waveFormat(d, s); }, plain.convert);
     add(
-        "waveBlt64", bits, 2, [](auto d, auto s) { waveBlt64(d, s, 0, 0, d->count); }, plain.copy64);
+        "waveBlt64", bits, Scale::real, 2, [](auto d, auto s) { waveBlt64(d, s, 0, 0, d->count); },
+        plain.copy64);
     add(
-        "waveBltAdd", bits, 3, [](auto d, auto s) { waveBltAdd(d, s, 0, 0, d->count, 0.8f); }, plain.add);
+        "waveBltAdd", bits, Scale::integer, 3, [](auto d, auto s) { waveBltAdd(d, s, 0, 0, d->count, 0.8f); },
+        plain.add);
     add(
-        "waveBltSub", bits, 3, [](auto d, auto s) { waveBltSub(d, s, 0, 0, d->count, 0.8f); }, plain.sub);
+        "waveBltSub", bits, Scale::integer, 3, [](auto d, auto s) { waveBltSub(d, s, 0, 0, d->count, 0.8f); },
+        plain.sub);
     add(
-        "waveBltMul", bits, 3, [](auto d, auto s) { waveBltMul(d, s, 0, 0, d->count, 0.8f); }, plain.mul);
+        "waveBltMul", bits, Scale::integer, 3, [](auto d, auto s) { waveBltMul(d, s, 0, 0, d->count, 0.8f); },
+        plain.mul);
     add(
-        "waveNormal", bits, 2, [](auto d, auto s) { waveNormal(d, s, 0, 0, d->count, 0.009f); },
+        "waveNormal", bits, Scale::real, 2, [](auto d, auto s) { waveNormal(d, s, 0, 0, d->count, 0.009f); },
         plain.normal);
     add(
-        "waveEffectMaximizer24", bits, 3,
+        "waveEffectMaximizer24", bits, Scale::integer, 3,
         [](auto d, auto) {
           int32_t look = 0, write = 0;
           double left = 1.5, right = 1.5;  // they fall to 1, where they would stay and change nothing
@@ -92,19 +102,20 @@ void add_all() {
         },
         plain.maximize24);
     add(
-        "waveEffectMaximizer64", bits, 3,
+        "waveEffectMaximizer64", bits, Scale::real, 3,
         [](auto d, auto s) {
           int32_t look = 0, write = 0;
           double left = -15, right = -15;
           waveEffectMaximizer64(d, s, &look, &write, d->count, 0.5, &left, &right);
         },
         plain.maximize64);
-    add("waveBltAddNoise", bits, 2, [](auto d, auto s) { waveBltAddNoise(d, s, 0, 0, d->count, 0.1f); });
+    add("waveBltAddNoise", bits, Scale::integer, 2,
+        [](auto d, auto s) { waveBltAddNoise(d, s, 0, 0, d->count, 0.1f); });
   }
   for (const int radius : {4, 50, 511})
-    add("waveBltBlur/r" + std::to_string(radius), 16, 2,
+    add("waveBltBlur/r" + std::to_string(radius), 16, Scale::integer, 2,
         [=](auto d, auto s) { waveBltBlur(d, s, 0, 0, d->count, radius); });
-  add("waveBltSin", 16, 2,
+  add("waveBltSin", 16, Scale::integer, 2,
       [](auto d, auto s) { waveBltSin(d, s, 0, 0, d->count, 0.3f, 0.05f, 1e-5f, 0.01f); });
 }
 
@@ -117,14 +128,18 @@ void add_expand(int dst_bits, int src_bits) {
 #if TESSARO_BENCH_HAS_SAMPLERATE
          const auto in = std::make_shared<std::vector<float>>(2 * input, 0.1f);
          const auto out = std::make_shared<std::vector<float>>(2 * frames + 64);
+         int error = 0;
+         const std::shared_ptr<SRC_STATE> state(src_new(SRC_LINEAR, 2, &error), src_delete);
          all.push_back({"libsamplerate", [=] {
+                          src_reset(state.get());
                           SRC_DATA data{};
                           data.data_in = in->data();
                           data.data_out = out->data();
                           data.input_frames = input;
                           data.output_frames = frames;
                           data.src_ratio = 1 / 0.62;
-                          src_simple(&data, SRC_LINEAR, 2);
+                          data.end_of_input = 1;
+                          src_process(state.get(), &data);
                         }});
 #endif
          return all;

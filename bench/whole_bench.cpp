@@ -1,15 +1,15 @@
-// Operations on whole images. OpenCV's transpose and floodFill, and libyuv's mirrors and rotations, do the same work.
+// Operations on whole images. OpenCV's transpose and floodFill, and libyuv's mirrors and rotations, do the
+// same work.
 #include <cmath>
 #include <cstring>
 
-#include "bench.hpp"
+#include "peers.hpp"
 #include "tessaro/tessaro.h"
 
 #if TESSARO_BENCH_HAS_LIBYUV
 #include <libyuv.h>
 #endif
 #if TESSARO_BENCH_HAS_OPENCV
-#include <opencv2/core.hpp>
 #include <opencv2/imgproc.hpp>
 #endif
 
@@ -26,12 +26,6 @@ bool whole(const std::string& name, Setup setup, std::vector<int> sizes = {512, 
              [=] { return setup(Picture(size, size, 1), Picture(size, size, 2)); }});
   return true;
 }
-
-#if TESSARO_BENCH_HAS_OPENCV
-cv::Mat mat_of(const Picture& p, int type = CV_8UC4) {
-  return cv::Mat(p.height(), p.width(), type, p.pixels(), static_cast<size_t>(4 * p.width()));
-}
-#endif
 
 Contender reading(const Picture& a, size_t images) {
   return {"limit", [=] {
@@ -163,12 +157,9 @@ double stones(uint32_t* pixels, int size) {
 
 bool paint(const std::string& name, Ground ground) {
   for (const int size : image_sizes) {
-    // The work is known once the ground is drawn.
-    std::vector<uint32_t> drawn(static_cast<size_t>(size) * static_cast<size_t>(size));
-    const double work = ground(drawn.data(), size);
-    compare({"BBIPaint/" + name + "/" + std::to_string(size), work, "pixel", [=] {
+    compare({"BBIPaint/" + name + "/" + std::to_string(size), 0, "pixel", [=] {
                const Picture a(size, size), b(size, size);
-               ground(reinterpret_cast<uint32_t*>(a.pixels()), size);
+               const double work = ground(reinterpret_cast<uint32_t*>(a.pixels()), size);
                ground(reinterpret_cast<uint32_t*>(b.pixels()), size);
                Contenders all{{"tessaro", [a, colour = 1u]() mutable {
                                  int32_t box[4];
@@ -181,7 +172,7 @@ bool paint(const std::string& name, Ground ground) {
                                 cv::floodFill(m, {0, 0}, cv::Scalar(colour), nullptr, {}, {}, 4);
                               }});
 #endif
-               return all;
+               return Prepared(all, "", work);
              }});
   }
   return true;
