@@ -1,6 +1,8 @@
-// C++17 over the C functions: images and sounds that own their memory, streams that size themselves, scoped constants.
+// C++17 over the C functions: images and sounds that own their memory, streams that size themselves, scoped
+// constants.
 //
-// `tessaro::Image` and `tessaro::Sound` are accepted wherever a function takes a record, so that a call costs what it costs in C:
+// `tessaro::Image` and `tessaro::Sound` are accepted wherever a function takes a record, so that a call costs
+// what it costs in C:
 //
 //   tessaro::Image screen(320, 200), sprite(32, 32);
 //   BBIBltBlend(screen, sprite, 10, 10, 32, 32, 0, 0, 1);
@@ -22,7 +24,8 @@
 
 namespace tessaro {
 
-/// Bytes that somebody else holds; made from anything with data() and size(), such as std::vector, std::string or std::span.
+/// Bytes that somebody else holds; made from anything with data() and size(), such as std::vector,
+/// std::string or std::span.
 struct Bytes {
   const void* data = nullptr;
   size_t size = 0;
@@ -141,7 +144,8 @@ class SoundView {
 class Sound : public SoundView {
  public:
   Sound() = default;
-  /// Empty where bits or channels are none that are known, the number of frames is negative, or memory is short.
+  /// Empty where bits or channels are none that are known, the number of frames is negative, or memory is
+  /// short.
   Sound(SampleBits bits, Channels channels, int rate, int frames)
       : Sound(std::unique_ptr<double[]>(block(bits, channels, frames)), bits, channels, rate, frames) {}
   Sound(Sound&& other) noexcept
@@ -169,7 +173,8 @@ class Sound : public SoundView {
   std::unique_ptr<double[]> memory_;
 };
 
-/// The stream of a source in a format; nothing where the data does not compress, and the source is to be kept instead.
+/// The stream of a source in a format; nothing where the data does not compress, and the source is to be kept
+/// instead.
 inline std::optional<std::vector<uint8_t>> encode(Codec codec, Bytes source) {
   if (source.size > 0x7FFFFFFF) return std::nullopt;
   const auto length = static_cast<uint32_t>(source.size);

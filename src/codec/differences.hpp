@@ -9,9 +9,9 @@
 namespace tessaro {
 
 struct DifferenceKernels {
-  // From source to destination, n bytes. The two may be the same memory, or the destination may begin anywhere before
-  // the source or at least difference_block bytes behind it. The scalar kernels take any overlap, one sample after
-  // another.
+  // From source to destination, n bytes. The two may be the same memory, or the destination may begin
+  // anywhere before the source or at least difference_block bytes behind it. The scalar kernels take any
+  // overlap, one sample after another.
   using Run = void (*)(const uint8_t* source, uint8_t* destination, size_t n);
   struct Pair {
     Run encode, decode;

@@ -38,6 +38,12 @@ TESSARO_INLINE Bytes unfolded(const Bytes& v) {
 }
 
 // To every sample all those a multiple of n bytes before it: within a lane by doublings, then lane by lane.
+// For n of 4:
+//
+//   a  b   c    d    | e  f   g    h        two lanes
+//   a  ab  abc  abcd | e  ef  efg  efgh     each plus itself raised by 4 bytes, then by 8
+//   -  -   -    -    | abcd abcd abcd abcd  the ends of lanes all over, a lane up (of four, their sums)
+//   a  ab  abc  abcd | abcde .. abcdefgh    the sum of the last two lines
 template <int n, class As>
 TESSARO_INLINE Bytes added_up(Bytes v) {
   if constexpr (n <= 1) v = sum<As>(v, raised<1>(v));
@@ -55,8 +61,8 @@ TESSARO_INLINE Bytes added_up(Bytes v) {
   return v;
 }
 
-// The samples from `at` on, one after another. history holds the reference samples, the one that is next to be used at
-// at % distance.
+// The samples from `at` on, one after another. history holds the reference samples, the one that is next to
+// be used at at % distance.
 template <class Sample, size_t distance>
 TESSARO_INLINE void encode_rest(const uint8_t* src, uint8_t* dst, size_t at, size_t n, Sample* history) {
   constexpr unsigned top = 8 * sizeof(Sample) - 1;

@@ -9,8 +9,8 @@
 namespace tessaro {
 
 struct PlaneKernels {
-  // From source to destination, n bytes. The two must not overlap; the scalar kernels take any overlap, one byte after
-  // another.
+  // From source to destination, n bytes. The two must not overlap; the scalar kernels take any overlap, one
+  // byte after another.
   using Run = void (*)(const uint8_t* source, uint8_t* destination, size_t n);
   struct Pair {
     Run encode, decode;

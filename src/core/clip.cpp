@@ -1,3 +1,4 @@
+// Clips against images, in 64 bits.
 #include "core/clip.hpp"
 
 namespace tessaro {

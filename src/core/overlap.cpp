@@ -1,3 +1,4 @@
+// Whether two areas of images share memory, row by row where their spans alone do not tell.
 #include "core/overlap.hpp"
 
 namespace tessaro {

@@ -1,15 +1,16 @@
-// Overlap. Images and buffers may share memory, and results are then those of one pixel after another, left to right and
-// top to bottom. Work that goes about it in another way asks one of four questions first.
+// Overlap. Images and buffers may share memory, and results are then those of one pixel after another, left
+// to right and top to bottom. Work that goes about it in another way asks one of four questions first.
 //
 // 1. share_memory: do two pieces of memory meet? Where they do not, any order of work gives the same.
-// 2. reads_own_writes: would a vector read what an earlier pixel of the same vector should have written? Only where the
-//    destination lies ahead of the source, by less than the vector: pixel i writes what pixel i + ahead reads. Where it
-//    lies behind, each pixel is read before it is written, by vectors as by single pixels; at the same place likewise.
-// 3. may_read_ahead: may any number of pixels be read before the first of them is written, where pixels of source and
-//    destination differ in size? Yes where the runs do not meet, or where the destination begins no later and its pixels
-//    are no larger: then every write stays behind the reads still to come.
-// 4. rows_apart: does no row of an area run into the next one? Where one does, a place belongs to several rows, and the
-//    order of the rows shows in what is left there.
+// 2. reads_own_writes: would a vector read what an earlier pixel of the same vector should have written? Only
+//    where the destination lies ahead of the source, by less than the vector: pixel i writes what pixel i +
+//    ahead reads. Where it lies behind, each pixel is read before it is written, by vectors as by single
+//    pixels; at the same place likewise.
+// 3. may_read_ahead: may any number of pixels be read before the first of them is written, where pixels of
+//    source and destination differ in size? Yes where the runs do not meet, or where the destination begins
+//    no later and its pixels are no larger: then every write stays behind the reads still to come.
+// 4. rows_apart: does no row of an area run into the next one? Where one does, a place belongs to several
+//    rows, and the order of the rows shows in what is left there.
 #pragma once
 
 #include <cstddef>
@@ -46,7 +47,8 @@ template <class Address>
   return share_memory<uintptr_t>(reinterpret_cast<uintptr_t>(a), a_bytes, reinterpret_cast<uintptr_t>(b),
                                  b_bytes);
 }
-// Areas that lie side by side in one image do not meet, although the spans of memory from their first to their last byte do.
+// Areas that lie side by side in one image do not meet, although the spans of memory from their first to
+// their last byte do.
 bool share_memory(const Area& a, const Area& b);
 
 [[gnu::always_inline]] inline bool reads_own_writes(const void* dst, const void* src, size_t bytes) {

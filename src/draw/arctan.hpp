@@ -5,9 +5,9 @@
 
 namespace {
 
-// Arctangent within one unit in the last place, the same on every target and without branches, so that loops over it become
-// vectors: reduced by pi / 2 or pi / 4 to |x| <= 0.66, then a ratio of polynomials in x squared. The coefficients are those
-// of the Cephes library.
+// Arctangent within one unit in the last place, the same on every target and without branches, so that loops
+// over it become vectors: reduced by pi / 2 or pi / 4 to |x| <= 0.66, then a ratio of polynomials in x
+// squared. The coefficients are those of the Cephes library.
 TESSARO_INLINE double arctan(double v) {
   const double x = v < 0 ? -v : v;
   const bool far = x > 2.414213562373095, middle = x > 0.66;

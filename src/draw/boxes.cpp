@@ -99,8 +99,8 @@ int32_t TESSARO_CALL BBIDrawColorTile(ImageRecord* image, int32_t x, int32_t y, 
   const int64_t tw = tile_width < 1 ? 1 : tile_width, th = tile_height < 1 ? 1 : tile_height;
   const int64_t left_in_band = th - box.dy % th;
   const bool starts_odd = box.dy / th % 2 != 0, both = box.dh > left_in_band;
-  // Rows of whole pairs of tiles, repeated along the image; strips where the tiles are too wide. A mask makes the image
-  // itself pass through the nearest cache, which leaves less room there.
+  // Rows of whole pairs of tiles, repeated along the image; strips where the tiles are too wide. A mask makes
+  // the image itself pass through the nearest cache, which leaves less room there.
   const int64_t room = mask == 0 ? strip_width : strip_width / 4;
   const int64_t pair = 2 * tw, repeated = room / pair * pair;
   const auto draw = [&](ptrdiff_t done, ptrdiff_t top, Area area) {

@@ -23,8 +23,8 @@ struct BoxKernels {
   // Rows from y on, tile_height of them from the one pattern row, as many from the other. With a mask, the
   // patterns' bits inside it are clear.
   void (*tiles)(const Area&, const TileRows&, int64_t y, int64_t tile_height, uint32_t mask);
-  // Mixes from left to right, between the ends of each row; weights are 0..256 in both halves of a word. The area is part
-  // of a box of so many pixels.
+  // Mixes from left to right, between the ends of each row; weights are 0..256 in both halves of a word. The
+  // area is part of a box of so many pixels.
   void (*gradient)(const Area&, const uint32_t* weights, const RowEnds* ends, uint32_t mask,
                    ptrdiff_t pixels);
   // (1 - u) * left + u * right of each of four bytes, truncated.

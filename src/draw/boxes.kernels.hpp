@@ -36,7 +36,8 @@ void tiles(const Area& n, const TileRows& rows, int64_t y, int64_t tile_height, 
   }
 }
 
-// (right * w + left * (256 - w)) >> 8. Modulo 65536 that is left * 256 + (right - left) * w: one product less.
+// (right * w + left * (256 - w)) >> 8. Modulo 65536 that is left * 256 + (right - left) * w: one product
+// less.
 template <class P, bool masked>
 struct Gradient {
   using Half = typename P::Half;
@@ -94,8 +95,8 @@ struct Multiply {  // a * b / 255, rounded down
   TESSARO_INLINE P operator()(P, P columns) const {
     return join_high(by_255(even(columns) * even_row), by_255(odd(columns) * odd_row));
   }
-  // In the upper byte: with n = product + 1, n + n / 256 is a little above n * 256 / 255, and its upper byte exact for every
-  // product of two bytes.
+  // In the upper byte: with n = product + 1, n + n / 256 is a little above n * 256 / 255, and its upper byte
+  // exact for every product of two bytes.
   static_assert([] {
     for (uint32_t p = 0; p <= 255 * 255; ++p)
       if ((p + 1 + ((p + 1) >> 8)) >> 8 != p / 255) return false;

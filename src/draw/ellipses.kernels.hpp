@@ -9,8 +9,8 @@ using tessaro::EllipseRow;
 
 constexpr size_t block = 256;
 
-// Work runs in blocks: places in the palette in one loop, which has no memory to fetch and goes by vectors, and
-// the copies in another.
+// Work runs in blocks: places in the palette in one loop, which has no memory to fetch and goes by vectors,
+// and the copies in another.
 template <class Place>
 TESSARO_INLINE void copy_places(const EllipseRow& row, const Place& place) {
   int32_t offsets[block];

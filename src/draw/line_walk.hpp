@@ -70,8 +70,8 @@ inline int64_t longer_extent(int32_t x0, int32_t y0, int32_t x1, int32_t y1) {
   return w > h ? w : h;
 }
 
-// A walk from (x0, y0): steps 1 .. n lead to (x1, y1), and the start itself is not among the points reached. A
-// late walk has one step more and is behind by the strict comparison of its error terms.
+// A walk from (x0, y0): steps 1 .. n lead to (x1, y1), and the start itself is not among the points reached.
+// A late walk has one step more and is behind by the strict comparison of its error terms.
 struct LineWalk {
   int64_t n;
   Track x, y;

@@ -116,10 +116,10 @@ int32_t TESSARO_CALL BBILineThick(ImageRecord* image, int32_t x0, int32_t y0, in
   const int64_t width = flat ? view.width : view.height, height = flat ? view.height : view.width;
   const auto arms = [&](int64_t step) { thicken.arms(walk.x.at(step), walk.y.at(step)); };
 
-  // Steps before, over and after the image in the direction of the longer coordinate. Before and after it only
-  // the arms along the line's own row (column) can reach in, and of the points of one row the nearest paints
-  // all that the others do: it reaches farther from the same pixels of the colour, and what it paints lies
-  // within them.
+  // Steps before, over and after the image in the direction of the longer coordinate. Before and after it
+  // only the arms along the line's own row (column) can reach in, and of the points of one row the nearest
+  // paints all that the others do: it reaches farther from the same pixels of the colour, and what it paints
+  // lies within them.
   const Steps entry = longer.moves_within(0, width - 1);
   const int64_t before = (entry.first < walk.n + 1 ? entry.first : walk.n + 1) - 1;
   const int64_t after = (entry.last > 0 ? entry.last : 0) + 1;

@@ -31,8 +31,9 @@ struct Run {
 // for all rows of a strip and stays in the nearest cache.
 inline constexpr ptrdiff_t strip_width = 4096;
 
-// Calls draw(first column, first row, the area from there on) for each strip; columns and rows count from those of `all`.
-// Strips are of one row each where rows run into one another, the last row first if the walk goes upwards.
+// Calls draw(first column, first row, the area from there on) for each strip; columns and rows count from
+// those of `all`. Strips are of one row each where rows run into one another, the last row first if the walk
+// goes upwards.
 template <class Draw>
 void each_strip(const Area& all, bool upwards, Draw draw, ptrdiff_t strip = strip_width) {
   const bool apart = rows_apart(all);

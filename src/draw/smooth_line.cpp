@@ -8,16 +8,17 @@ using namespace tessaro;
 
 namespace {
 
-// Coverages as fractions of one: exact sums of single-precision steps. 57 bits are as many as it takes: the smallest that
-// is not 0, a quarter of 1 / (2^32 - 1), is at least 2^-34 and has 24 bits. Two whole ones still fit a word.
+// Coverages as fractions of one: exact sums of single-precision steps. 57 bits are as many as it takes: the
+// smallest that is not 0, a quarter of 1 / (2^32 - 1), is at least 2^-34 and has 24 bits. Two whole ones
+// still fit a word.
 constexpr int coverage_bits = 57;
 constexpr int64_t full_coverage = int64_t{1} << coverage_bits;
 int64_t coverage_of(float v) {
   return static_cast<int64_t>(static_cast<double>(v) * static_cast<double>(full_coverage));
 }
 
-// start + step * rate, from which full_coverage is taken whenever it is exceeded: how often that has happened,
-// and what is left.
+// start + step * rate, from which full_coverage is taken whenever it is exceeded: how often that has
+// happened, and what is left.
 struct Wraps {
   int64_t count, rest;
   Wraps(int64_t start, int64_t step, int64_t rate) {
@@ -62,8 +63,8 @@ extern "C" int32_t TESSARO_CALL BBIDrawAlphaLine(ImageRecord* image, const Image
   const int64_t rate = coverage_of(q), begin = coverage_of(h * 0.5f);
 
   // Track A loses coverage, track B, one pixel further, gains it: both move on when a whole pixel is used up.
-  // Both have to lie inside the image: the one that lags behind has to have come in, the one ahead not to have
-  // gone out.
+  // Both have to lie inside the image: the one that lags behind has to have come in, the one ahead not to
+  // have gone out.
   const Steps moves = s > 0 ? Steps{-across, breadth - 1 - across} : Steps{across - breadth + 1, across};
   Steps steps = Steps{0, major}.common({-along, length - 1 - along});
   const auto come = [&](int64_t i) { return Wraps(0, i, rate).count >= moves.first; };

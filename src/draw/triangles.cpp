@@ -32,8 +32,8 @@ struct Box {
   bool empty() const { return left > right || top > bottom; }
 };
 
-// One edge's cross product, e(x, y) = a * x + b * y + c: in unsigned words, where it wraps, or in 64 bits with sign, where it
-// does not for corners within 2^30 of the origin.
+// One edge's cross product, e(x, y) = a * x + b * y + c: in unsigned words, where it wraps, or in 64 bits
+// with sign, where it does not for corners within 2^30 of the origin.
 template <class T>
 struct Edge {
   T a, b, c;

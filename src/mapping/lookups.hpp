@@ -10,8 +10,9 @@ using tessaro::AreaPair;
 using tessaro::map_block;
 using tessaro::MapByValue;
 
-// Each byte of the pixel at `columns`, looked up in its own channel of the map row. Single bytes are read and written: four
-// lookups are most of the work wherever the row changes, and putting words together would add to it.
+// Each byte of the pixel at `columns`, looked up in its own channel of the map row. Single bytes are read and
+// written: four lookups are most of the work wherever the row changes, and putting words together would add
+// to it.
 template <bool keep_alpha = false>
 TESSARO_INLINE void look_up(uint8_t* dst, const uint8_t* row, const uint8_t* columns) {
   const uint8_t b = row[4 * columns[0]], g = row[4 * columns[1] + 1], r = row[4 * columns[2] + 2],

@@ -1,6 +1,7 @@
-// The maps' engine for processors that permute bytes over tables in registers: 64 pixels are taken apart into one register a
-// channel, each is looked up in four registers that hold its column of the map row, and they are put together again. Nothing
-// of it can be said in the vocabulary, whose vectors hold pixels, so it is written for its one back end.
+// The maps' engine for processors that permute bytes over tables in registers: 64 pixels are taken apart into
+// one register a channel, each is looked up in four registers that hold its column of the map row, and they
+// are put together again. Nothing of it can be said in the vocabulary, whose vectors hold pixels, so it is
+// written for its one back end.
 #include <immintrin.h>
 
 #include "mapping/lookups.hpp"
@@ -96,10 +97,13 @@ void by_one_row(const AreaPair& n, const uint8_t* row) {
   }
 }
 
-// A block of several rows: the pixels of each row that is there often go together by permutes, the others one by one, and
-// all of them where hardly two neighbours agree.
+// A block of several rows: the pixels of each row that is there often go together by permutes, the others one
+// by one, and all of them where hardly two neighbours agree.
 template <bool by_sum, bool from_dest, bool keep_alpha>
 [[gnu::noinline]] void permute_mixed(uint8_t* dst, const uint8_t* src, uint64_t all, const MapByValue& m) {
+  // Tables of a row are 1 KiB to be read and sorted by channels, however few its pixels; and where the row
+  // changes often, most rows of a block have few. The rows of BBIMapUCVA in the benchmarks that say "cut out"
+  // live by both bounds.
   constexpr int few = 6;     // pixels of one row that are not worth its tables
   constexpr int often = 12;  // changes of the row from pixel to pixel
   const __m512i deciding = _mm512_set1_epi32(by_sum ? 0x00FFFFFF : static_cast<int>(0xFF000000));
@@ -182,8 +186,8 @@ TESSARO_INLINE void prefetch(const uint8_t* at, uintptr_t ahead) {
   _mm_prefetch(reinterpret_cast<const char*>(reinterpret_cast<uintptr_t>(at) + ahead), _MM_HINT_T1);
 }
 
-// Transposes the bytes of sixteen rows of sixteen, within each 128 bits. Row i and row i + 8 are interleaved, four times over:
-// each round brings one bit of the row's number down into the column's.
+// Transposes the bytes of sixteen rows of sixteen, within each 128 bits. Row i and row i + 8 are interleaved,
+// four times over: each round brings one bit of the row's number down into the column's.
 TESSARO_INLINE void transpose(__m512i (&v)[16]) {
   for (int round = 0; round < 4; ++round) {
     __m512i t[16];
@@ -202,8 +206,8 @@ TESSARO_INLINE void transpose(__m512i (&v)[4]) {
   v[2] = _mm512_shuffle_i64x2(b, d, 0x88), v[3] = _mm512_shuffle_i64x2(b, d, 0xDD);
 }
 
-// 16 columns of 64 rows, transposed so that a register holds one channel of one column, and back. At the edges of the area
-// there are fewer: then the last row stands for those that are missing.
+// 16 columns of 64 rows, transposed so that a register holds one channel of one column, and back. At the
+// edges of the area there are fewer: then the last row stands for those that are missing.
 template <bool whole>
 TESSARO_INLINE void tile_by_tables(const AreaPair& n, const uint8_t* tables, const int32_t* table_of_column,
                                    bool more) {

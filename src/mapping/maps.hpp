@@ -27,8 +27,8 @@ struct MapKernels {
   // The two below may be missing.
   // A map row as four tables of 256 bytes, one a channel.
   void (*split_row)(const uint8_t* map_row, uint8_t* table);
-  // Each pixel through its column's table, given by its place among the tables; the last place is repeated up to a
-  // multiple of 16 columns. The areas are one, or share no memory.
+  // Each pixel through its column's table, given by its place among the tables; the last place is repeated up
+  // to a multiple of 16 columns. The areas are one, or share no memory.
   void (*by_tables)(const AreaPair&, const uint8_t* tables, const int32_t* table_of_column);
 };
 TESSARO_DECLARE_KERNELS(MapKernels);

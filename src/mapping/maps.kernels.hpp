@@ -1,6 +1,7 @@
 // kernels: MapKernels -avx2 -avx512 +avx512vbmi
-// Single bytes (see look_up): gathers are no faster in noise, and slower where the entries lie near one another. Where bytes
-// are permuted over tables in registers, the engine in maps.avx512vbmi.hpp stands for this file.
+// Single bytes (see look_up): gathers are no faster in noise, and slower where the entries lie near one
+// another. Where bytes are permuted over tables in registers, the engine in maps.avx512vbmi.hpp stands for
+// this file.
 #include "mapping/lookups.hpp"
 
 namespace {

@@ -41,10 +41,11 @@ void build_ramp(uint32_t (&weights)[256], double p, double s) {
   }
 }
 
-// The line that gives these weights, which lie on one but for their rounding: much cheaper than to look them up. False
-// for the rare ramp whose rounding no line follows. With a rise given, a weight above 0 bounds the base from below and one
-// below 256 from above; the rise that the softness asks for is tried, and the next one. The shift makes it fit an AlphaLine,
-// so that its products and the weights before the shift stay below 2^26.
+// The line that gives these weights, which lie on one but for their rounding: much cheaper than to look them
+// up. False for the rare ramp whose rounding no line follows. With a rise given, a weight above 0 bounds the
+// base from below and one below 256 from above; the rise that the softness asks for is tried, and the next
+// one. The shift makes it fit an AlphaLine, so that its products and the weights before the shift stay below
+// 2^26.
 bool fit_line(const uint32_t (&weights)[256], double s, AlphaLine& line) {
   double rise = 256.0 * static_cast<double>(0.003921569f) / s;
   if (rise > 1024.0) rise = 1024.0;  // from nothing to all in one step

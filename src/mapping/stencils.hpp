@@ -23,7 +23,8 @@ struct StencilAreas {
 struct StencilKernels {
   // The incoming pixel where the stencil's alpha is below the limit (1..255), else the outgoing one.
   void (*hard)(const StencilAreas&, uint32_t limit);
-  // The incoming pixel mixed towards the outgoing one with the weight of the stencil's alpha, or with one weight.
+  // The incoming pixel mixed towards the outgoing one with the weight of the stencil's alpha, or with one
+  // weight.
   void (*soft)(const StencilAreas&, const uint32_t* weights);
   void (*ramp)(const StencilAreas&, const AlphaLine&);
   void (*fade)(const StencilAreas&, uint32_t weight);

@@ -1,4 +1,5 @@
-// The platform's picture loader: a picture file in memory, whatever its format. win32/ and posix/ implement it.
+// The platform's picture loader: a picture file in memory, whatever its format. win32/ and posix/ implement
+// it.
 #pragma once
 
 #include <cstddef>

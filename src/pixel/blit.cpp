@@ -1,3 +1,4 @@
+// Unscaled blits of one image, of two and of three.
 #include "pixel/blit.hpp"
 
 #include "tessaro/tessaro.h"

@@ -11,8 +11,8 @@ constexpr uint32_t colour_bits = 0x00FFFFFF;
 constexpr uint32_t taken =
     0xFF000000;  // marks a used place of a hash table, so that black differs from nothing
 
-// The place of a colour in a table of 2^bits places, of which one at least stays free: where it is, or where it
-// would go.
+// The place of a colour in a table of 2^bits places, of which one at least stays free: where it is, or where
+// it would go.
 uint32_t place_of(const uint32_t* table, int bits, uint32_t entry) {
   uint32_t at = (entry & colour_bits) * 0x9E3779B1u >> (32 - bits);
   while (table[at] != entry && table[at] != 0) at = (at + 1) & ((1u << bits) - 1);
@@ -26,8 +26,8 @@ void for_pixels(const Area& n, const Visit& visit) {
     for (ptrdiff_t x = 0; x < n.width; ++x) visit(row + 4 * x);
 }
 
-// For images with far fewer pixels than there are colours: clearing a bit for every colour would take longer than
-// looking at the pixels.
+// For images with far fewer pixels than there are colours: clearing a bit for every colour would take longer
+// than looking at the pixels.
 int32_t count_few(const Area& area) {
   int bits = 6;
   while (ptrdiff_t{1} << bits < 2 * area.width * area.height) ++bits;
@@ -49,7 +49,8 @@ int32_t count_many(const Area& area) {
   int32_t count = 0;
   for_pixels(area, [&](const uint8_t* p) {
     const uint32_t colour = load<uint32_t>(p) & colour_bits, bit = 1u << (colour & 31);
-    // Most pixels of most pictures have been seen: a branch lets the next one start without waiting for a store.
+    // Most pixels of most pictures have been seen: a branch lets the next one start without waiting for a
+    // store.
     if (uint32_t& word = seen[colour >> 5]; !(word & bit)) {
       word |= bit;
       ++count;
@@ -72,7 +73,8 @@ int32_t TESSARO_CALL BBIColorCount(const ImageRecord* image, int32_t flag) {
 int32_t TESSARO_CALL BBIColorPalette(ImageRecord* image, uint32_t* palette, int32_t max) {
   Area area;
   if (max < 0 || max > 256 || !clip_whole(image, area)) return 0;
-  // Colours beyond the palette are not remembered, so that at most 256 are looked up and a small table serves.
+  // Colours beyond the palette are not remembered, so that at most 256 are looked up and a small table
+  // serves.
   constexpr int bits = 11;
   uint32_t colours[1 << bits] = {};
   uint8_t index[1 << bits] = {};  // 0 for a colour that is not there

@@ -1,3 +1,4 @@
+// Images compared, and searched for pixels and their bounds.
 #include "pixel/compare.hpp"
 
 #include "tessaro/tessaro.h"

@@ -1,3 +1,4 @@
+// Pixels from and to the formats of other memory.
 #include "pixel/format.hpp"
 
 #include "core/clip.hpp"

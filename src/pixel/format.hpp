@@ -33,11 +33,11 @@ struct FormatKernels {
   // dst[i] = palette[bit or byte i of src]; bits come most significant first.
   void (*from_bits)(uint8_t* dst, const uint8_t* src, size_t count, const uint8_t* palette);
   void (*from_bytes)(uint8_t* dst, const uint8_t* src, size_t count, const uint8_t* palette);
-  // table: 256 bytes each for blue, green and red; alpha stays. Neither the table nor src may meet dst, except that
-  // src may be dst, and that a run of one pixel may meet anything.
+  // table: 256 bytes each for blue, green and red; alpha stays. Neither the table nor src may meet dst,
+  // except that src may be dst, and that a run of one pixel may meet anything.
   void (*looked_up)(uint8_t* dst, const uint8_t* src, size_t count, const uint8_t* table);
-  // Saturation, looked_up and mixed_with_colour, where the table does not meet dst. False, and nothing is done, where the
-  // three in turn are to be called; null likewise.
+  // Saturation, looked_up and mixed_with_colour, where the table does not meet dst. False, and nothing is
+  // done, where the three in turn are to be called; null likewise.
   using LookedUp = bool (*)(uint8_t* dst, const uint8_t* src, size_t count, SaturationParts parts,
                             const uint8_t* table, uint32_t colour, uint32_t weight);
   LookedUp looked_up_to[format_count];

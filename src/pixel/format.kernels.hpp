@@ -52,8 +52,8 @@ struct Apart {
   }
 };
 
-// One struct a format. Those of 16 bits encode channels in upper bytes, the others whole pixels, and give the packed
-// value in the lower bytes; decode takes it from there.
+// One struct a format. Those of 16 bits encode channels in upper bytes, the others whole pixels, and give the
+// packed value in the lower bytes; decode takes it from there.
 struct As8888 {
   static constexpr size_t bytes = 4;
   template <class P>
@@ -161,7 +161,8 @@ TESSARO_INLINE void write_one(uint8_t* dst, Apart<One> a) {
   store_one<2>(dst, One{Format::encode(a).v});
 }
 
-// read(P{}, x, n) gives the 2 * lanes pixels from number x on, of which n are there, as the format wants them.
+// read(P{}, x, n) gives the 2 * lanes pixels from number x on, of which n are there, as the format wants
+// them.
 template <class Format, class Read>
 TESSARO_INLINE void encode_run(uint8_t* dst, size_t count, bool blocks, const Read& read) {
   constexpr size_t pair = 2 * Px::lanes, block = 2 * pair;
@@ -323,7 +324,8 @@ void looked_up(uint8_t* dst, const uint8_t* src, size_t count, const uint8_t* ta
   }
 }
 
-// Tables that have been mixed with the colour, all in registers. Alpha, which has no table, is mixed pixel by pixel.
+// Tables that have been mixed with the colour, all in registers. Alpha, which has no table, is mixed pixel by
+// pixel.
 template <class P>
 struct Curves {
   ByteTable<P> channel[3];

@@ -22,8 +22,8 @@ TESSARO_INLINE auto is_clear(P a) {
   return above(P::splat(0x01000000), a);
 }
 
-// The colour of a clear pixel becomes the mean of those neighbours that are not clear, if there are any. A neighbour
-// that does not exist is given as the pixel itself: it is clear, and then does not count.
+// The colour of a clear pixel becomes the mean of those neighbours that are not clear, if there are any. A
+// neighbour that does not exist is given as the pixel itself: it is clear, and then does not count.
 template <class P>
 TESSARO_INLINE P filled(P here, P left, P right, P up, P down) {
   using H = typename P::Half;
@@ -50,8 +50,8 @@ TESSARO_INLINE P filled(P here, P left, P right, P up, P down) {
   return select(is_clear(here), select(equal(count, none), here, colour), here);
 }
 
-// In place, and yet every vector may read what others have written: alphas do not change, and the colour of a clear
-// pixel never counts. Only where rows run into one another pixels go one by one.
+// In place, and yet every vector may read what others have written: alphas do not change, and the colour of a
+// clear pixel never counts. Only where rows run into one another pixels go one by one.
 void fill_keyed(const Area& n) {
   constexpr ptrdiff_t lanes = Px::lanes;
   const ptrdiff_t vectors_end = rows_apart(n) ? n.width : 0;

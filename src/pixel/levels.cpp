@@ -15,7 +15,8 @@ struct Histograms {
 };
 
 Histograms measure(const Area& area) {
-  // Neighbours often have equal levels: counting them in different tables keeps one from waiting for the other.
+  // Neighbours often have equal levels: counting them in different tables keeps one from waiting for the
+  // other.
   constexpr ptrdiff_t turns = 4;
   uint32_t counts[turns][3][256] = {};
   const uint8_t* row = area.at;

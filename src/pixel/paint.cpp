@@ -1,3 +1,4 @@
+// Regions of one colour filled.
 #include "pixel/paint.hpp"
 
 #include "core/clip.hpp"
@@ -14,7 +15,8 @@ int32_t TESSARO_CALL BBIPaint(ImageRecord* image, int32_t x, int32_t y, uint32_t
   if (!view.contains(x, y)) return status_nothing;
   const uint32_t old = view.get(x, y);
   if (old == colour) return status_nothing;
-  // Taken at once and at its largest, so that a fill never stops halfway; memory that is not used is never touched.
+  // Taken at once and at its largest, so that a fill never stops halfway; memory that is not used is never
+  // touched.
   const size_t room = static_cast<size_t>(view.height) * ((static_cast<size_t>(view.width) + 1) / 2);
   HeapArray<PaintSpan> pending(room);
   if (!pending) return status_nothing;

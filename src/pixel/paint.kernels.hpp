@@ -44,8 +44,9 @@ TESSARO_INLINE void fill(uint8_t* row, int32_t begin, int32_t end, uint32_t colo
   walk_row<Px>(row + 4 * begin, static_cast<size_t>(end - begin), Colour<Px>{Px::splat(colour)});
 }
 
-// Follows rows in which the old colour has exactly the place of this span, filling them, and returns the last one.
-// The next row's address does not depend on what this one holds, so that the processor works on several at once.
+// Follows rows in which the old colour has exactly the place of this span, filling them, and returns the last
+// one. The next row's address does not depend on what this one holds, so that the processor works on several
+// at once.
 TESSARO_INLINE int32_t follow(const Paint& p, PaintSpan span, int32_t step) {
   const int32_t begin = span.left, end = span.right + 1;
   const bool at_left = begin == 0, at_right = end == p.image.width;
@@ -62,7 +63,8 @@ TESSARO_INLINE int32_t follow(const Paint& p, PaintSpan span, int32_t step) {
     return (at_left || !is_old(row + 4 * from)) && (at_right || !is_old(row + 4 * end)) &&
            find<false>(row, begin, end, p.old) == end;
   };
-  // What the processor does not fetch by itself: rows further on, of which the first lines are all in a narrow span.
+  // What the processor does not fetch by itself: rows further on, of which the first lines are all in a
+  // narrow span.
   constexpr ptrdiff_t rows_ahead = 16;
   const ptrdiff_t ahead = rows_ahead * step * p.image.pitch;
   int32_t y = span.y;
@@ -82,7 +84,8 @@ void flood(Paint& p) {
   // Spans are filled when they are found, so that none is found twice.
   const auto take = [&](uint8_t* row, int32_t y, int32_t begin, int32_t end) {
     fill(row, begin, end, p.colour);
-    // Only rows that run into one another make more spans than there is room for: filling one may uncover others again.
+    // Only rows that run into one another make more spans than there is room for: filling one may uncover
+    // others again.
     if (pending < p.room)
       p.pending[pending++] = {static_cast<uint16_t>(y), static_cast<uint16_t>(begin),
                               static_cast<uint16_t>(end - 1)};

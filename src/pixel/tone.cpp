@@ -1,3 +1,4 @@
+// Tone of whole areas, and compositing.
 #include "pixel/tone.hpp"
 
 #include "core/weights.hpp"

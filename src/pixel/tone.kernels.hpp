@@ -8,8 +8,8 @@ namespace {
 
 using tessaro::AreaPair;
 
-// (blue + green + red + more) / 3, without the remainder, in both lanes: 21846 / 65536 is a little more than 1/3, and
-// exact for sums up to 766.
+// (blue + green + red + more) / 3, without the remainder, in both lanes: 21846 / 65536 is a little more than
+// 1/3, and exact for sums up to 766.
 template <class P>
 TESSARO_INLINE typename P::Half mean(P a, int more) {
   return colour_sums<0>(a, 21846, 21846 * more);

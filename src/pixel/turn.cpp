@@ -1,3 +1,4 @@
+// Whole images turned and mirrored.
 #include "pixel/turn.hpp"
 
 #include "core/overlap.hpp"

@@ -12,8 +12,8 @@ void mirror(const Area& n) {
   constexpr ptrdiff_t lanes = Px::lanes;
   uint8_t* row = n.at;
   for (ptrdiff_t y = 0; y < n.height; ++y, row += n.pitch) {
-    // Pixels from left to right - 1 are still to be exchanged. In the last step the two vectors may overlap, and
-    // then agree on what lies in both.
+    // Pixels from left to right - 1 are still to be exchanged. In the last step the two vectors may overlap,
+    // and then agree on what lies in both.
     uint8_t *left = row, *right = row + 4 * n.width;
     for (; right - left >= 4 * lanes; left += 4 * lanes, right -= 4 * lanes) {
       const Px a = Px::load(left), b = Px::load(right - 4 * lanes);

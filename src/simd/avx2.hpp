@@ -263,7 +263,8 @@ TESSARO_INLINE void store_halfwords(uint8_t* p, Px::Half a) {
   Px{_mm256_permute4x64_epi64(_mm256_shuffle_epi8(a.v, lower_first), 0xD8)}.store(p);
 }
 TESSARO_INLINE void store_triples(uint8_t* p, Px a, Px b, Px c, Px d) {
-  // Twelve bytes at the front of each 128 bits; then each vector's six of 32 bits to where the stores want them.
+  // Twelve bytes at the front of each 128 bits; then each vector's six of 32 bits to where the stores want
+  // them.
   const __m256i front = _mm256_setr_epi8(0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, -1, -1, -1, -1,  //
                                          0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, -1, -1, -1, -1);
   const auto placed = [front](Px x, __m256i order) {

@@ -39,7 +39,8 @@ struct Px {
   TESSARO_INLINE static uint32_t bits(__mmask16 mask) { return mask; }
 };
 
-// Reads of memory that a rule uses more than once would become an operand of each use, and the processor read it as often.
+// Reads of memory that a rule uses more than once would become an operand of each use, and the processor read
+// it as often.
 TESSARO_INLINE Px kept(Px a) {
   __asm__("" : "+v"(a.v));
   return a;

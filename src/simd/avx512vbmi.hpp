@@ -1,4 +1,5 @@
-// The 512-bit back end of processors that permute bytes over whole registers: tables of 256 bytes in four of them.
+// The 512-bit back end of processors that permute bytes over whole registers: tables of 256 bytes in four of
+// them.
 #pragma once
 
 #include "simd/avx512.hpp"

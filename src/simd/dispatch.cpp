@@ -1,3 +1,4 @@
+// The choice of the back end when the library is loaded.
 #include "simd/dispatch.hpp"
 
 #include "simd/processor.hpp"

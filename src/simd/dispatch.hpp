@@ -28,7 +28,8 @@ const char* name_of(Backend backend);
 // Areas of at least this many pixels are written past the caches.
 inline constexpr ptrdiff_t never = PTRDIFF_MAX;
 extern ptrdiff_t streamed_area;
-// Whether the C library's memmove, which uses the processor's string instructions, copies long rows faster than vectors.
+// Whether the C library's memmove, which uses the processor's string instructions, copies long rows faster
+// than vectors.
 extern bool string_moves;
 
 // One family's table of kernels for one back end, defined by the unit that is compiled for it.

@@ -1,6 +1,6 @@
-// Numbers and bytes side by side, for waveforms and byte transforms: vectors of the compiler, which has them on every
-// target. What cannot be said well with these is an operation below. Its form here, for any vector, is its definition; a
-// back end overloads or specialises it where the processor has an instruction for it.
+// Numbers and bytes side by side, for waveforms and byte transforms: vectors of the compiler, which has them
+// on every target. What cannot be said well with these is an operation below. Its form here, for any vector,
+// is its definition; a back end overloads or specialises it where the processor has an instruction for it.
 //
 //   read_whole<n>(p)             eight integers of n bytes from any place: of 1 without sign, of 2, 3, 4 with it
 //   write_whole<n>(p, v)         their low n bytes

@@ -6,8 +6,8 @@
 
 namespace {
 
-// From here on string instructions fill faster than vectors: they need not fetch the lines that they overwrite. Where areas
-// are not streamed, the C library's memmove copies faster too.
+// From here on string instructions fill faster than vectors: they need not fetch the lines that they
+// overwrite. Where areas are not streamed, the C library's memmove copies faster too.
 constexpr ptrdiff_t long_row = 4096;
 
 // From this width on rows are worth a start of their own that aligns their stores.
@@ -35,8 +35,8 @@ TESSARO_INLINE size_t pixels_to_align(const uint8_t* row) {
   return -reinterpret_cast<uintptr_t>(row) / 4 % Px::lanes;
 }
 
-// dst[x] = rule(dst[x], sources[x]...) for a row that is not read: past the caches from the first aligned vector to the last
-// whole one. The pixels must be such that can be aligned.
+// dst[x] = rule(dst[x], sources[x]...) for a row that is not read: past the caches from the first aligned
+// vector to the last whole one. The pixels must be such that can be aligned.
 template <class P, class Rule, class... Sources>
 TESSARO_INLINE void stream_row(uint8_t* dst, size_t width, const Rule& rule, const Sources*... sources) {
   size_t x = pixels_to_align(dst);
@@ -47,8 +47,8 @@ TESSARO_INLINE void stream_row(uint8_t* dst, size_t width, const Rule& rule, con
   if (const size_t rest = width - x) part_step<P>(dst, x, rest, rule, sources...);
 }
 
-// Copies rows of an area; chosen once for all its rows. Source and destination share no memory, or the destination
-// lies before its source.
+// Copies rows of an area; chosen once for all its rows. Source and destination share no memory, or the
+// destination lies before its source.
 class RowWriter {
  public:
   TESSARO_INLINE RowWriter(ptrdiff_t width, ptrdiff_t height)
@@ -62,7 +62,8 @@ class RowWriter {
       return;
     }
     if (streaming_.on() && can_align(dst)) return stream_row<Px>(dst, width, Replace<Px>{}, src);
-    // Aligned stores: where the pitch is no multiple of a vector, others would cross two lines of the cache each.
+    // Aligned stores: where the pitch is no multiple of a vector, others would cross two lines of the cache
+    // each.
     if (const size_t ahead = pixels_to_align(dst); ahead != 0 && width >= aligned_width) {
       Px::load(src, ahead).store(dst, ahead);
       dst += 4 * ahead;

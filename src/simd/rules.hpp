@@ -12,8 +12,8 @@ struct Halves {
   TESSARO_INLINE static Halves of(P a) { return {::even(a), ::odd(a)}; }
 };
 
-// (d * (256 - w) + s * w) >> 8 in all four channels; w is 0..256 in both lanes of each pixel. That is d + ((s - d) * w >> 8),
-// where the upper bytes of the products and the sum may wrap: one product a channel.
+// (d * (256 - w) + s * w) >> 8 in all four channels; w is 0..256 in both lanes of each pixel. That is d + ((s
+// - d) * w >> 8), where the upper bytes of the products and the sum may wrap: one product a channel.
 template <class P>
 TESSARO_INLINE P mix(P d, Halves<P> s, typename P::Half w) {
   d = kept(d);
@@ -60,8 +60,8 @@ TESSARO_INLINE P half_bytes(P a) {
   return shr<1>(a) & P::splat(0x7F7F7F7F);
 }
 
-// Each of blue, green and red becomes (channel * k >> 10) + (sum of the three * m >> 10), kept within a byte; m may be
-// negative.
+// Each of blue, green and red becomes (channel * k >> 10) + (sum of the three * m >> 10), kept within a byte;
+// m may be negative.
 template <class P>
 struct Saturate {
   using H = typename P::Half;
@@ -78,7 +78,8 @@ struct Saturate {
     return join_sat(scaled(even(s), even_k) + grey,
                     scaled(odd(s), odd_k) + (grey & halves(P::splat(0xFFFF))));
   }
-  // The same where both lanes hold one channel each, times 32. sum(channel, grey) adds what may lie beyond a byte.
+  // The same where both lanes hold one channel each, times 32. sum(channel, grey) adds what may lie beyond a
+  // byte.
   template <class Sum>
   TESSARO_INLINE void apart(H& blue, H& green, H& red, const Sum& sum) const {
     const H grey = mul_high_signed(blue + green + red, H::splat(static_cast<uint32_t>(2 * sum_part)));

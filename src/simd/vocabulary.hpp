@@ -1,5 +1,5 @@
-// The operations that per-pixel rules are written in. Each back end defines them on a value of a few pixels; the
-// scalar one is their definition. Everything here and in the back ends has internal linkage and is always
+// The operations that per-pixel rules are written in. Each back end defines them on a value of a few pixels;
+// the scalar one is their definition. Everything here and in the back ends has internal linkage and is always
 // inlined: nothing compiled for a newer processor may be picked by the linker for an older one.
 //
 //   P::lanes                     pixels in a value
@@ -62,7 +62,8 @@
 //                                in an order that only from_sums(.first, .second) knows, which takes lanes of at most 255 back
 //                                to bytes
 //
-// Pixels that memory holds in fewer than four bytes. Stores write exactly the bytes of their pixels, loads read no others.
+// Pixels that memory holds in fewer than four bytes. Stores write exactly the bytes of their pixels, loads
+// read no others.
 //   P::load_halfwords(p)         one vector from two bytes a pixel, and P::load_triples(p) from three; the upper bytes are 0
 //   halfwords(a, b)              the lower and the upper 16 bits of the 2 * lanes pixels a, b, in an order that only pixels()
 //                                and store_halfwords know
@@ -107,12 +108,12 @@ struct Halfwords {
   P lower, upper;
 };
 
-// Single precision gives the lengths exactly: a float holds every sum below 2^24, and the root of one less than a square lies
-// further below the integer than half a unit in the last place.
+// Single precision gives the lengths exactly: a float holds every sum below 2^24, and the root of one less
+// than a square lies further below the integer than half a unit in the last place.
 //
-// The line is meant in doubles: the product is exact, the difference rounded once. Floats, rounded once and downwards, keep
-// the same integer part but where doubles round to 256: 256 - x does for x up to 2^-46. That takes a tiny factor; scaled by
-// 2^31, floats round at the same x. A factor that is not a number gives 0.
+// The line is meant in doubles: the product is exact, the difference rounded once. Floats, rounded once and
+// downwards, keep the same integer part but where doubles round to 256: 256 - x does for x up to 2^-46. That
+// takes a tiny factor; scaled by 2^31, floats round at the same x. A factor that is not a number gives 0.
 struct FallingLine {
   double factor;
   float start = 256, slope = 0;

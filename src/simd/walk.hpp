@@ -1,8 +1,8 @@
 // The loops that run a rule over an area. A rule is a class template over the vector type, built once per
 // call from its arguments; its call operator holds the arithmetic.
 //
-// Results are those of one pixel after another, left to right, top to bottom: where a vector would read its own writes, rows
-// take the one-pixel form (core/overlap.hpp).
+// Results are those of one pixel after another, left to right, top to bottom: where a vector would read its
+// own writes, rows take the one-pixel form (core/overlap.hpp).
 #pragma once
 
 #include "core/overlap.hpp"
@@ -19,8 +19,8 @@ TESSARO_INLINE void part_step(uint8_t* dst, size_t x, size_t n, const Rule& rule
   rule(P::load(dst + 4 * x, n), P::load(sources + 4 * x, n)...).store(dst + 4 * x, n);
 }
 
-// Four turns of the next loop as one. Written out they would keep compilers from asking a rule's questions about its
-// arguments once, before the loop.
+// Four turns of the next loop as one. Written out they would keep compilers from asking a rule's questions
+// about its arguments once, before the loop.
 #if defined(__clang__)
 #define TESSARO_FOUR_A_TURN _Pragma("clang loop unroll_count(4)")
 #else

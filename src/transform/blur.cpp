@@ -11,7 +11,8 @@ using namespace tessaro;
 
 namespace {
 
-// A blur of one row or column, pixel after pixel: what the faster forms must equal, and what overlapping memory gets.
+// A blur of one row or column, pixel after pixel: what the faster forms must equal, and what overlapping
+// memory gets.
 void blur_in_order(uint8_t* dst, ptrdiff_t dst_step, const uint8_t* src, ptrdiff_t src_step, ptrdiff_t n,
                    ptrdiff_t r, bool loop) {
   std::array<uint32_t, 256> ring;
@@ -43,8 +44,9 @@ void blur_rows(AreaPair n, ptrdiff_t r, bool loop) {
   HeapArray<uint16_t> sums(4 * (width + 2 * radius + 1));
   const Divider full = dividers.of(2 * radius + 1);
   for (; n.height > 0; --n.height, n.dst += n.dst_pitch, n.src += n.src_pitch) {
-    // A whole row is read before it is written. In order, pixel i + r is read before pixel i is written, so that only
-    // a destination further ahead of its source than that, or one that a loop comes back to, makes a difference.
+    // A whole row is read before it is written. In order, pixel i + r is read before pixel i is written, so
+    // that only a destination further ahead of its source than that, or one that a loop comes back to, makes
+    // a difference.
     if (!sums || (share_memory(n.dst, row, n.src, row) && (loop || distance(n) > 4 * r))) {
       blur_in_order(n.dst, 4, n.src, 4, n.width, r, loop);
       continue;
@@ -72,7 +74,8 @@ void blur_rows(AreaPair n, ptrdiff_t r, bool loop) {
   }
 }
 
-// Columns: one running sum each, all of them moving down a row at a time. False when there is no memory for it.
+// Columns: one running sum each, all of them moving down a row at a time. False when there is no memory for
+// it.
 bool blur_columns(const AreaPair& n, ptrdiff_t r, bool loop) {
   const MeanKernels& k = kernels<MeanKernels>();
   const auto lanes = static_cast<size_t>(4 * n.width);

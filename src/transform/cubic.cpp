@@ -51,7 +51,8 @@ uint32_t sample(const ImageView& s, const Taps& column, const Taps& row) {
   return kernels<CubicKernels>().merged(samples, weights);
 }
 
-// Columns of the destination, so many that they stay in the nearest cache. Those within the source go together, in runs.
+// Columns of the destination, so many that they stay in the nearest cache. Those within the source go
+// together, in runs.
 void resize_strip(const ImageView& d, const ImageView& s, int32_t left, int32_t width, double rx, double ry) {
   bool inner[strip];
   int32_t first[strip];

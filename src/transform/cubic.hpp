@@ -20,8 +20,8 @@ struct CubicRow {
 };
 
 struct CubicKernels {
-  // n pixels whose taps all lie within the source, with outer weights that are not positive and inner ones that are not
-  // negative.
+  // n pixels whose taps all lie within the source, with outer weights that are not positive and inner ones
+  // that are not negative.
   void (*inner)(uint8_t* dst, const CubicColumns& columns, const CubicRow& row, size_t n);
   // One pixel of any taps, row by row; weights are not negative.
   uint32_t (*merged)(const uint32_t samples[16], const float weights[16]);

@@ -44,8 +44,8 @@ struct WeightedSamples {
   }
 };
 
-// Of the taps of an inner pixel only these have weight: the corners, by two negative lobes, and the inner four. A merge with
-// a tap that weighs nothing gives the other one, so that they alone make the same pairs.
+// Of the taps of an inner pixel only these have weight: the corners, by two negative lobes, and the inner
+// four. A merge with a tap that weighs nothing gives the other one, so that they alone make the same pairs.
 constexpr struct {
   size_t column, row;
 } acting[] = {{0, 0}, {3, 0}, {1, 1}, {2, 1}, {1, 2}, {2, 2}, {0, 3}, {3, 3}};

@@ -1,3 +1,4 @@
+// Rectangles stretched or shrunk to the nearest pixel, mixed into the destination.
 #include "transform/expand.hpp"
 
 #include "pixel/blit.hpp"

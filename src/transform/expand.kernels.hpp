@@ -47,9 +47,10 @@ void gradient(const Stretch& n, const Gradient& g) {
   });
 }
 
-// Stretches low..high of each colour to 0..255: floor(255 * (v - low) / (high - low)). From above the high end it is 255
-// and up to the low end 0, except that equal ends give 255 - low at that value. Each channel is ((t << 8 | bias) * factor >>
-// 16) * shift >> 16 of its t = min(v - low, range): see LevelFactor, which is exact.
+// Stretches low..high of each colour to 0..255: floor(255 * (v - low) / (high - low)). From above the high
+// end it is 255 and up to the low end 0, except that equal ends give 255 - low at that value. Each channel is
+// ((t << 8 | bias) * factor >> 16) * shift >> 16 of its t = min(v - low, range): see LevelFactor, which is
+// exact.
 template <class P>
 struct Levels {
   P low, range, equal_ends, bias;
@@ -93,8 +94,8 @@ template <class P>
 struct Treat {
   using H = typename P::Half;
   const Treatment c;
-  // The mask, the inverted bits and the colour as one rule: (s & vary) ^ flip. Steps of one operation are always taken: a
-  // branch costs more.
+  // The mask, the inverted bits and the colour as one rule: (s & vary) ^ flip. Steps of one operation are
+  // always taken: a branch costs more.
   P vary, flip, keep, from_source, added;
   bool adds, mixes;
   H weight;

@@ -1,3 +1,4 @@
+// Rectangles copied in mirrored order.
 #include "transform/flip.hpp"
 
 #include "core/weights.hpp"

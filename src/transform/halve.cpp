@@ -1,3 +1,4 @@
+// Images of half the size.
 #include "transform/halve.hpp"
 
 #include "core/clip.hpp"

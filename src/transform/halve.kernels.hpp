@@ -15,7 +15,8 @@ TESSARO_INLINE P mean_of_4(const uint8_t* upper, const uint8_t* lower) {
 }
 
 void halve(uint8_t* out, const uint8_t* upper, const uint8_t* lower, size_t width) {
-  // A destination that starts within a source row, not at or before its start, runs over pixels still to be read.
+  // A destination that starts within a source row, not at or before its start, runs over pixels still to be
+  // read.
   size_t x = 0;
   if (!reads_own_writes(out, upper, 8 * width) && !reads_own_writes(out, lower, 8 * width))
     for (; x + Px::lanes <= width; x += Px::lanes)

@@ -1,3 +1,4 @@
+// Bilinear interpolation.
 #include "transform/linear.hpp"
 
 #include <algorithm>
@@ -26,8 +27,8 @@ Positions positions(int64_t to, int64_t from) {
   return {static_cast<int32_t>((from - 1) * 2048 / to), static_cast<int32_t>((from - 1) * 4096 / to)};
 }
 
-// The image with rows that follow one another without a gap, whatever its pitch; false where rows up to `last` would leave
-// the memory that its own rows span.
+// The image with rows that follow one another without a gap, whatever its pitch; false where rows up to
+// `last` would leave the memory that its own rows span.
 bool pack_rows(ImageView& image, int64_t last) {
   const int64_t row = 4 * static_cast<int64_t>(image.width);
   const int64_t spanned = image.pitch > 0 ? static_cast<int64_t>(image.pitch) * (image.height - 1) : 0;

@@ -8,8 +8,8 @@
 
 namespace tessaro {
 
-// Positions along one axis, in 1 / 4096 of a pixel: `start` for the first destination pixel, then `step` from one to the
-// next. The neighbour after the last position is still within the source.
+// Positions along one axis, in 1 / 4096 of a pixel: `start` for the first destination pixel, then `step` from
+// one to the next. The neighbour after the last position is still within the source.
 struct Positions {
   int32_t start, step;
   int32_t pixel(int32_t i) const { return (i * step + start) >> 12; }
@@ -19,8 +19,8 @@ struct Positions {
 struct Bilinear {
   Stretch area;
   Positions x, y;
-  // Room for four rows of the destination's width: columns, their weights, and two interpolated rows. Null where there is
-  // none.
+  // Room for four rows of the destination's width: columns, their weights, and two interpolated rows. Null
+  // where there is none.
   uint32_t* room;
 };
 

@@ -52,8 +52,8 @@ struct Sides {
   P left, right;
 };
 
-// The pixels at the columns `where`, the first of which is `base`, and those after them: from one or two vectors of the
-// source that hold them all, or, without vectors, from wherever they lie.
+// The pixels at the columns `where`, the first of which is `base`, and those after them: from one or two
+// vectors of the source that hold them all, or, without vectors, from wherever they lie.
 template <class P, int vectors>
 TESSARO_INLINE Sides<P> sides_at(const uint8_t* src, int32_t sw, int32_t base, P where) {
   if constexpr (vectors == 0) return {gather(src, where), gather(src + 4, where)};
@@ -88,8 +88,9 @@ template <class P>
 TESSARO_INLINE void interpolate(uint32_t* out, const uint8_t* src, const Bilinear& b,
                                 [[maybe_unused]] ptrdiff_t ahead) {
   if constexpr (P::permutes) {
-    // Where the neighbours of a vector lie within one or two vectors of the source, they are loads and permutations: from
-    // the first to the last, whose positions are lanes - 1 steps apart, rounding adds a pixel, and the neighbour one more.
+    // Where the neighbours of a vector lie within one or two vectors of the source, they are loads and
+    // permutations: from the first to the last, whose positions are lanes - 1 steps apart, rounding adds a
+    // pixel, and the neighbour one more.
     constexpr auto lanes = static_cast<int32_t>(P::lanes);
     const int32_t span = ((lanes - 1) * b.x.step >> 12) + 3;
     if (span <= lanes) return interpolate_within<P, 1>(out, src, b, ahead);

@@ -1,3 +1,4 @@
+// The dividers of means, proved for every sum when the library is compiled.
 #include "transform/means.hpp"
 
 namespace tessaro {

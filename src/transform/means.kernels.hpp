@@ -12,7 +12,8 @@ TESSARO_INLINE uint16_t high(uint16_t a, uint16_t b) {
 TESSARO_INLINE uint16_t plus(uint16_t a, uint16_t b) { return static_cast<uint16_t>(a + b); }
 TESSARO_INLINE uint16_t minus(uint16_t a, uint16_t b) { return static_cast<uint16_t>(a - b); }
 
-// The sums are the library's own memory and rows are kept where they could be overwritten: no output aliases an input.
+// The sums are the library's own memory and rows are kept where they could be overwritten: no output aliases
+// an input.
 
 // One addition a pixel is the whole chain; the four lanes ride in it.
 void running_sums(uint16_t* __restrict sums, const uint8_t* __restrict src, size_t count) {
@@ -61,8 +62,9 @@ TESSARO_INLINE H divided(H sum, Divider by) {
   return mul_high(mul_high(sum + H::splat(by.bias), H::splat(by.first)), H::splat(by.second));
 }
 
-// out[i] = rule(sums[i], in[i]...) for the channels of columns; the rule may change the sum. Vectors keep the sums of their even
-// channels and those of their odd ones side by side, as they work on them: no lane has to move.
+// out[i] = rule(sums[i], in[i]...) for the channels of columns; the rule may change the sum. Vectors keep the
+// sums of their even channels and those of their odd ones side by side, as they work on them: no lane has to
+// move.
 template <bool writes, class Rule, class... In>
 TESSARO_INLINE void each_column(uint8_t* __restrict out, uint16_t* __restrict sums, size_t lanes,
                                 const Rule& rule, const In* __restrict... in) {

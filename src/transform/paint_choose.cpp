@@ -19,10 +19,10 @@ void recolour(const ImageView& image, F f) {
   }
 }
 
-// ---- Outlines --------------------------------------------------------------------------------------------------------
+// ---- Outlines ---------------------------------------------------------------------------------------------
 
-// Every pixel is classified by its original neighbours: inside (not key) or outside (key), on an edge between the two or
-// not. The image's border is no edge.
+// Every pixel is classified by its original neighbours: inside (not key) or outside (key), on an edge between
+// the two or not. The image's border is no edge.
 struct Outline {
   bool paints_plain, paints_inner, paints_outer;  // which classes change
   uint32_t plain, inner, outer;  // non-key pixels, those of them on an edge, key pixels on an edge
@@ -64,7 +64,7 @@ bool outline(const ImageView& image, uint32_t key, const Outline& paint) {
   return true;
 }
 
-// ---- Small regions ---------------------------------------------------------------------------------------------------
+// ---- Small regions ----------------------------------------------------------------------------------------
 
 // Regions as sets of runs: the runs of neighbouring rows that touch are united, the size stands at the root.
 struct Run {
@@ -134,7 +134,7 @@ int32_t remove_small_regions(const ImageView& image, uint32_t colour, uint32_t k
   return painted;
 }
 
-// ---- Filling from neighbours -----------------------------------------------------------------------------------------
+// ---- Filling from neighbours ------------------------------------------------------------------------------
 
 // Left, right, above, below.
 struct Neighbours {
@@ -155,8 +155,8 @@ Neighbours neighbours_of(const ImageView& image, int32_t x, int32_t y, Counts co
   return n;
 }
 
-// The colour with most votes, the earlier one on a tie; false when nobody votes. Equal colours pool their votes with
-// the earlier one, pair by pair.
+// The colour with most votes, the earlier one on a tie; false when nobody votes. Equal colours pool their
+// votes with the earlier one, pair by pair.
 bool majority(Neighbours n, uint32_t& winner) {
   for (size_t i = 0; i < 3; ++i)
     for (size_t j = i + 1; j < 4; ++j)
@@ -181,7 +181,8 @@ bool average(const Neighbours& n, uint32_t& mean) {
   return count != 0;
 }
 
-// Even rows before odd ones, and in each even columns before odd ones: pixels of one phase are never neighbours.
+// Even rows before odd ones, and in each even columns before odd ones: pixels of one phase are never
+// neighbours.
 constexpr int phases = 4;
 int phase_of(int32_t x, int32_t y) { return 2 * (y & 1) + (x & 1); }
 
@@ -205,9 +206,9 @@ int32_t fill_key(const ImageView& image, uint32_t excluded, uint32_t key, Choose
 
 bool is_grey(uint32_t c) { return (c & 255) == (c >> 8 & 255) && (c & 255) == (c >> 16 & 255); }
 
-// Passes over the marked pixels until one changes nothing. A marked pixel is filled when its turn comes after a
-// neighbour was unmarked, so only such pixels wait in a queue, one queue a phase, and the passes together cost time
-// in proportion to the image, however far the colour has to creep.
+// Passes over the marked pixels until one changes nothing. A marked pixel is filled when its turn comes after
+// a neighbour was unmarked, so only such pixels wait in a queue, one queue a phase, and the passes together
+// cost time in proportion to the image, however far the colour has to creep.
 int32_t fill_grey(const ImageView& image, uint32_t lowest, uint32_t highest) {
   enum : uint8_t { unmarked, marked, fillable, queued };
   const auto width = static_cast<size_t>(image.width), size = width * static_cast<size_t>(image.height);

@@ -47,8 +47,8 @@ bool clip_common(const ImageRecord* dst, const ImageRecord* src, AreaPair& areas
 
 constexpr int32_t from_destination = 2, other_kind = 1;  // bits of the selectors
 
-// Products of a byte and a single-precision weight, and their sums, are exact in doubles; with weights that are multiples
-// of 2 to the -29 they are so in integers too. Other weights are rounded up.
+// Products of a byte and a single-precision weight, and their sums, are exact in doubles; with weights that
+// are multiples of 2 to the -29 they are so in integers too. Other weights are rounded up.
 IntegerWeights integer_weights(const Weights& weights) {
   IntegerWeights w{};
   w.usable = true;

@@ -25,8 +25,8 @@ struct Weights {
   double green, blue, red;
 };
 inline constexpr Weights luma = {0.7154, 0.0721, 0.2125};
-// Weights in units of 2 to the -29, below 2: the upper 15 bits and the lower 15, blue's and red's, green's and alpha's in
-// two halves of a word.
+// Weights in units of 2 to the -29, below 2: the upper 15 bits and the lower 15, blue's and red's, green's
+// and alpha's in two halves of a word.
 struct IntegerWeights {
   bool usable;      // they give what doubles give
   bool rounded_up;  // but where the sum is a whole number or hardly more

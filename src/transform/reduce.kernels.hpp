@@ -32,8 +32,8 @@ template <class P>
 using To1555 = CarryUp<P, 3>;
 template <class P>
 using To4444 = CarryUp<P, 4>;
-// The upper six bits of a colour against the threshold: 255 where they reach it and the colour is not 0, else 0. Bytes of one
-// pixel do not meet: what a shift brings in from the neighbour is masked off.
+// The upper six bits of a colour against the threshold: 255 where they reach it and the colour is not 0, else
+// 0. Bytes of one pixel do not meet: what a shift brings in from the neighbour is masked off.
 template <class P>
 struct To1111 {
   TESSARO_INLINE P operator()(P c, P threshold) const {
@@ -62,17 +62,17 @@ TESSARO_INLINE P mean_as_alpha(P a) {
   return shl<24>(join(colour_sums<0>(a, 21846, 0), P::Half::splat(0)));
 }
 
-// trunc(green * weight + blue * weight + red * weight) as the alpha of a pixel without colour, in doubles and in this order.
-// Of what does not fit a byte the lower bits count.
+// trunc(green * weight + blue * weight + red * weight) as the alpha of a pixel without colour, in doubles and
+// in this order. Of what does not fit a byte the lower bits count.
 template <class P>
 TESSARO_INLINE P doubles_as_alpha(P a, const Weights& w) {
   const P byte = P::splat(255);
   return shl<24>(trunc_dot(shr<8>(a) & byte, a & byte, shr<16>(a) & byte, w.green, w.blue, w.red));
 }
 
-// Weights that are rounded up give the exact sum's integer, but doubles may fall below a sum that is a whole number. Pixels
-// whose three colours are equal are often met. Of those only one falls with the weights that come rounded, which are fixed:
-// the others need not be looked at.
+// Weights that are rounded up give the exact sum's integer, but doubles may fall below a sum that is a whole
+// number. Pixels whose three colours are equal are often met. Of those only one falls with the weights that
+// come rounded, which are fixed: the others need not be looked at.
 constexpr uint32_t falling_grey = 233;
 static_assert([] {
   for (int v = 0; v <= 255; ++v) {
@@ -92,9 +92,9 @@ TESSARO_INLINE bool may_fall_below(P a, P sum) {
   return (whole & ~(grey & ~falling)) != 0;
 }
 
-// The same with integers where they give what doubles give. Three products of a byte with 15 bits stay below 2^25; those of
-// the lower bits are brought to the units of the upper ones, 2 to the -14, of which nothing is lost but what lies below one:
-// the integer part begins at bit 14.
+// The same with integers where they give what doubles give. Three products of a byte with 15 bits stay below
+// 2^25; those of the lower bits are brought to the units of the upper ones, 2 to the -14, of which nothing is
+// lost but what lies below one: the integer part begins at bit 14.
 template <class P>
 TESSARO_INLINE P weighted_as_alpha(P a, const Assembly& w) {
   if (P::lanes == 1 || !w.integer.usable) return doubles_as_alpha(a, w.weights);

@@ -9,9 +9,10 @@ using namespace tessaro;
 
 namespace {
 
-// Rescaling by num / den within the same length. A source pixel lasts num sub-steps and a destination pixel averages
-// den of them; calls take(source index, sub-steps) for each stretch and put(destination index) when a pixel is full.
-// Runs from the first pixel when shrinking and from the last when enlarging, so that nothing is overwritten unread.
+// Rescaling by num / den within the same length. A source pixel lasts num sub-steps and a destination pixel
+// averages den of them; calls take(source index, sub-steps) for each stretch and put(destination index) when
+// a pixel is full. Runs from the first pixel when shrinking and from the last when enlarging, so that nothing
+// is overwritten unread.
 template <class Take, class Put>
 void rescale(ptrdiff_t length, int32_t num, int32_t den, Take take, Put put) {
   const bool backward = num >= den;
@@ -52,8 +53,8 @@ void scale_in_order(uint8_t* dst, ptrdiff_t dst_step, const uint8_t* src, ptrdif
       });
 }
 
-// Rows: a destination pixel is the difference of two sums of all sub-steps so far, which are those of whole source pixels
-// and a part of the next one. The places are the same in every row.
+// Rows: a destination pixel is the difference of two sums of all sub-steps so far, which are those of whole
+// source pixels and a part of the next one. The places are the same in every row.
 void scale_rows(AreaPair n, int32_t num, int32_t den) {
   const MeanKernels& k = kernels<MeanKernels>();
   const auto width = static_cast<size_t>(n.width);
@@ -75,8 +76,8 @@ void scale_rows(AreaPair n, int32_t num, int32_t den) {
       };
     }
   for (; n.height > 0; --n.height, n.dst += n.dst_pitch, n.src += n.src_pitch) {
-    // A whole row is read before it is written. In order, every pixel is read before its own place is written, so that
-    // only a destination on the side where reading has yet to come makes a difference.
+    // A whole row is read before it is written. In order, every pixel is read before its own place is
+    // written, so that only a destination on the side where reading has yet to come makes a difference.
     if (!sums || !parts || !places ||
         (backward ? reads_own_writes(n.src, n.dst, 4 * width) : reads_own_writes(n.dst, n.src, 4 * width))) {
       scale_in_order(n.dst, 4, n.src, 4, n.width, num, den);

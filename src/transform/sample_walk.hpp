@@ -1,4 +1,5 @@
-// The nearest-sample walk for kernels: which source row and column come next, and the loops that bring samples to a rule.
+// The nearest-sample walk for kernels: which source row and column come next, and the loops that bring
+// samples to a rule.
 #pragma once
 
 #include "simd/rows.hpp"
@@ -23,15 +24,16 @@ struct ScaledIndex {
   }
 };
 
-// The first `count` pixels, which may be any number: as many of them as there are lanes, and none where it is negative.
+// The first `count` pixels, which may be any number: as many of them as there are lanes, and none where it is
+// negative.
 template <class P>
 TESSARO_INLINE P load_within(const uint8_t* at, int32_t count) {
   constexpr auto lanes = static_cast<int32_t>(P::lanes);
   return count >= lanes ? P::load(at) : P::load(at, count > 0 ? static_cast<size_t>(count) : 0);
 }
 
-// So many lines that a vector reads, in the row that is wanted next: the processor's own guesses end with the page and run
-// on into rows that are left out.
+// So many lines that a vector reads, in the row that is wanted next: the processor's own guesses end with the
+// page and run on into rows that are left out.
 template <int lines>
 TESSARO_INLINE void prefetch(const uint8_t* at, ptrdiff_t ahead) {
   // It may lie outside the image.
@@ -64,7 +66,8 @@ struct Loaded {
 template <class P>
 struct ColumnMap {
   static constexpr auto lanes = static_cast<int32_t>(P::lanes);
-  // So many vectors of the source hold the samples of a vector: loads and permutations. 0: one pixel at a time.
+  // So many vectors of the source hold the samples of a vector: loads and permutations. 0: one pixel at a
+  // time.
   int vectors = 0;
   bool whole_row = false;  // they hold all of a row that is shorter
   int32_t sw;
@@ -74,8 +77,8 @@ struct ColumnMap {
     ScaledIndex column(n.sw, n.dw);
     for (int32_t j = 0; j < n.dw; ++j, column.next()) n.columns[j] = column.at;
     if constexpr (P::permutes) {
-      // From the first to the last sample of a vector: lanes - 1 steps of sw / dw, and one pixel more where rounding may
-      // fall either way.
+      // From the first to the last sample of a vector: lanes - 1 steps of sw / dw, and one pixel more where
+      // rounding may fall either way.
       int64_t span = n.sw;
       if (n.sw > lanes) {
         const int64_t reach = static_cast<int64_t>(lanes - 1) * n.sw / n.dw + (column.rest == 0 ? 1 : 2);
@@ -97,8 +100,8 @@ struct ColumnMap {
       }
     }
   }
-  // dst[x] = rule(dst[x], sample[from + x]), where there are vectors; `from` is a multiple of every vector. The row that is
-  // wanted next lies `ahead`.
+  // dst[x] = rule(dst[x], sample[from + x]), where there are vectors; `from` is a multiple of every vector.
+  // The row that is wanted next lies `ahead`.
   template <bool fetches_ahead = false, class Rule>
   TESSARO_INLINE void row(uint8_t* dst, const uint8_t* src, size_t from, size_t width, const Rule& rule,
                           ptrdiff_t ahead = 0) const {
@@ -145,8 +148,8 @@ struct ColumnMap {
 
 inline constexpr int32_t part_width = 1024;  // pixels; stays in the first cache
 
-// Calls body<P>(dst, src, x, width, i) for every part of every destination row, top to bottom: width pixels from column x
-// of row i, their destination and their samples. P is One where a row reads what it writes.
+// Calls body<P>(dst, src, x, width, i) for every part of every destination row, top to bottom: width pixels
+// from column x of row i, their destination and their samples. P is One where a row reads what it writes.
 template <class V, class Body>
 TESSARO_INLINE void for_samples(const Stretch& n, const Body& body) {
   ScaledIndex row(n.sh, n.dh);
@@ -186,7 +189,8 @@ TESSARO_INLINE void for_samples(const Stretch& n, const Body& body) {
   }
 }
 
-// Rows by a rule. Inlined, or the rule would be read from memory for every vector: the pixels might be written over it.
+// Rows by a rule. Inlined, or the rule would be read from memory for every vector: the pixels might be
+// written over it.
 template <class V, template <class> class Rule>
 struct RowsByRule {
   Rule<V> rule;

@@ -1,3 +1,4 @@
+// Scaled rectangles clipped, and what their kernels are told.
 #include "transform/stretch.hpp"
 
 namespace tessaro {

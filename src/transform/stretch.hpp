@@ -18,19 +18,20 @@ struct Stretch {
   int32_t dw, dh, sw, sh;
   // The areas have bytes in common, or rows of the destination run into one another: one pixel after another.
   bool shared;
-  // Room for columns_room(dw) numbers: the source columns. Null where there is none, and where none is of use: areas share
-  // memory, or columns stand one below the other.
+  // Room for columns_room(dw) numbers: the source columns. Null where there is none, and where none is of
+  // use: areas share memory, or columns stand one below the other.
   int32_t* columns;
 };
 
-// The clip and the size checks of every stretched blit. Leaves the clipped rectangles in `rect`; false when nothing is to
-// be drawn.
+// The clip and the size checks of every stretched blit. Leaves the clipped rectangles in `rect`; false when
+// nothing is to be drawn.
 bool clip_stretch(const ImageView& dst, const ImageView& src, ScaledBlit& rect);
 
 // The clipped call, its columns to be given room.
 Stretch stretch_of(const ImageView& dst, const ImageView& src, const ScaledBlit& rect);
-// A column for each pixel, and one for each vector of at least eight; and what it takes to start on a line of the cache,
-// without which every vector of columns would be read from two. Small rectangles stay off the heap.
+// A column for each pixel, and one for each vector of at least eight; and what it takes to start on a line of
+// the cache, without which every vector of columns would be read from two. Small rectangles stay off the
+// heap.
 inline size_t columns_room(int32_t dw) { return static_cast<size_t>(dw) + static_cast<size_t>(dw) / 8 + 16; }
 using Columns = ScratchArray<int32_t, 256>;
 inline int32_t* aligned_columns(Columns& columns) {

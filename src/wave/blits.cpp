@@ -1,3 +1,4 @@
+// Runs of frames copied, mixed and altered between buffers.
 #include "core/clip.hpp"
 #include "core/numbers.hpp"
 #include "core/random.hpp"

@@ -1,5 +1,5 @@
-// The loop over blocks of frames that every operation runs. Results are those of one frame after another: where
-// a frame that is still to be read would be overwritten within a block, the block shrinks.
+// The loop over blocks of frames that every operation runs. Results are those of one frame after another:
+// where a frame that is still to be read would be overwritten within a block, the block shrinks.
 #pragma once
 
 #include "core/overlap.hpp"
@@ -7,8 +7,8 @@
 
 namespace tessaro {
 
-// Frames first..last - 1 of the two runs share no memory, or each lies where its counterpart does: any order of
-// work gives the same.
+// Frames first..last - 1 of the two runs share no memory, or each lies where its counterpart does: any order
+// of work gives the same.
 template <class T>
 bool independent(const Side<T>& dst, const Side<T>& src, int64_t first, int64_t last) {
   const int64_t n = last - first;
@@ -42,8 +42,8 @@ void each_block(const Side<T>& dst, const Side<T>& src, int64_t count, Step step
   }
 }
 
-// Writes op(out, in, i, n) over the destination's part of the run; where `mixing`, out holds the destination's
-// values before.
+// Writes op(out, in, i, n) over the destination's part of the run; where `mixing`, out holds the
+// destination's values before.
 template <class T, class Op>
 void transform(const Side<T>& dst, const Side<T>& src, int64_t count, bool mixing, Op op) {
   T room[2 * block_frames];
@@ -55,8 +55,8 @@ void transform(const Side<T>& dst, const Side<T>& src, int64_t count, bool mixin
   });
 }
 
-// Calls op(out, in, n) with the stored samples of the run: n of the destination's, to be written over, and of the
-// source's. Both have the same channels.
+// Calls op(out, in, n) with the stored samples of the run: n of the destination's, to be written over, and of
+// the source's. Both have the same channels.
 template <class T, class Op>
 void transform_stored(const Side<T>& dst, const Side<T>& src, int64_t count, Op op) {
   const int64_t first = dst.first_inside(), last = dst.last_inside(count);

@@ -1,3 +1,4 @@
+// Gains that follow how loud the material is.
 #include "wave/dynamics.hpp"
 
 #include "core/clip.hpp"
@@ -27,7 +28,8 @@ double limit64(double peak) {
   return limit;
 }
 
-// Calls see(samples, n) for the stored samples of the run that lie inside the buffer. Silence changes no peak.
+// Calls see(samples, n) for the stored samples of the run that lie inside the buffer. Silence changes no
+// peak.
 template <class T, class See>
 void look(const Side<T>& side, int64_t count, See see) {
   const int64_t first = side.first_inside(), last = side.last_inside(count);

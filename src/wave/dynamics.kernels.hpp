@@ -9,10 +9,11 @@ typedef int8_t Row8 __attribute__((vector_size(register_bytes)));
 typedef int16_t Row16 __attribute__((vector_size(register_bytes)));
 typedef double Row64 __attribute__((vector_size(register_bytes)));
 
-// Gains are added up frame by frame, rounded at every step. While they stay between two powers of two, where the
-// spacing of the numbers is constant, every step adds the same amount, and frame i has the gain first + i * amount
-// exactly. (Steps that fall halfway between two numbers add another amount once; that the first two are equal
-// rules it out. A rounded step down to the power of two itself may end below, where numbers lie closer.)
+// Gains are added up frame by frame, rounded at every step. While they stay between two powers of two, where
+// the spacing of the numbers is constant, every step adds the same amount, and frame i has the gain first + i
+// * amount exactly. (Steps that fall halfway between two numbers add another amount once; that the first two
+// are equal rules it out. Where the last gain is the power of two itself, a step down to it may end below it
+// before it is rounded, where numbers lie closer: steps then have to need no rounding.)
 TESSARO_INLINE bool even_steps(const double gain[2], const double step[2], size_t frames, double amount[2]) {
   for (size_t lane = 0; lane < 2; ++lane) {
     const double a = gain[lane] + step[lane], b = a + step[lane];
@@ -76,8 +77,8 @@ void ramp64(uint8_t* out, const uint8_t* in, size_t frames, double gain[2], cons
           [](auto s, const auto& g) { return S::from64(to_unit(S::to64(s) * g)); });
 }
 
-// Lowers low and raises high to the extremes of the samples at even and at odd places. Comparisons in this form
-// pass over what is not a number.
+// Lowers low and raises high to the extremes of the samples at even and at odd places. Comparisons in this
+// form pass over what is not a number.
 template <class S, class Row, class Value>
 void extremes(const uint8_t* in, size_t n, Value low[2], Value high[2]) {
   constexpr size_t lanes = sizeof(Row) / sizeof(Row{}[0]);

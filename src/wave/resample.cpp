@@ -1,3 +1,4 @@
+// Buffers stretched by a constant ratio.
 #include "wave/resample.hpp"
 
 #include "core/clip.hpp"
@@ -31,7 +32,8 @@ void resample(const Wave& to, const Wave& from, double ratio, int32_t fine, Behi
   const int lanes = lanes_of(to, from);
   const Side<int16_t> dst(to, 0, lanes), src(from, 0, lanes);
   const auto blend = kernels<ResampleKernels>().blend[lanes - 1];
-  // So many that a block holds what is read for them. Where they lie far apart, what is between them is not worth it.
+  // So many that a block holds what is read for them. Where they lie far apart, what is between them is not
+  // worth it.
   static_assert(resample_frames + 2 <= block_frames);
   const int64_t most = !apart || ratio > 128 ? 1
                        : ratio < 1           ? resample_frames

@@ -4,8 +4,8 @@
 
 namespace {
 
-// Sample pairs (here, next) times their weights. The weight of a frame that is hit is 32768 and does not fit, so that
-// the weights are kept negative.
+// Sample pairs (here, next) times their weights. The weight of a frame that is hit is 32768 and does not fit,
+// so that the weights are kept negative.
 TESSARO_INLINE Int4 blended(const Short8& pairs, const Int4& weights) {
   return -dot_pairs(pairs, reinterpret_cast<Short8>(weights)) >> 15;
 }

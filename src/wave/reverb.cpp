@@ -1,3 +1,4 @@
+// The reverb: frames are sent to taps in a ring of the host's, which is read a little ahead of them.
 #include "wave/reverb.hpp"
 
 #include <cstring>
@@ -19,8 +20,8 @@ void clear_frames(uint8_t* ring, int64_t position, int64_t n) {
   std::memset(ring + 16 * position, 0, static_cast<size_t>(16 * n));
 }
 
-// The echoes of several frames can be added tap by tap: the taps begin behind what the frames read and clear, keep the
-// distance that the kernel asks for, and end before the ring has gone round.
+// The echoes of several frames can be added tap by tap: the taps begin behind what the frames read and clear,
+// keep the distance that the kernel asks for, and end before the ring has gone round.
 bool well_spaced(double place, const Taps& taps) {
   if (place < read_ahead + echo_frames) return false;
   for (size_t t = 0; t + 1 < taps.count; place += taps.step[t++])

@@ -22,11 +22,11 @@ struct Taps {
 };
 
 struct ReverbKernels {
-  // Adds echo times the gains of every tap to the ring, split between the two frames that the tap's place lies
-  // between. The first place is x.
+  // Adds echo times the gains of every tap to the ring, split between the two frames that the tap's place
+  // lies between. The first place is x.
   void (*scatter)(uint8_t* ring, double x, double echo, const Taps& taps);
-  // Null, or the same for echo_frames frames with their first places at x, x + 1, ...; echoes of 0 are left out.
-  // Every tap lies at least 3 frames behind the one before, and all lie within one turn of the ring.
+  // Null, or the same for echo_frames frames with their first places at x, x + 1, ...; echoes of 0 are left
+  // out. Every tap lies at least 3 frames behind the one before, and all lie within one turn of the ring.
   void (*scatter_block)(uint8_t* ring, double x, const double* echoes, const Taps& taps);
 };
 TESSARO_DECLARE_KERNELS(ReverbKernels);

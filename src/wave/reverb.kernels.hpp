@@ -42,9 +42,9 @@ void scatter(uint8_t* ring, double x, double echo, const tessaro::Taps& taps) {
 
 // ---- A block of frames at a time
 //
-// Where taps of two frames meet in the ring, the later tap belongs to the earlier frame. Taken from the last tap to the
-// first, every ring frame is therefore added to in the order of the frames, as it must be: sums are rounded. (Taps less
-// than two frames apart also meet within a frame, in the other order.)
+// Where taps of two frames meet in the ring, the later tap belongs to the earlier frame. Taken from the last
+// tap to the first, every ring frame is therefore added to in the order of the frames, as it must be: sums
+// are rounded. (Taps less than two frames apart also meet within a frame, in the other order.)
 
 using Four = Double4;  // frames, or two of them in two channels
 typedef Four StoredFour __attribute__((aligned(1), may_alias));
@@ -58,8 +58,8 @@ static_assert(tessaro::echo_frames == frame_count);
 
 struct Echoes {
   Frames of;
-  // Of what goes into ring frames 1 to 16 from a tap's place on: the shares that frames 0..15 have there, and those of
-  // frames 1..15, which come after them. Frame 0 has its nearer share in ring frame 0.
+  // Of what goes into ring frames 1 to 16 from a tap's place on: the shares that frames 0..15 have there, and
+  // those of frames 1..15, which come after them. Frame 0 has its nearer share in ring frame 0.
   Mask far[8], near[8];
   bool first, all;
 };
@@ -131,8 +131,8 @@ void scatter_together(uint8_t* ring, double x, const double* values, const tessa
       echoes.near[j / 2][lane] = near;
     }
   }
-  // Places are sums, rounded tap by tap, and so known from the first to the last: of every stretch of taps the first
-  // is kept, and the others are found again. The square root of their number needs the least room.
+  // Places are sums, rounded tap by tap, and so known from the first to the last: of every stretch of taps
+  // the first is kept, and the others are found again. The square root of their number needs the least room.
   constexpr size_t stretch = 100;
   static_assert(stretch * stretch == tessaro::most_taps);
   Frames starts[tessaro::most_taps / stretch], places[stretch], at;

@@ -1,5 +1,5 @@
-// Wave buffers as the operations see them: opened once per call, read and written in blocks of frames at one of
-// three working scales.
+// Wave buffers as the operations see them: opened once per call, read and written in blocks of frames at one
+// of three working scales.
 //
 //   16-bit scale   int16_t: every operation at this scale saturates, so that 16 bits hold what it hands on
 //   24-bit scale   int32_t
@@ -46,15 +46,15 @@ struct Wave {
 // False when a field of the record's format code is invalid.
 bool open_wave(const WaveBuffer* record, Wave& wave);
 
-// Integer codes times a gain, truncated, in one multiplication: by `gain`, or for a magnitude a of 16 bits or less
-// a * (whole + (high + low / 65536) / 65536); from `most` on the product is beyond the highest code.
+// Integer codes times a gain, truncated, in one multiplication: by `gain`, or for a magnitude a of 16 bits or
+// less a * (whole + (high + low / 65536) / 65536); from `most` on the product is beyond the highest code.
 struct Multiplier {
   double gain;
   uint16_t whole, high, low, most;
 };
 
-// Samples n at a time; tables are indexed by Stored. The integer scales take doubles for packed 24-bit samples.
-// out is memory of its own except where said; in and out of the host's memory have no alignment.
+// Samples n at a time; tables are indexed by Stored. The integer scales take doubles for packed 24-bit
+// samples. out is memory of its own except where said; in and out of the host's memory have no alignment.
 struct SampleKernels {
   void (*to16[3])(int16_t* out, const uint8_t* in, size_t n);
   void (*to24[3])(int32_t* out, const uint8_t* in, size_t n);
@@ -65,8 +65,8 @@ struct SampleKernels {
   void (*mean16[3])(uint8_t* out, const int16_t* pairs, size_t n);
   void (*mean24[3])(uint8_t* out, const int32_t* pairs, size_t n);
   void (*mean64[4])(uint8_t* out, const double* pairs, size_t n, double gain);
-  // One form, the second index, to another at the float scale: clamps in * gain, which for integers is at most
-  // 100; out may be in.
+  // One form, the second index, to another at the float scale: clamps in * gain, which for integers is at
+  // most 100; out may be in.
   void (*scale64[4][4])(uint8_t* out, const uint8_t* in, size_t n, double gain);
   // The same within one form of integers, for a gain that has a multiplier and for 1.
   void (*times64[3])(uint8_t* out, const uint8_t* in, size_t n, const Multiplier& multiplier);
@@ -86,9 +86,9 @@ struct SampleKernels {
   // s + (((noise modulo 65536 - 32768) * amount) >> 8)
   void (*noise16)(int16_t* d, const int16_t* s, size_t n, const uint32_t* noise, int32_t amount);
   void (*tone16)(int16_t* d, const int16_t* s, size_t frames, size_t lanes, const int32_t* tone);
-  // The moving average. running16: the first frame of sums is the running sum before the first frame of in, those of the
-  // last `span` frames lie in front of it; leaves the sums of all frames behind. mean_of_span: (ahead - behind) / span,
-  // truncated.
+  // The moving average. running16: the first frame of sums is the running sum before the first frame of in,
+  // those of the last `span` frames lie in front of it; leaves the sums of all frames behind. mean_of_span:
+  // (ahead - behind) / span, truncated.
   void (*running16)(int32_t* sums, const int16_t* in, size_t frames, size_t lanes);
   void (*mean_of_span)(int16_t* out, const int32_t* ahead, const int32_t* behind, size_t n, int32_t span);
 };

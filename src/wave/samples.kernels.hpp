@@ -8,8 +8,8 @@ namespace {
 template <class D, class S>
 constexpr bool packed = D::bytes == 3 || S::bytes == 3;
 
-// out = rule(in), sample by sample: in vectors of eight, where there are any, for doubles and for packed samples of
-// three bytes, which no compiler takes apart well.
+// out = rule(in), sample by sample: in vectors of eight, where there are any, for doubles and for packed
+// samples of three bytes, which no compiler takes apart well.
 template <class D, class S, bool vectors = packed<D, S>, class Rule>
 TESSARO_INLINE void each_sample(uint8_t* out, const uint8_t* in, size_t n, Rule rule) {
   size_t i = 0;
@@ -159,8 +159,8 @@ void gain24(uint8_t* d, const uint8_t* s, size_t n, int32_t gain) {
   each_sample<S, S>(d, s, n, [=](auto v) { return limited((v * gain) >> 6, -8388608, 8388607); });
 }
 
-// Integers times a gain through the float scale, without it: the short ones in 16 bits, comparisons and all, so that
-// a vector holds many.
+// Integers times a gain through the float scale, without it: the short ones in 16 bits, comparisons and all,
+// so that a vector holds many.
 template <class S>
 void times64(uint8_t* out, const uint8_t* in, size_t n, const tessaro::Multiplier& multiplier) {
   const tessaro::Multiplier m = multiplier;
@@ -183,9 +183,10 @@ void times64(uint8_t* out, const uint8_t* in, size_t n, const tessaro::Multiplie
     });
 }
 
-// To the float scale and back, where the two roundings lose one unit of some codes: those whose lowest bits are
-// 01 and whose highest bit lies as far above these as that of 16, 256 or, of 24 bits, 128 does. In integers of the
-// form's size, sign and all; there are no shifts of bytes.
+// To the float scale and back, where the two roundings lose one unit of a few codes: those whose highest bit
+// stands `distance` places above their lowest one, with a 0 next to that. The distance is 4 for 8 bits, 8 for
+// 16 and 7 for 24, of which 12, 448 and 512 positive codes are such. In integers of the form's size, sign and
+// all; there are no shifts of bytes.
 template <class I, class U, int distance>
 TESSARO_INLINE I returned(int32_t s, int32_t most) {
   const auto sign = static_cast<I>(static_cast<I>(s) >> (8 * sizeof(I) - 1));
@@ -203,7 +204,8 @@ void unit64(uint8_t* out, const uint8_t* in, size_t n) {
   if constexpr (S::bytes == 3) {
     const auto rule = [](auto s) { return limited(S::from64(S::to64(s)), -S::unit, S::unit); };
     size_t i = 0;
-    // The codes that change are so few that a vector which may hold one, negative here, is a rarity.
+    // A vector that may hold a code that changes is a rarity: one whose highest bit stands at most 7 places
+    // above the lowest, which makes the difference negative, or one above unit.
     for (; eights && i + 8 <= n; i += 8) {
       const Whole s = read8<S>(in + 3 * i), a = magnitude(s), lowest = a & -a;
       const Natural doubt = (natural(a) - (natural(lowest) << 8)) | natural(S::unit - a);
@@ -247,7 +249,8 @@ void running16(int32_t* sums, const I16* in, size_t frames, size_t lanes) {
     for (size_t i = 0; i < frames; ++i) sums[i + 1] = plus<int32_t>(sums[i], in[i]);
     return;
   }
-  // Both channels in the low half of a vector: a frame doubled to l l r r, as 32-bit numbers, is shifted down.
+  // Both channels in the low half of a vector: a frame doubled to l l r r, as 32-bit numbers, is shifted
+  // down.
   Int4 sum = reinterpret_cast<Int4>(Long2{get<int64_t>(sums), 0});
   for (size_t i = 0; i < frames; ++i) {
     const auto low = reinterpret_cast<Short8>(Int4{get<int32_t>(in + 2 * i), 0, 0, 0});
@@ -258,8 +261,8 @@ void running16(int32_t* sums, const I16* in, size_t frames, size_t lanes) {
 
 void mean_of_span(I16* __restrict out, const int32_t* __restrict ahead, const int32_t* __restrict behind,
                   size_t n, int32_t span) {
-  // Half an integer away from zero no quotient of a sum lies within 0.5 / span of the next integer, so that the
-  // rounded reciprocal truncates as the division does.
+  // Half an integer away from zero no quotient of a sum lies within 0.5 / span of the next integer, so that
+  // the rounded reciprocal truncates as the division does.
   const double part = 1.0 / span;
   for (size_t i = 0; i < n; ++i) {
     const int32_t sum =

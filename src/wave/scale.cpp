@@ -1,3 +1,4 @@
+// Frames times a gain at the float scale; see the kernels for what a multiplier saves.
 #include "wave/scale.hpp"
 
 #include <cmath>
@@ -8,7 +9,8 @@ namespace tessaro {
 
 namespace {
 
-// Two fractions with the value between them and none whose denominator is at most `order`.
+// The two fractions around a value that are neighbours in the Farey sequence of this order: none whose
+// denominator is at most `order` lies between them.
 struct Neighbours {
   double below[2] = {0, 1}, above[2] = {1, 1};  // numerator and denominator
   Neighbours(double value, double order) {
@@ -29,16 +31,17 @@ struct Neighbours {
   }
 };
 
-// The product of a code and the gain, before it is truncated, carries the roundings of a few doubles. They show
-// only where it lies that close to an integer, and then the gain lies as close to a fraction whose denominator is a
-// code. Where neither of the two fractions around it is close, any gain between these truncates alike.
+// The product of a code and the gain, before it is truncated, carries the roundings of a few doubles. They
+// show only where it lies that close to an integer, and then the gain lies as close to a fraction whose
+// denominator is a code. Where neither of the two fractions around it is close, any gain between these
+// truncates alike.
 bool find_multiplier(double gain, int32_t unit, Multiplier& m) {
   const double most = gain > 1 ? std::floor((unit + 1) / gain) + 1 : unit + 1;
   const double whole = std::floor(gain), fraction = gain - whole;
   const Neighbours near(fraction, most);
   const double below = near.below[0], of_below = near.below[1], above = near.above[0],
                of_above = near.above[1];
-  const double closest = 0x1p-50;  // of the product: six roundings
+  const double closest = 0x1p-50;  // of the product: six roundings of at most 2^-53 each
   if (below + whole > 0 && fraction * of_below - below <= (below + whole * of_below) * closest) return false;
   if (above - fraction * of_above <= (above + whole * of_above) * closest) return false;
   m.gain = whole + (below + above) / (of_below + of_above);

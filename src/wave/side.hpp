@@ -65,8 +65,8 @@ class Side {
   bool same_layout(const Side& other) const {
     return wave_.stored == other.wave_.stored && wave_.lanes == other.wave_.lanes;
   }
-  // Frames i..i + n - 1 as they are stored, or silence; n may become less, so that it is one of the two. Silence,
-  // and where `apart`, is put into room.
+  // Frames i..i + n - 1 as they are stored, or silence; n may become less, so that it is one of the two.
+  // Silence, and where `apart`, is put into room.
   const uint8_t* samples(int64_t i, int64_t& n, bool apart, uint8_t* room) const {
     const int64_t at = start_ + i;
     const bool inside = at >= 0 && at < wave_.count;

@@ -1,3 +1,4 @@
+// The discrete Fourier transform of a run, of any length.
 #include "wave/spectrum.hpp"
 
 #include <cmath>
@@ -16,8 +17,9 @@ constexpr double full_turn = 6.28318530717959;
 // Twiddles that are computed at a time.
 constexpr int64_t twiddle_block = 512;
 
-// Of powers of two every stage of k twiddles has the same, whatever the length of the transform: halving an angle is
-// exact. Those of stages of up to a block are here, the stage of k behind the k - 1 of the ones before it.
+// Of powers of two every stage of k twiddles has the same, whatever the length of the transform: halving an
+// angle is exact. Those of stages of up to a block are here, the stage of k behind the k - 1 of the ones
+// before it.
 struct StageTwiddles {
   double cosines[2 * twiddle_block - 1], sines[2 * twiddle_block - 1];
 };
@@ -104,7 +106,9 @@ void transform_power_of_two(Bins bins, int64_t n) {
   kernel.finish(bins, n, of_stage(rooms[0], 4, 0, 4));
 }
 
-// The angle of the point (x, y), as the field's atan2: the same on every target.
+// The angle of the point (x, y), as the field's atan2: the same on every target. It adds up two parts of the
+// angle before the last rounding, and branches; the palettes' arctan in draw/ goes by vectors and rounds
+// otherwise.
 double arctangent(double y, double x) {
   static constexpr double pi = 0x1.921fb54442d18p1, pi_tail = 0x1.1a62633145c07p-53;
   // Arctangents of sixteenths, in two parts.

@@ -93,9 +93,18 @@ void two_stages(Bins bins, int64_t n, int64_t k, int64_t first, int64_t count, c
   }
 }
 
-// Eight times eight elements: those whose index has the same middle bits. In a tile the three low bits choose the
-// row and the three high bits, reversed, the column: the last three stages work on whole rows, and the rows are
-// what is contiguous after the reordering.
+// Eight times eight elements: those whose index, high * n / 8 + middle * 8 + low, has the same middle. Tiles
+// hold them as
+//
+//            column 0   1   2   3   4   5   6   7
+//   high            0   4   2   6   1   5   3   7     in the order of reversed bits
+//   row 0                   low = 0
+//   ..
+//   row 7                   low = 7
+//
+// so that the last three stages, which join elements whose low bits differ, work on whole rows. The
+// reordering takes index high : middle : low to low : middle : high, each reversed: row r goes as it is to
+// reversed3[r] * n / 8 + 8 * middle'.
 struct Tile {
   alignas(64) double re[8][8], im[8][8];
 };

@@ -1,5 +1,6 @@
-// How one sample is stored, and what it is at each working scale: the one place of these rules, for the accessors
-// and the kernels alike. Internal linkage and always inlined, as everything that kernels are made of.
+// How one sample is stored, and what it is at each working scale: the one place of these rules, for the
+// accessors and the kernels alike. Internal linkage and always inlined, as everything that kernels are made
+// of.
 #pragma once
 
 #include <cstddef>
@@ -61,6 +62,8 @@ TESSARO_INLINE V halved(V a, V b) {
   return (sum - (sum >> 31)) >> 1;
 }
 
+// Of one value or many. What compares as not above the low limit becomes it: one instruction of minima and
+// maxima each, where clamped() would have to keep a negative zero.
 template <class V, class E>
 TESSARO_INLINE V limited(V v, E low, E high) {
   const V most = static_cast<V>(V{} + high), least = static_cast<V>(V{} + low);
@@ -75,10 +78,10 @@ TESSARO_INLINE V to_unit(V v) {
 
 TESSARO_INLINE auto magnitude(auto v) { return v < 0 ? -v : v; }
 
-// A stored form has get and put of one sample; toN, the sample at a scale; fromN, what is put for a value at a
-// scale; meanN, what is put for a stereo pair in a mono buffer. At which step the mean is taken differs between
-// the forms and shows in the last bit. Integer values are not clamped: what is put keeps the low bits. from64
-// takes values that to_unit has passed, or whose products fit in 32 bits. unit is the code of 1.
+// A stored form has get and put of one sample; toN, the sample at a scale; fromN, what is put for a value at
+// a scale; meanN, what is put for a stereo pair in a mono buffer. At which step the mean is taken differs
+// between the forms and shows in the last bit. Integer values are not clamped: what is put keeps the low
+// bits. from64 takes values that to_unit has passed, or whose products fit in 32 bits. unit is the code of 1.
 struct S8 {
   static constexpr size_t bytes = 1;
   static constexpr int32_t unit = 127;
@@ -253,8 +256,8 @@ struct Value24 {
   }
 };
 
-// What an integer form puts for a value at the float scale of a magnitude of at most 100: codes of that size are as well
-// limited after they are truncated.
+// What an integer form puts for a value at the float scale of a magnitude of at most 100: codes of that size
+// are as well limited after they are truncated.
 template <class S, class V>
 TESSARO_INLINE auto limited_code(const V& v) {
   return limited(S::from64(v), S::from64(-1.0), S::from64(1.0));

@@ -1,5 +1,6 @@
 // Sine, cosine and arctangent that are the same on every target: the platforms' own differ in the last bit.
-// Within one unit in the last place. Internal linkage, always inlined and without branches where kernels use them.
+// Within one unit in the last place. Internal linkage, always inlined and without branches where kernels use
+// them.
 #pragma once
 
 #include "simd/vocabulary.hpp"
@@ -25,8 +26,8 @@ TESSARO_INLINE constexpr Angle reduced(double a) {
   return {quarter, rest, (near - rest) + missed};
 }
 
-// Taylor series of the rest: at an eighth of a turn the first term left out is below 2^-63 of the sine's and 2^-58 of the
-// cosine's.
+// Taylor series of the rest: at an eighth of a turn the first term left out is below 2^-63 of the sine's and
+// 2^-58 of the cosine's.
 TESSARO_INLINE constexpr double sine_of_rest(Angle a) {
   const double z = a.rest * a.rest;
   const double series =

@@ -8,8 +8,8 @@ namespace {
 constexpr uint32_t margin = 48;
 constexpr uint32_t repeat = 7;  // the code of a pair that equals the one before
 
-// What a code makes of a pair, held as a | b << 8: the bits that stay, whether the old b becomes a, and where in the
-// window, with the code on top, the fields end.
+// What a code makes of a pair, held as a | b << 8: the bits that stay, whether the old b becomes a, and where
+// in the window, with the code on top, the fields end.
 struct Rule {
   uint16_t keep, b_field;
   uint8_t a_from_b, a_field;
@@ -25,8 +25,8 @@ constexpr Rule rules[8] = {
     {0xFF00, 0x0000, 0x00, 0xFF, 11, 11},  // a, b stays
     {0xFFFF, 0x0000, 0x00, 0x00, 3, 3},    // both stay
 };
-// The bits of each code with its fields, a byte each, code 0 lowest: found by a shift, the length of one pair decides
-// where the next begins as soon as possible. That chain is what bounds the decoder.
+// The bits of each code with its fields, a byte each, code 0 lowest: found by a shift, the length of one pair
+// decides where the next begins as soon as possible. That chain is what bounds the decoder.
 constexpr uint64_t lengths = 0x030B0B0B0D101013;
 
 constexpr uint16_t apply(uint64_t window, uint16_t before) {

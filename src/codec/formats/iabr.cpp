@@ -58,7 +58,8 @@ extern "C" int32_t TESSARO_CALL iabrEncoder(const void* source, void* destinatio
       const Group group = scan_group(in, length, start);
       const uint32_t n = group.size < length - start ? group.size : length - start;
       const unsigned width = class_width[group.kind];
-      // The stream ends with the step that reaches the limit. Far below it nothing is tested.
+      // The stream ends with the step that reaches the limit. Where even a group of the widest head ends
+      // below it, nothing is tested.
       const bool tested = out.written() + 8 + uint64_t{n} * width / 8 >= limit;
       if (!put_size(out, group.level, tested, full)) return;
       out.put(class_mark[group.kind]);

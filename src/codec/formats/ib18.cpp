@@ -1,4 +1,5 @@
-// ib18: blocks of six bytes, each byte a repeat of the one before, the one predicted to follow it, or a literal.
+// ib18: blocks of six bytes, each byte a repeat of the one before, the one predicted to follow it, or a
+// literal.
 #include "codec/formats/ib18.hpp"
 
 #include "codec/stream/bits.hpp"
@@ -17,8 +18,8 @@ constexpr unsigned all_of_block = 0x3F;
 constexpr uint64_t bytes_of_block = 0x0000FFFFFFFFFFFF;
 constexpr unsigned longest_run = 16;  // doublings of a block
 
-// What the encoder reads: the source in its order, and zeros behind it. block(i) is the six bytes from i on, the first
-// one lowest, with anything above them.
+// What the encoder reads: the source in its order, and zeros behind it. block(i) is the six bytes from i on,
+// the first one lowest, with anything above them.
 struct PlainOrder {
   const uint8_t* source;
   uint64_t n;
@@ -31,7 +32,8 @@ struct PlainOrder {
     return bytes;
   }
 };
-// Every fourth byte from 0, then from 1, 2 and 3. Lengths that are not a multiple of 4 give what these formulas give.
+// Every fourth byte from 0, then from 1, 2 and 3. Lengths that are not a multiple of 4 give what these
+// formulas give.
 struct ChannelsOrder {
   const uint8_t* source;
   uint64_t n;
@@ -80,8 +82,8 @@ int32_t encode(const void* source, void* destination, uint32_t length, uint32_t*
   uint8_t* out = begin + sizeof successors;
   const uint8_t* const limit = begin + (length - margin);
   uint8_t last = 0;
-  // The last eight bytes of the stream: an operation with its literals is stored together with those before it, without
-  // a branch for their number and without touching what follows.
+  // The last eight bytes of the stream: an operation with its literals is stored together with those before
+  // it, without a branch for their number and without touching what follows.
   uint64_t tail = load_big_endian64(out - 8);
   for (uint64_t at = 0; at < length;) {
     const uint64_t bytes = in.block(at), before = bytes << 8 | last;
@@ -124,8 +126,9 @@ int32_t encode(const void* source, void* destination, uint32_t length, uint32_t*
   return out >= limit;
 }
 
-// Where the decoder writes: `count` bytes in a row, or one channel of four after another. put() is false after the last
-// byte. room(n) is where n bytes may be put `step` apart without that being the last one, or null.
+// Where the decoder writes: `count` bytes in a row, or one channel of four after another. put() is false
+// after the last byte. room(n) is where n bytes may be put `step` apart without that being the last one, or
+// null.
 class Row {
  public:
   static constexpr unsigned step = 1;
@@ -232,8 +235,8 @@ class Decoder {
       const int flag = flags >> k & 1;
       if constexpr (zero == Is::literal) literal += !flag;
       if constexpr (Sink::step == 1) {
-        // The flags of interleaved pixels are alike from pixel to pixel, and jumps are guessed well: a literal then does
-        // not wait for the byte before it.
+        // The flags of interleaved pixels are alike from pixel to pixel, and jumps are guessed well: a
+        // literal then does not wait for the byte before it.
         if (flag)
           last = one == Is::repeat ? last : tables_.successors[last];
         else

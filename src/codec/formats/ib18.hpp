@@ -6,8 +6,9 @@
 
 namespace tessaro {
 
-// For every byte of 0 and n others behind it the one that follows it most often; the smallest of equals, and never
-// itself. The counts of so many bytes fit into the table: the source is gone through for as many at a time.
+// For every byte of 0 and n others behind it the one that follows it most often; the smallest of equals, and
+// never itself. The counts of so many bytes fit into the table: the source is gone through for as many at a
+// time.
 template <unsigned rows>
 void find_successors(const uint8_t* source, uint32_t n, uint32_t* counts, uint8_t* successors) {
   for (unsigned first = 0; first < 256; first += rows) {

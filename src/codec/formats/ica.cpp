@@ -10,8 +10,8 @@ constexpr uint32_t margin = 128;
 constexpr unsigned head_bits = 5;
 constexpr unsigned repeat_head = 1;
 
-// How a pixel with a given head stands in the stream: the place and the mask of each byte's field, counted from the
-// end of the pixel's bits, and the bits that stay of the pixel before.
+// How a pixel with a given head stands in the stream: the place and the mask of each byte's field, counted
+// from the end of the pixel's bits, and the bits that stay of the pixel before.
 struct Form {
   uint8_t bits;
   uint8_t shift[4], mask[4];
@@ -39,7 +39,8 @@ constexpr Forms forms = [] {
   return all;
 }();
 
-// A flag a byte pays by the bits that it saves: five where the top five bits stay, three where only the top three do.
+// A flag a byte pays by the bits that it saves: five where the top five bits stay, three where only the top
+// three do.
 struct HeadChoice {
   uint8_t of[256];  // by the flags of the top five bits, and above them those of the top three
 };

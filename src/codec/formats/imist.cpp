@@ -1,5 +1,5 @@
-// imist: two pairs of bytes a pixel, blue and red, then green and alpha; a pair is sent as far as it differs from that
-// of the pixel before.
+// imist: two pairs of bytes a pixel, blue and red, then green and alpha; a pair is sent as far as it differs
+// from that of the pixel before.
 #include "codec/stream/pixels.hpp"
 #include "tessaro/codec.h"
 
@@ -8,8 +8,8 @@ namespace {
 
 constexpr uint32_t margin = 128;
 
-// How a pair is sent: its mark and two fields of `width` bits. `keep` is what stays of the pair before; pairs stand
-// in the bytes 0 and 2 of a word.
+// How a pair is sent: its mark and two fields of `width` bits. `keep` is what stays of the pair before; pairs
+// stand in the bytes 0 and 2 of a word.
 struct Form {
   uint8_t bits, width, mark;
   uint32_t keep;

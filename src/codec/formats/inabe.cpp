@@ -1,4 +1,5 @@
-// inabe: groups of 4 * 2^k bytes of one similarity, each byte in a few bits or behind an escape of that many ones.
+// inabe: groups of 4 * 2^k bytes of one similarity, each byte in a few bits or behind an escape of that many
+// ones.
 #include <cstring>
 
 #include "codec/stream/bits.hpp"
@@ -13,7 +14,8 @@ constexpr uint32_t margin = 256;
 // The widths that an encoder chooses from, and where a decoder stops to count: fields end at 32 bits.
 constexpr unsigned short_widths = 8, longest_field = 32;
 
-// Byte e of an entry is 1 where the value needs no escape in e bits: sums of entries count all widths at once.
+// Byte e of an entry is 1 where the value needs no escape in e bits: sums of entries count all widths at
+// once.
 struct FitTable {
   uint64_t of[256];
 };
@@ -51,7 +53,8 @@ unsigned best_width(const uint8_t* bytes, uint32_t size) {
 class Encoder {
  public:
   Encoder(uint8_t* out, uint32_t limit) : out_(out), limit_(limit) {}
-  // False when the stream has reached its limit. Far below it nothing is tested.
+  // False when the stream has reached its limit. Where the group cannot, nothing is tested: a byte takes one
+  // byte on average at most (the width was chosen to save), and 16 more are room for any head.
   bool group(const uint8_t* bytes, uint32_t size, Group group) {
     return uint64_t{out_.written()} + size + 16 < limit_ ? code<false>(bytes, size, group)
                                                          : code<true>(bytes, size, group);
@@ -111,7 +114,8 @@ class Encoder {
   uint32_t limit_;
 };
 
-// Where decoded codes go, a span at a time: as they are, or as differences of pixels that were sent channel by channel.
+// Where decoded codes go, a span at a time: as they are, or as differences of pixels that were sent channel
+// by channel.
 class Codes {
  public:
   Codes(void* out, uint32_t) : at_(static_cast<uint8_t*>(out)) {}
@@ -224,7 +228,8 @@ int32_t decode(Source source, void* destination, uint32_t count) {
   Sink out(destination, count);
   uint8_t last = 0;
   while (count != 0) {
-    // A head, with the codes behind it, has four bits or more.
+    // The shortest head and what follows it, a mark of repeats or a field and a code, have four bits or more:
+    // need(4) reads no byte that the stream may lack.
     if (in.can_refill(0))
       in.refill();
     else
@@ -237,7 +242,8 @@ int32_t decode(Source source, void* destination, uint32_t count) {
       out.repeat(last, size);
       continue;
     }
-    // One more than the longest is asked for, so that the zero behind 32 ones is taken too; 33 ones count as 32.
+    // One more than the longest is asked for, so that the zero behind 32 ones is taken too; 33 ones count as
+    // 32.
     const unsigned short_width = in.read_ones(longest_field + 1);
     const Form form{short_width < longest_field ? short_width : longest_field, class_width[head.kind],
                     class_keep[head.kind]};

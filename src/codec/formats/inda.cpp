@@ -1,5 +1,5 @@
-// inda, the masked-reference format: blocks of eight bytes, each byte a literal or the rest of what it shares with a byte up
-// to eight places back.
+// inda, the masked-reference format: blocks of eight bytes, each byte a literal or the rest of what it shares
+// with a byte up to eight places back.
 #include "codec/formats/inda.hpp"
 
 #include <cstring>
@@ -111,8 +111,9 @@ class Encoder {
   Parameters before_;
 };
 
-// The bytes of a block from what was sent, in place, and the eight bytes before: byte j takes its kept bits from the
-// byte 8 - d places back, which may be one of this block. Every step doubles how far back the bits have been followed.
+// The bytes of a block from what was sent, in place, and the eight bytes before: byte j takes its kept bits
+// from the byte 8 - d places back, which may be one of this block. Every step doubles how far back the bits
+// have been followed.
 inline uint64_t build(uint64_t sent, uint64_t kept, uint64_t before, unsigned distance) {
   const auto up = [](uint64_t v, unsigned n) { return n < 64 ? v << n : 0; };
   unsigned back = 64 - 8 * distance;

@@ -8,8 +8,8 @@
 
 namespace tessaro {
 
-// Level 0 keeps nothing, levels 1..8 that many top bits of the reference, levels 9..15 the low 7..1 bits. What is
-// sent stands `shift` bits up in the byte.
+// Level 0 keeps nothing, levels 1..8 that many top bits of the reference, levels 9..15 the low 7..1 bits.
+// What is sent stands `shift` bits up in the byte.
 struct IndaLevel {
   uint8_t kept, kept_bits, sent_bits, shift;
 };
@@ -29,8 +29,8 @@ constexpr IndaLevels inda_levels = [] {
 }();
 
 struct IndaKernels {
-  // The best pair of level and distance code for each of `count` blocks of eight bytes, as level * 8 + distance, or 0
-  // where none is good enough. The eight bytes before the first block are its history.
+  // The best pair of level and distance code for each of `count` blocks of eight bytes, as level * 8 +
+  // distance, or 0 where none is good enough. The eight bytes before the first block are its history.
   void (*search)(const uint8_t* blocks, size_t count, uint8_t* choices);
 };
 TESSARO_DECLARE_KERNELS(IndaKernels);

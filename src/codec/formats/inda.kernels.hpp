@@ -7,8 +7,8 @@ namespace {
 using tessaro::inda_level_count;
 using tessaro::inda_levels;
 
-// A pair's rank: its score in front, and behind it how early the pair comes, so that the highest rank belongs to
-// the first of the best pairs. The step is what a sum of byte masks counts one byte as.
+// A pair's rank: its score in front, and behind it how early the pair comes, so that the highest rank belongs
+// to the first of the best pairs. The step is what a sum of byte masks counts one byte as.
 constexpr int rank_step = 255, earliest = 127;
 static_assert(inda_level_count * 8 - 1 <= earliest && earliest < rank_step);
 // A choice must save more than 11 bits.
@@ -30,9 +30,9 @@ int one_by_one(const uint8_t* block) {
   return best;
 }
 
-// The same with a distance in every eight bytes of a vector; counts and ranks are the low 16 bits of each eight. Two
-// distances a vector, or four: the types, the bytes at the distances from `first` on, the ranks of a level 0 there, and the
-// highest rank.
+// The same with a distance in every eight bytes of a vector; counts and ranks are the low 16 bits of each
+// eight. Two distances a vector, or four: the types, the bytes at the distances from `first` on, the ranks of
+// a level 0 there, and the highest rank.
 struct TwoDistances {
   static constexpr int count = 2;
   typedef uint8_t Eights __attribute__((vector_size(16)));

@@ -1,7 +1,8 @@
 // Bit streams, most significant bit first: one writer and one reader under every format that has bit fields.
 //
-// Both keep 64 bits at hand and move up to 8 bytes at once, but only where that touches nothing else: a writer never
-// changes a byte behind the stream's end, and a reader never reads one that the format does not make it need.
+// Both keep 64 bits at hand and move up to 8 bytes at once, but only where that touches nothing else: a
+// writer never changes a byte behind the stream's end, and a reader never reads one that the format does not
+// make it need.
 #pragma once
 
 #include <cstddef>
@@ -28,8 +29,9 @@ class BitWriter {
  public:
   explicit BitWriter(uint8_t* out) : begin_(out), at_(out) {}
 
-  // Appends n bits, n <= 32; nothing stands above them. Whole bytes leave at once, by a store of the last four: three of
-  // them have left before, and `pending_` still holds those, so that they are stored again as they are.
+  // Appends n bits, n <= 32; nothing stands above them. Whole bytes leave at once, by a store of the last
+  // four: three of them have left before, and `pending_` still holds those, so that they are stored again as
+  // they are.
   void put(uint32_t bits, unsigned n) {
     pending_ = pending_ << n | bits;
     held_ += n;
@@ -42,8 +44,8 @@ class BitWriter {
     }
   }
   void put(BitField field) { put(static_cast<uint32_t>(field.bits), field.width); }  // of 32 bits at most
-  // Appends a field in one store of 8 bytes, which may change the 7 bytes behind the stream so far: only for where at
-  // least 7 more are sure to follow.
+  // Appends a field in one store of 8 bytes, which may change the 7 bytes behind the stream so far: only for
+  // where at least 7 more are sure to follow.
   void put_ahead(BitField field) {
     pending_ = pending_ << field.width | field.bits;
     held_ += field.width;
@@ -89,8 +91,8 @@ class BitReader {
  public:
   explicit BitReader(Source source) : source_(source), begin_(source.at) {}
 
-  // Makes at least n bits available, n <= 56, reading no byte beyond the one that holds the last of them. Where the
-  // stream ends before, zeros take the place of what is missing and ran_out() is true from then on.
+  // Makes at least n bits available, n <= 56, reading no byte beyond the one that holds the last of them.
+  // Where the stream ends before, zeros take the place of what is missing and ran_out() is true from then on.
   void need(unsigned n) {
     if (held_ >= n) return;
     unsigned bytes = (n - held_ + 7) >> 3;
@@ -138,7 +140,8 @@ class BitReader {
     need(n);
     return take(n);
   }
-  // Counts the one bits up to a zero, which is taken too, or up to `most` of them; 2^30 and more count as 2^30.
+  // Counts the one bits up to a zero, which is taken too, or up to `most` of them; 2^30 and more count as
+  // 2^30.
   unsigned read_ones(unsigned most) {
     for (unsigned ones = 0;;) {
       need(1);

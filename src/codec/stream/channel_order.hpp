@@ -1,14 +1,17 @@
-// The order of pixels that are sent channel by channel, and the code of a difference: what decoders undo in the same pass.
+// The order of pixels that are sent channel by channel, and the code of a difference: what decoders undo in
+// the same pass.
 #pragma once
 
 #include <cstdint>
 
 namespace tessaro {
 
-// Differences are folded so that small ones of either sign become small codes: 0, -1, 1, -2 become 0, 1, 2, 3.
+// Differences are folded so that small ones of either sign become small codes: 0, -1, 1, -2 become 0, 1, 2,
+// 3.
 constexpr uint8_t unfold(uint8_t code) { return static_cast<uint8_t>(code >> 1 ^ (0 - (code & 1))); }
 
-// The positions of `count` interleaved bytes, one channel of four after another: 0, 4, 8, ..., 1, 5, ..., 2, ..., 3, ...
+// The positions of `count` interleaved bytes, one channel of four after another: 0, 4, 8, ..., 1, 5, ..., 2,
+// ..., 3, ...
 class ChannelOrder {
  public:
   explicit ChannelOrder(uint32_t count) : count_(count) {}

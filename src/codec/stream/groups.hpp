@@ -1,5 +1,5 @@
-// Groups of 4 * 2^k bytes that are all sent with the same number of bits: how an encoder finds them, their heads, and
-// their bytes.
+// Groups of 4 * 2^k bytes that are all sent with the same number of bits: how an encoder finds them, their
+// heads, and their bytes.
 #pragma once
 
 #include <cstdint>
@@ -8,8 +8,8 @@
 
 namespace tessaro {
 
-// What is sent of a byte that follows another: all of it, its low 5 bits, its low 3 bits, or nothing. A class is
-// written as that many ones and, below 3, a zero.
+// What is sent of a byte that follows another: all of it, its low 5 bits, its low 3 bits, or nothing. A class
+// is written as that many ones and, below 3, a zero.
 inline constexpr unsigned class_width[] = {8, 5, 3, 0};
 inline constexpr uint8_t class_keep[] = {0x00, 0xE0, 0xF8, 0xFF};  // what stays of the byte before
 inline constexpr unsigned repeats = 3;
@@ -27,9 +27,9 @@ inline unsigned class_of_unit(uint32_t unit, uint8_t last) {
   return unsigned{changed == 0} + ((changed & 0xF8F8F8F8) == 0) + ((changed & 0xE0E0E0E0) == 0);
 }
 
-// The group that starts at byte `start` of the source, which has at least 5 bytes; `last` is the byte before it, 0 at
-// the beginning. The unit that holds the last byte of the source never extends a group. Where it has fewer than four
-// bytes, the bytes of the unit before stand in the other places.
+// The group that starts at byte `start` of the source, which has at least 5 bytes; `last` is the byte before
+// it, 0 at the beginning. The unit that holds the last byte of the source never extends a group. Where it has
+// fewer than four bytes, the bytes of the unit before stand in the other places.
 inline Group scan_group(const uint8_t* source, uint32_t length, uint32_t start) {
   const auto last_before = [&](uint64_t at) { return at ? source[at - 1] : uint8_t{0}; };
   uint32_t unit;
@@ -54,8 +54,8 @@ inline Group scan_group(const uint8_t* source, uint32_t length, uint32_t start) 
 // The head of a group: its size, then the zero that ends it with the class.
 inline constexpr BitField class_mark[] = {{0b00, 2}, {0b010, 3}, {0b0110, 4}, {0b0111, 4}};
 
-// Appends a size. Where `tested`, close to the limit, every one of its bits leaves on its own, as it does once a scan has
-// seen that the group is that large: false as soon as full().
+// Appends a size. Where `tested`, close to the limit, every one of its bits leaves on its own, as it does
+// once a scan has seen that the group is that large: false as soon as full().
 template <class Full>
 inline bool put_size(BitWriter& out, unsigned level, bool tested, Full full) {
   if (!tested) out.put(ones(level), level);

@@ -1,5 +1,5 @@
-// The frame of the formats that send one pixel of four bytes after another, each against the pixel before it: all they
-// differ in is how one pixel is coded.
+// The frame of the formats that send one pixel of four bytes after another, each against the pixel before it:
+// all they differ in is how one pixel is coded.
 #pragma once
 
 #include <cstring>
@@ -44,8 +44,8 @@ inline int32_t encode_pixels(const void* source, void* destination, uint32_t len
   return out.written() >= limit;
 }
 
-// next(reader, before, need) gives the next pixel; it calls need(n) before it looks at n bits. No pixel costs fewer
-// than `least_bits` bits.
+// next(reader, before, need) gives the next pixel; it calls need(n) before it looks at n bits. No pixel costs
+// fewer than `least_bits` bits.
 template <class Source, class Next>
 inline int32_t decode_pixels(Source source, void* destination, uint32_t count, unsigned least_bits,
                              Next next) {
@@ -53,7 +53,8 @@ inline int32_t decode_pixels(Source source, void* destination, uint32_t count, u
   BitReader<Source> in(source);
   auto* out = static_cast<uint8_t*>(destination);
   uint32_t pixel = 0;
-  // While more pixels than these are to come the stream goes on for the 8 bytes of a refill and the 8 that may be held.
+  // So many pixels take the 128 bits or more of a refill's 8 bytes and of the 8 that may be held: where more
+  // are to come, the stream has what a refill reads.
   const uint32_t end = 128 / least_bits + 1;
   const auto far_from_end = [&] { return count / 4 > end && in.can_refill(uint64_t{1} << 40); };
   for (; far_from_end(); out += 4, count -= 4) {

@@ -25,8 +25,8 @@ void jpeg_message(j_common_ptr info, int level) {
 }
 void jpeg_silent(j_common_ptr) {}
 
-// A small file may claim any number of passes over a large picture. Where they are arithmetically coded they cost several
-// times as much, and more for each component, without needing any data.
+// A small file may claim any number of passes over a large picture. Where they are arithmetically coded they
+// cost several times as much, and more for each component, without needing any data.
 void jpeg_progress(j_common_ptr info) {
   const auto* reader = reinterpret_cast<j_decompress_ptr>(info);
   const int64_t pixels = static_cast<int64_t>(reader->image_width) * reader->image_height;

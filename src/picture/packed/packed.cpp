@@ -1,3 +1,4 @@
+// Which reader a packed picture file is for.
 #include "picture/packed/packed.hpp"
 
 using namespace tessaro::platform;

@@ -11,8 +11,8 @@ void read_gif(const PictureFile& file, Canvas& canvas);
 
 }  // namespace tessaro::platform
 
-// Reads whichever of them the file is. The name counts the forms that Canvas and PictureFile have had, so that a library
-// and a module of different versions do not meet.
+// Reads whichever of them the file is. The name counts the forms that Canvas and PictureFile have had, so
+// that a library and a module of different versions do not meet.
 extern "C" [[gnu::visibility("default")]] void tessaro_read_packed_1(
     const tessaro::platform::PictureFile& file, tessaro::platform::Canvas& canvas);
 #define TESSARO_READ_PACKED "tessaro_read_packed_1"

@@ -1,5 +1,5 @@
-// Bitmap files (.bmp): of 1, 4, 8, 16, 24 or 32 bits a pixel, rows from the bottom or from the top; of 4 and 8 bits also
-// run-length coded, then from the bottom only.
+// Bitmap files (.bmp): of 1, 4, 8, 16, 24 or 32 bits a pixel, rows from the bottom or from the top; of 4 and
+// 8 bits also run-length coded, then from the bottom only.
 #include <cstring>
 
 #include "picture/posix/canvas.hpp"
@@ -49,8 +49,9 @@ struct Layout {
 
 enum Compression : uint32_t { plain = 0, runs_of_8 = 1, runs_of_4 = 2, three_masks = 3, four_masks = 6 };
 
-// Pairs of bytes: a count and what is repeated, or 0 and a code. Pixels that are skipped stay 0, whatever colour the
-// palette begins with; they are part of the picture, so only where the codes end too early are the rows above missing.
+// Pairs of bytes: a count and what is repeated, or 0 and a code. Pixels that are skipped stay 0, whatever
+// colour the palette begins with; they are part of the picture, so only where the codes end too early are the
+// rows above missing.
 void read_runs(const PictureFile& file, size_t at, const Layout& layout, Canvas& canvas) {
   enum Code : uint32_t { end_of_row = 0, end_of_picture = 1, skip = 2 };  // and above: so many pixels follow
   int32_t x = 0, y = canvas.height - 1;

@@ -24,27 +24,27 @@ struct PictureFile {
   }
 };
 
-// Where a reader puts its picture: rows of 0xAARRGGBB from the top, alpha 0 where the file has none. Rows that
-// a damaged file does not give are not drawn.
+// Where a reader puts its picture: rows of 0xAARRGGBB from the top, alpha 0 where the file has none. Rows
+// that a damaged file does not give are not drawn.
 class Canvas {
  public:
-  // No more rows than `wanted` are kept, so that a picture costs what is seen of it. With none, nothing but the size
-  // is asked for.
+  // No more rows than `wanted` are kept, so that a picture costs what is seen of it. With none, nothing but
+  // the size is asked for.
   explicit Canvas(int32_t wanted) : wanted_(wanted) {}
   Canvas(const Canvas&) = delete;
   Canvas& operator=(const Canvas&) = delete;
   ~Canvas() { std::free(pixels_); }
 
   static constexpr int64_t most_bytes = int64_t{512} << 20;
-  // Whether an area is small enough to be decoded. Everything that takes time has to be: what lies outside the picture
-  // too.
+  // Whether an area is small enough to be decoded. Everything that takes time has to be: what lies outside
+  // the picture too.
   static bool fits(int64_t width, int64_t height) {
     constexpr int64_t edge = 32767;
     return width >= 1 && height >= 1 && width <= edge && height <= edge && width * height * 4 <= most_bytes;
   }
 
-  // Called once, when the size is known. False when the reader is to stop: the picture is too large, there is no
-  // memory for it, or its size was all that was wanted.
+  // Called once, when the size is known. False when the reader is to stop: the picture is too large, there is
+  // no memory for it, or its size was all that was wanted.
   bool open(int64_t width, int64_t height) {
     if (!fits(width, height)) return false;
     this->width = static_cast<int32_t>(width);

@@ -1,5 +1,5 @@
-// Where the readers of packed formats come from: a module that is loaded with the first picture, so that the library
-// itself depends on nothing; this very binary; or nowhere.
+// Where the readers of packed formats come from: a module that is loaded with the first picture, so that the
+// library itself depends on nothing; this very binary; or nowhere.
 #include "picture/packed/packed.hpp"
 
 #ifdef TESSARO_PICTURES_MODULE
@@ -16,8 +16,8 @@ namespace tessaro::platform {
 
 namespace {
 
-// Beside this binary, then wherever the system looks. A relative path may have lost its meaning since; the search path
-// of the library leads to its own folder as well.
+// Beside this binary, then wherever the system looks. A relative path may have lost its meaning since; the
+// search path of the library leads to its own folder as well.
 void* load_module() {
   Dl_info self{};
   constexpr char name[] = TESSARO_PICTURES_MODULE;
@@ -36,8 +36,8 @@ void* load_module() {
 }  // namespace
 
 void read_packed(const PictureFile& file, Canvas& canvas) {
-  // Threads that come here together load the same module; it stays until the process ends. One that is missing is
-  // looked for again with the next picture.
+  // Threads that come here together load the same module; it stays until the process ends. One that is
+  // missing is looked for again with the next picture.
   static constinit std::atomic<decltype(&tessaro_read_packed_1)> found{nullptr};
   auto* read = found.load(std::memory_order_acquire);
   if (!read) {

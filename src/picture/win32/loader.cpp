@@ -36,8 +36,8 @@ bool with_bitmap(const uint8_t* file, size_t size, Use use) {
     if (type == PICTYPE_BITMAP) use(*picture);
     picture->Release();
   }
-  // The stream gives the block back. It must not be freed once more: another thread may have been given the same
-  // handle by then.
+  // The stream gives the block back. It must not be freed once more: another thread may have been given the
+  // same handle by then.
   stream->Release();
   return true;
 }

@@ -1,3 +1,4 @@
+// What is particular to a processor, for any of them.
 #include "simd/processor.hpp"
 
 #include "core/numbers.hpp"

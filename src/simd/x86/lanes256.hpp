@@ -52,8 +52,8 @@ TESSARO_INLINE void write_whole<2>(uint8_t* out, const Whole& v) {
 }
 template <>
 TESSARO_INLINE void write_whole<3>(uint8_t* out, const Whole& v) {
-  // aaa.bbb.ccc.ddd. -> aaabbbcccddd.... in each half, then both halves together: stores of 16 and 8 bytes, because
-  // those under a mask are slow on some processors.
+  // aaa.bbb.ccc.ddd. -> aaabbbcccddd.... in each half, then both halves together: stores of 16 and 8 bytes,
+  // because those under a mask are slow on some processors.
   const __m256i front = _mm256_setr_epi8(0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, -1, -1, -1, -1,  //
                                          0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, -1, -1, -1, -1);
   const __m256i all = _mm256_permutevar8x32_epi32(_mm256_shuffle_epi8(reinterpret_cast<__m256i>(v), front),

@@ -1,3 +1,4 @@
+// What is particular to a processor, for x86.
 #include "simd/processor.hpp"
 
 #include <cpuid.h>
