@@ -5,7 +5,6 @@
 #include <cstdint>
 
 #ifdef _WIN32
-#define NOMINMAX
 #include <windows.h>
 #else
 #include <sys/mman.h>
