@@ -52,22 +52,25 @@ void write_png(const std::string& path, const Picture& picture, bool with_alpha)
 }
 
 Sound load_sound(const std::string& path) {
-  constexpr int most_seconds = 30;
+  constexpr int most_seconds = 30, most_channels = 16;
   SndfileHandle file(path);
   const int channels = file.channels(), rate = file.samplerate();
   if (file.error() != SF_ERR_NO_ERROR) throw std::runtime_error(path + ": " + file.strError());
   if (rate < 1000 || rate > 441000)
     throw std::runtime_error(path + " has " + std::to_string(rate) +
                              " frames a second; a wave buffer has 1000 to 441000");
+  if (channels > most_channels)
+    throw std::runtime_error(path + " has " + std::to_string(channels) + " channels; " +
+                             std::to_string(most_channels) + " can be folded to two");
   if (channels > 2)
     std::printf("%s has %d channels: odd ones are folded to the left, even ones to the right\n", path.c_str(),
                 channels);
   if (file.frames() > most_seconds * rate)
     std::printf("%s is long: only the first %d seconds are used\n", path.c_str(), most_seconds);
 
-  std::vector<double> samples(static_cast<size_t>(std::min<sf_count_t>(file.frames(), most_seconds * rate)) *
-                              static_cast<size_t>(channels));
-  const auto frames = static_cast<int>(file.readf(samples.data(), most_seconds * rate));
+  const sf_count_t used_frames = std::min<sf_count_t>(file.frames(), most_seconds * rate);
+  std::vector<double> samples(static_cast<size_t>(used_frames * channels));
+  const auto frames = static_cast<int>(file.readf(samples.data(), used_frames));
   if (frames < 4096) throw std::runtime_error(path + " is shorter than the 4096 frames that are shown");
   const int used = std::min(channels, 2);
   Sound exact(TESSARO_BITS_64, used, rate, frames);

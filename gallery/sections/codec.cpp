@@ -221,16 +221,16 @@ void show_streams(Gallery& page) {
   const Bytes source = prepared(photo);
   Bytes made(bytes), partly(bytes);
   uint32_t size = 0;
-  Picture stream(w, h + h / 16), whole(w, h), part(w, h);
+  Picture stream(w, h), whole(w, h), part(w, h);
   const Shown shown{&stream, &whole, &part};
-  page.show(
-      "i", shown, CALL(if (iEncoder(source.data(), stream.pixels(), bytes, &size) == 0) {
-        iDecoder(stream.pixels(), made.data(), bytes);
-        iDecoderSafe(stream.pixels(), partly.data(), size * 2 / 3, bytes);
-        restored(whole, made);
-        restored(part, partly);
-      }),
-      "Pairs of bytes against the pair before, of differences of planes: red, the third plane, ends early.");
+  page.show("i", shown, CALL(if (iEncoder(source.data(), stream.pixels(), bytes, &size) == 0) {
+              iDecoder(stream.pixels(), made.data(), bytes);
+              iDecoderSafe(stream.pixels(), partly.data(), size * 2 / 3, bytes);
+              restored(whole, made);
+              restored(part, partly);
+            }),
+            "Pairs of bytes against the pair before, of differences of planes: the third of them, "
+            "red, stops where the stream does.");
   page.show("io", shown, CALL(if (ioEncoder(flat.pixels(), stream.pixels(), bytes, &size) == 0) {
               ioDecoder(stream.pixels(), whole.pixels(), bytes);
               ioDecoderSafe(stream.pixels(), part.pixels(), size * 2 / 3, bytes);
@@ -283,15 +283,19 @@ void show_streams(Gallery& page) {
               icaDecoderSafe(stream.pixels(), part.pixels(), size * 2 / 3, bytes);
             }),
             "Pixels whose bytes are cut one by one: close to imist.");
-  page.show("c2f", shown, CALL(if (c2fEncoder(flat.pixels(), stream.pixels(), bytes, &size) == 0) {
-              c2fDecoder(stream.pixels(), whole.pixels(), size, bytes);
-              c2fDecoder(stream.pixels(), part.pixels(), size * 2 / 3, bytes);
-            }),
-            "A channel that stays for eight pixels is free. Its only decoder is a safe one.");
+  Bytes roomy(bytes + bytes / 32 + 3);
+  page.show(
+      "c2f", shown,
+      CALL(c2fEncoder(flat.pixels(), roomy.data(), bytes, &size);
+           BBIBltTo32from32(stream, roomy.data() + bytes - 4 * w, -4 * w);
+           c2fDecoder(roomy.data(), whole.pixels(), size, bytes);
+           c2fDecoder(roomy.data(), part.pixels(), size * 2 / 3, bytes)),
+      "A channel that stays for eight pixels is free. A stream may be longer than its source, and the only "
+      "decoder is a safe one.");
 
-  Picture map(photo.width(), photo.height());
   const Picture& large = page.photo(0);
-  map = large.cut(0, 0, large.width() / tile_width * tile_width, large.height() / tile_height * tile_height);
+  Picture map =
+      large.cut(0, 0, large.width() / tile_width * tile_width, large.height() / tile_height * tile_height);
   page.show(
       "Where i of differences spends its bits", map, CALL(costs(map, large, iEncoder, true)),
       "The photograph in tiles of 64 x 32 pixels, each coded by itself: black tiles cost nothing, white ones "

@@ -24,16 +24,16 @@ void show_blurs(Gallery& page) {
   {
     const int n = std::min({120, w, h});
     const Picture tile = src.middle(n, n);
+    const auto four_times = [n](Picture& of) {
+      BBIBlt(of, of, n, 0, n, n, 0, 0);
+      BBIBlt(of, of, 0, n, 2 * n, n, 0, 0);
+    };
     Picture half(n, n), cut(2 * n, 2 * n), looped(2 * n, 2 * n);
     page.show(
         "A tile that still tiles", Shown{&cut, &looped},
         CALL(BBIBltUBlur(half, tile, 0, 0, n, n, 0, 0, 12); BBIBltVBlur(cut, half, 0, 0, n, n, 0, 0, 12);
              BBIBltUBlurLoop(half, tile, 0, 0, n, n, 0, 0, 12);
-             BBIBltVBlurLoop(looped, half, 0, 0, n, n, 0, 0, 12); for (Picture* of
-                                                                       : {&cut, &looped}) {
-               BBIBlt(*of, *of, n, 0, n, n, 0, 0);
-               BBIBlt(*of, *of, 0, n, 2 * n, n, 0, 0);
-             }),
+             BBIBltVBlurLoop(looped, half, 0, 0, n, n, 0, 0, 12); four_times(cut); four_times(looped)),
         "Left: the window is cut at the ends, and the seams between four copies show. Right: it wraps "
         "round, and they are gone.");
   }

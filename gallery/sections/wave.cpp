@@ -88,12 +88,11 @@ void show_wave_blits(Gallery& page) {
             "White noise from the random generator, drawn for left and right apart.");
   page.play(
       "Exclusive-or", mixed, CALL(waveBltGluder(mixed, src, 0, 0, n, 3)),
-      "The voice against itself three frames later, bit by bit: still to be understood, and the same call "
-      "with the same source undoes it.");
+      "The voice against itself three frames later, bit by bit: a rattle, with peaks where signs differ.");
   page.play("… and back", dst,
             CALL(waveBlt(dst, src, 0, 0, n, 1); waveBltGluder(dst, src, 0, 0, n, 3);
                  waveBltGluder(dst, src, 0, 0, n, 3)),
-            "Twice is not at all.");
+            "Between 16-bit buffers the same call a second time undoes it.");
   page.play("Parts silenced", mixed,
             CALL(for (int i = 0; i < n; i += rate / 4) { waveClear64(mixed, i, rate / 8); }),
             "An eighth of a second out of every quarter.");

@@ -1,5 +1,6 @@
 // Operations on whole images.
 #include <algorithm>
+#include <cstdlib>
 
 #include "sections.hpp"
 
@@ -61,57 +62,58 @@ void show_keys(Gallery& page) {
             "The bright frame is drawn around the content that was found in the plain surface.");
 }
 
+namespace {
+
+struct Tile {
+  static constexpr int side = 16;
+  int x, y;
+  Picture of(const Picture& picture) const { return picture.cut(x, y, side, side); }
+};
+
+// From black at 0 over red and yellow to white at `most`.
+void heat(Picture& to, const Tile& tile, int value, int most) {
+  const int v = std::clamp(value * 765 / most, 0, 765);
+  const auto part = [v](int from) { return static_cast<uint32_t>(std::clamp(v - from, 0, 255)); };
+  BBIDrawColorFill(to, tile.x, tile.y, Tile::side, Tile::side, 0,
+                   0xFF000000 | part(0) << 16 | part(255) << 8 | part(510));
+}
+
+}  // namespace
+
 void show_comparisons(Gallery& page) {
   page.section(
       "Comparisons and colours",
-      "A photograph and what is left of it, compared tile by tile: each tile of the picture shows the "
-      "result of one call.");
-  constexpr int side = 16;
-  const Picture photo = page.photo(0).fitted(480, 360);
-  const int w = photo.width() / side * side, h = photo.height() / side * side;
-  const Picture original = photo.cut(0, 0, w, h);
-  Picture dst(w, h);
-  // A colour of heat from black over red and yellow to white.
-  const auto heat = [](int value, int most) {
-    const int v = std::clamp(value * 765 / most, 0, 765);
-    const auto part = [v](int from) { return static_cast<uint32_t>(std::clamp(v - from, 0, 255)); };
-    return 0xFF000000 | part(0) << 16 | part(255) << 8 | part(510);
-  };
-  // Every tile of the result in the colour of what `measure` says of both tiles.
-  const Picture* other = nullptr;
-  const auto tiles = [&](Picture& to, auto measure, int most) {
-    for (int y = 0; y < h; y += side)
-      for (int x = 0; x < w; x += side) {
-        const int value = measure(original.cut(x, y, side, side), other->cut(x, y, side, side));
-        BBIDrawColorFill(to, x, y, side, side, 0, heat(value, most));
-      }
-  };
-  Picture retouched = original;
+      "A photograph and what is left of it, compared tile by tile: the heat of a tile of 16 x 16 pixels "
+      "tells the result of one call.");
+  Picture photo = page.photo(0).fitted(480, 360);
+  const int w = photo.width() / Tile::side * Tile::side, h = photo.height() / Tile::side * Tile::side;
+  photo = photo.cut(0, 0, w, h);
+  std::vector<Tile> tiles;
+  for (int y = 0; y < h; y += Tile::side)
+    for (int x = 0; x < w; x += Tile::side) tiles.push_back({x, y});
+  Picture map(w, h), retouched = photo, reduced = photo;
   BBIDrawAlphaLine(retouched, Picture(2, 1, 0xFFFFFFFF), w / 5, h / 4, w * 4 / 5, h * 2 / 3);
-  other = &retouched;
   page.show(
-      "Which tiles differ", dst,
-      CALL(tiles(
-          dst, [](const Picture& a, const Picture& b) { return BBICompare(a, b, TESSARO_COMPARE_PIXELS); },
-          1)),
-      "A thin white line was drawn on a copy of the photograph: white tiles are those in which at least "
-      "one pixel differs.");
-  Picture reduced = original;
+      "Which tiles differ", map,
+      CALL(for (const Tile& t
+                : tiles) {
+        heat(map, t, BBICompare(t.of(photo), t.of(retouched), TESSARO_COMPARE_PIXELS), 1);
+      }),
+      "A thin white line was drawn on a copy of the photograph: white tiles are those in which at least one "
+      "pixel differs.");
   BBIColorCutDown4444(reduced);
-  other = &reduced;
   page.show(
-      "How many pixels differ, a little", dst,
-      CALL(tiles(
-          dst, [](const Picture& a, const Picture& b) { return BBICompareAny(a, b, 0x00FFFFFF, 8); },
-          side * side)),
+      "How many pixels differ, a little", map,
+      CALL(for (const Tile& t
+                : tiles) { heat(map, t, BBICompareAny(t.of(photo), t.of(reduced), 0x00FFFFFF, 8), 256); }),
       "Against the photograph dithered to four bits a channel: the brighter a tile, the more of its 256 "
-      "pixels differ, but not by much in every byte.");
-  page.show("How many colours", dst,
-            CALL(tiles(
-                dst, [](const Picture& a, const Picture&) { return BBIColorCount(a, 0); }, side * side)),
+      "pixels differ.");
+  page.show("How many colours", map,
+            CALL(for (const Tile& t
+                      : tiles) { heat(map, t, BBIColorCount(t.of(photo), 0), 256); }),
             "Different colours of each tile: white tiles have no colour twice, dark ones are flat.");
 
-  Picture indexed = original;
+  Picture indexed = photo;
   BBIClearMask(indexed, 0, 0, 0, 0, 0xFFC0C0C0);
   uint32_t palette[256];
   int32_t colours = 0;
