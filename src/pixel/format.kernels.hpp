@@ -352,7 +352,9 @@ TESSARO_INLINE void look_up_block(uint8_t* dst, const uint8_t* src, size_t n, co
   auto a = Apart<P>::template of<up>(load_pair<P>(src, n < pair ? n : pair));
   auto b = Apart<P>::template of<up>(load_pair<P>(src + 4 * pair, n < pair ? 0 : n - pair));
   if constexpr (saturates) {
-    const auto sum = [](P::Half c, P::Half grey) { return c + grey; };  // unpaired keeps within bytes
+    const auto sum = [](typename P::Half c, typename P::Half grey) {
+      return c + grey;
+    };  // unpaired keeps within bytes
     saturate.apart(a.blue, a.green, a.red, sum);
     saturate.apart(b.blue, b.green, b.red, sum);
   }
@@ -360,7 +362,7 @@ TESSARO_INLINE void look_up_block(uint8_t* dst, const uint8_t* src, size_t n, co
   const P green = look_up(curves.channel[1], unpaired(a.green, b.green));
   const P red = look_up(curves.channel[2], unpaired(a.red, b.red));
   const auto lower = paired(blue, green), reds = paired(red, P::splat(0));
-  const auto with_alpha = [&](P::Half r, P::Half alpha) {
+  const auto with_alpha = [&](typename P::Half r, typename P::Half alpha) {
     return choose_bits(P::splat(0xFF00FF00), whole(alpha * curves.weight + curves.behind_alpha), whole(r));
   };
   const Halfwords<P> first{whole(lower.first), with_alpha(reds.first, a.alpha)};
