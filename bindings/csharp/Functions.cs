@@ -1303,7 +1303,7 @@ namespace Tessaro
         /// at <c>(float)((sx + sw) / W)</c> across, down likewise with H. Column i of n visible ones lies at
         /// <c>u = (1 - f) * begin + f * end</c> with <c>f = i / (n - 1)</c>; rows likewise, but v is rounded to
         /// float. A weight
-        /// is <c>trunc(min(u, 1) * 256)</c>. With the weights wu and wv the pixel is
+        /// is <c>trunc(max(min(u, 1), 0) * 256)</c>. With the weights wu and wv the pixel is
         /// <c>mix(mix(top_left, bottom_left, wv), mix(top_right, bottom_right, wv), wu)</c>.
         ///
         /// Where one column (row) is visible, its weight is 0: it shows the left (top) colours, wherever it lies in
@@ -1895,10 +1895,12 @@ namespace Tessaro
         /// <remarks>
         /// The generator is the Mersenne Twister MT19937 of M. Matsumoto and T. Nishimura (1998) with the seeding
         /// of
-        /// its first published version, seeded from the clock when the library is loaded. It has one state for the
-        /// process and no lock: of two threads that draw at the same moment both may get the same number, and a
-        /// host
-        /// that minds locks for itself.
+        /// its revision of October 1999 (each word joins the high halves of two steps of <c>s = 69069 * s + 1</c>),
+        /// seeded
+        /// with the milliseconds since the system started when the library is loaded. It has one state for the
+        /// process
+        /// and no lock: of two threads that draw at the same moment both may get the same number, and a host that
+        /// minds locks for itself.
         /// </remarks>
         /// <param name="n">The limit, unsigned. 0 divides by zero and faults.</param>
         /// <returns>The next output modulo <c>n</c>; each call draws one, also with 1.</returns>
@@ -2704,8 +2706,8 @@ namespace Tessaro
         /// </summary>
         /// <remarks>
         /// At 255 and above it is <c>BBIBlt</c>, with <c>keyed</c> on <c>BBIBltKeying</c>. At 0 and below nothing
-        /// changes, and the
-        /// result is 0.
+        /// changes; the result
+        /// is 0, or 1 where clipping leaves nothing.
         /// </remarks>
         /// <param name="dst">The image that is changed.</param>
         /// <param name="src">The image that is read.</param>
@@ -3388,8 +3390,8 @@ namespace Tessaro
         /// quarter.</param>
         /// <param name="src">The image that is read.</param>
         /// <param name="mode">Which turn.</param>
-        /// <returns>0: Done; also, without anything done, for any other mode and for images without pixels whose
-        /// sizes fit. 1: The sizes do not fit.</returns>
+        /// <returns>0: Done; also, without anything done, for any other mode, whatever the sizes, and for images
+        /// without pixels whose sizes fit. 1: The sizes do not fit.</returns>
         public static int BBIRotation(Image dst, Image src, int mode)
         {
             Check.Image("dst", dst);
@@ -3861,9 +3863,11 @@ namespace Tessaro
         /// <param name="sw">The size of the rectangle in <c>src</c>.</param>
         /// <param name="sh">The size of the rectangle in <c>src</c>.</param>
         /// <param name="table">Weights of 0..256 by alpha, for example from BBIAlphaTableCreate. With larger ones
-        /// channels run over into their neighbours, since two go through one sum of 32 bits: <c>((x &amp;
-        /// 0x00FF00FF) * (256 - w) + (y &amp; 0x00FF00FF) * w) &gt;&gt; 8</c>. Read once, before the first pixel is
-        /// written. At least 256 words.</param>
+        /// channels run over into their neighbours: with <c>L = 0x00FF00FF</c> and sums modulo 2^32, mixing
+        /// <c>d</c> and <c>s</c> gives <c>((d &amp; L) * (256 - w) + (s &amp; L) * w) &gt;&gt; 8 &amp; L | ((d
+        /// &gt;&gt; 8 &amp; L) * (256 - w) + (s &gt;&gt; 8 &amp; L) * w) &amp; ~L</c>, the tint likewise, and
+        /// adding the saturated sum of <c>d</c> and that with <c>d</c> and <c>256 - w</c> left out. Read once,
+        /// before the first pixel is written. At least 256 words.</param>
         /// <param name="mode">What becomes of the sample.</param>
         /// <param name="smooth">Interpolate; off: always the nearest sample.</param>
         /// <param name="tint">The colour of the tint.</param>
@@ -4814,9 +4818,10 @@ namespace Tessaro
         /// increment</c> (the old
         /// one), <c>modulation += rate</c>, <c>increment += sin(modulation) * depth</c> (the new modulation). The
         /// three are kept
-        /// in single precision; sines, and the sum that becomes the increment, are formed in double. Every call
-        /// begins
-        /// anew. From a far negative position the tone is worked through.
+        /// in single precision; sines, the product <c>sin(phase) * amplitude * 32768</c> and the sum that becomes
+        /// the
+        /// increment are formed in double. Every call begins anew. From a far negative position the tone is worked
+        /// through.
         /// </remarks>
         /// <param name="dst">The buffer that is written.</param>
         /// <param name="src">The buffer that is read.</param>
@@ -5032,7 +5037,9 @@ namespace Tessaro
         /// count</c>, by
         /// repeated addition, and truncated. Where a loud block follows, the first products may not fit and then
         /// wrap;
-        /// beyond 32 bits they count as -2^31.
+        /// beyond 32 bits, and where the gain is not a number, they count as -2^31. A gain that is not a number
+        /// stays
+        /// so.
         /// </remarks>
         /// <param name="buffer">The sound.</param>
         /// <param name="look_position">The first frame whose loudness is looked at. A host keeps it a block or more
@@ -5085,8 +5092,9 @@ namespace Tessaro
         /// | 3.99 | 0.125 |
         /// | 7.99 | 0 |
         ///
-        /// The gain moves over the block as in <c>waveEffectMaximizer24</c>, from <c>old state + 16</c> to <c>new
-        /// state + 16</c>.
+        /// A state that is not a number stays so; samples that are not a number do not count in the peak. The gain
+        /// moves over the block as in <c>waveEffectMaximizer24</c>, from <c>old state + 16</c> to <c>new state +
+        /// 16</c>.
         /// </remarks>
         /// <param name="dst">The buffer that is written.</param>
         /// <param name="src">The buffer that is read.</param>
@@ -5124,8 +5132,9 @@ namespace Tessaro
         /// 2. ring frame <c>r</c> is cleared;
         /// 3. with <c>e = (left + right) * (level * 0.5)</c> of the frame as it was read, unless that is 0 or not a
         /// number:
-        ///    from <c>x = r + predelay</c>, for each tap, with <c>i = trunc(x)</c> and <c>f = x - i</c>, ring frame
-        /// <c>i</c> receives <c>(1
+        ///    from <c>x = r + predelay</c>, for each tap, with <c>i = trunc(x)</c> in 64 bits (-2^63 for what does
+        /// not fit or is
+        ///    not a number) and <c>f = x - i</c>, ring frame <c>i</c> receives <c>(1
         /// - f) * e * gain</c> and ring frame <c>i + 1</c> receives <c>f * e * gain</c> of each channel's gain;
         /// then <c>x += spread *
         ///   distance</c>;
@@ -5135,7 +5144,7 @@ namespace Tessaro
         /// less than 200 frames never. Calls that pass on the ring and both positions make one continuous reverb.
         /// Frames outside the buffer are silence, and only clear the ring.
         /// </remarks>
-        /// <param name="buffer">The sound. A buffer of 0 frames is refused.</param>
+        /// <param name="buffer">The sound. A count of 0 is refused; a negative one is silence.</param>
         /// <param name="frame_position">The first frame; advanced by <c>count</c>.</param>
         /// <param name="ring">A 64-bit buffer of at least 524288 frames by its count, whatever its channels used as
         /// 524288 frames of two doubles: its data must be 8 MiB, cleared by the host before the first call. Its
@@ -5150,8 +5159,8 @@ namespace Tessaro
         /// <param name="taps">How many echoes a frame has; limited to this range.</param>
         /// <param name="tap_table">10000 left gains, 10000 right gains, 10000 distances from a tap to the next in
         /// frames; the first <c>taps</c> of each are read. At least 30000 doubles.</param>
-        /// <returns>0: Done. 1: The count is below 1; the buffer is invalid or has 0 frames; the ring is invalid,
-        /// has fewer frames or other bits; or there is no memory for the distances of the taps, 8 bytes
+        /// <returns>0: Done. 1: The count is below 1; the buffer is invalid or has a count of 0; the ring is
+        /// invalid, has fewer frames or other bits; or there is no memory for the distances of the taps, 8 bytes
         /// each.</returns>
         public static int waveEffectReverbA1(Sound buffer, ref int frame_position, Sound ring, ref int ring_position, int count, double level, int predelay, int spread, int taps, ReadOnlySpan<double> tap_table)
         {
@@ -5200,7 +5209,8 @@ namespace Tessaro
         /// <c>im[k]</c> becomes <c>atan2(re, im)</c>, in radians from the imaginary axis.
         /// </summary>
         /// <remarks>
-        /// The arrays are converted whatever the result, if <c>n</c> is at least 1: what they hold must be defined.
+        /// The arctangent is within one unit in the last place of the exact one, and the same on every target. The
+        /// arrays are converted whatever the result, if <c>n</c> is at least 1: what they hold must be defined.
         /// </remarks>
         /// <param name="buffer">The sound.</param>
         /// <param name="start">The first frame.</param>

@@ -807,7 +807,7 @@ function BBIDrawColorTile(image: PImageRecord; x, y, cx, cy: Integer; mask: Card
 // With (sx, sy, sw, sh) the clipped source rectangle, the visible part begins at `(float)(sx / W)` and ends
 // at `(float)((sx + sw) / W)` across, down likewise with H. Column i of n visible ones lies at
 // `u = (1 - f) * begin + f * end` with `f = i / (n - 1)`; rows likewise, but v is rounded to float. A weight
-// is `trunc(min(u, 1) * 256)`. With the weights wu and wv the pixel is
+// is `trunc(max(min(u, 1), 0) * 256)`. With the weights wu and wv the pixel is
 // `mix(mix(top_left, bottom_left, wv), mix(top_right, bottom_right, wv), wu)`.
 //
 // Where one column (row) is visible, its weight is 0: it shows the left (top) colours, wherever it lies in
@@ -1146,9 +1146,10 @@ function StdCallBack(fn: TessaroCallback2; a, b: NativeInt): NativeInt;
 // Draws a random number below a limit.
 //
 // The generator is the Mersenne Twister MT19937 of M. Matsumoto and T. Nishimura (1998) with the seeding of
-// its first published version, seeded from the clock when the library is loaded. It has one state for the
-// process and no lock: of two threads that draw at the same moment both may get the same number, and a host
-// that minds locks for itself.
+// its revision of October 1999 (each word joins the high halves of two steps of `s = 69069 * s + 1`), seeded
+// with the milliseconds since the system started when the library is loaded. It has one state for the process
+// and no lock: of two threads that draw at the same moment both may get the same number, and a host that
+// minds locks for itself.
 //   n: The limit, unsigned. 0 divides by zero and faults.
 //   Result The next output modulo `n`; each call draws one, also with 1.
 function GetRandom(n: Cardinal): Cardinal;
@@ -1632,8 +1633,8 @@ function BBIBltKeying(dst, src: PImageRecord; dx, dy, cx, cy, sx, sy: Integer): 
 
 // Cross-fades: a mix with the weight `level`, of all pixels or of all but those that equal a key.
 //
-// At 255 and above it is `BBIBlt`, with `keyed` on `BBIBltKeying`. At 0 and below nothing changes, and the
-// result is 0.
+// At 255 and above it is `BBIBlt`, with `keyed` on `BBIBltKeying`. At 0 and below nothing changes; the result
+// is 0, or 1 where clipping leaves nothing.
 //   dst: The image that is changed.
 //   src: The image that is read.
 //   dx: Left column and top row of the rectangle in `dst`.
@@ -1989,8 +1990,8 @@ function BBIVMirror(image: PImageRecord): Integer;
 //   dst: The turned image, of the size of `src`, with width and height exchanged for a quarter.
 //   src: The image that is read.
 //   mode: Which turn.
-//   Result 0: Done; also, without anything done, for any other mode and for images without pixels whose sizes
-//     fit.
+//   Result 0: Done; also, without anything done, for any other mode, whatever the sizes, and for images without
+//     pixels whose sizes fit.
 //   Result 1: The sizes do not fit.
 function BBIRotation(dst, src: PImageRecord; mode: Integer): Integer;
   {$IFDEF WIN32} stdcall {$ELSE} cdecl {$ENDIF}; external TessaroLibrary name 'BBIRotation';
@@ -2289,8 +2290,10 @@ function BBILinearBlt(dst, src: PImageRecord; dx, dy, dw, dh, sx, sy, sw, sh: In
 //   sw: The size of the rectangle in `src`.
 //   sh: The size of the rectangle in `src`.
 //   table: Weights of 0..256 by alpha, for example from BBIAlphaTableCreate. With larger ones channels run over
-//     into their neighbours, since two go through one sum of 32 bits: `((x & 0x00FF00FF) * (256 - w) + (y &
-//     0x00FF00FF) * w) >> 8`. Read once, before the first pixel is written. At least 256 words.
+//     into their neighbours: with `L = 0x00FF00FF` and sums modulo 2^32, mixing `d` and `s` gives `((d & L) * (256
+//     - w) + (s & L) * w) >> 8 & L | ((d >> 8 & L) * (256 - w) + (s >> 8 & L) * w) & ~L`, the tint likewise, and
+//     adding the saturated sum of `d` and that with `d` and `256 - w` left out. Read once, before the first pixel
+//     is written. At least 256 words.
 //   mode: What becomes of the sample.
 //   smooth: Interpolate; off: always the nearest sample.
 //   tint: The colour of the tint.
@@ -2864,8 +2867,9 @@ function waveBltAddNoise(dst, src: PWaveBuffer; dst_start, src_start, count: Int
 //
 // From `phase = modulation = 0` and `increment = frequency`, after every frame: `phase += increment` (the old
 // one), `modulation += rate`, `increment += sin(modulation) * depth` (the new modulation). The three are kept
-// in single precision; sines, and the sum that becomes the increment, are formed in double. Every call begins
-// anew. From a far negative position the tone is worked through.
+// in single precision; sines, the product `sin(phase) * amplitude * 32768` and the sum that becomes the
+// increment are formed in double. Every call begins anew. From a far negative position the tone is worked
+// through.
 //   dst: The buffer that is written.
 //   src: The buffer that is read.
 //   dst_start: The first frame written; may be negative or past the end.
@@ -2981,7 +2985,8 @@ function waveExpand(dst, src: PWaveBuffer; ratio: Single): Integer;
 // 1 with bit 22 (the highest that is set decides). The gain thus grows once a call. Frames at the write
 // position are multiplied by `old, old + step, old + 2 * step, ...` with `step = (new - old) / count`, by
 // repeated addition, and truncated. Where a loud block follows, the first products may not fit and then wrap;
-// beyond 32 bits they count as -2^31.
+// beyond 32 bits, and where the gain is not a number, they count as -2^31. A gain that is not a number stays
+// so.
 //   buffer: The sound.
 //   look_position: The first frame whose loudness is looked at. A host keeps it a block or more ahead of the
 //     write position. At least 1 words.
@@ -3019,7 +3024,8 @@ function waveEffectMaximizer24(buffer: PWaveBuffer; look_position, write_positio
 // | 3.99 | 0.125 |
 // | 7.99 | 0 |
 //
-// The gain moves over the block as in `waveEffectMaximizer24`, from `old state + 16` to `new state + 16`.
+// A state that is not a number stays so; samples that are not a number do not count in the peak. The gain
+// moves over the block as in `waveEffectMaximizer24`, from `old state + 16` to `new state + 16`.
 //   dst: The buffer that is written.
 //   src: The buffer that is read.
 //   look_position: The first frame whose loudness is looked at. A host keeps it a block or more ahead of the
@@ -3040,7 +3046,8 @@ function waveEffectMaximizer64(dst, src: PWaveBuffer; look_position, write_posit
 // 1. ring frame `r + 199`, times 0.005, is added to the frame, which is written clamped;
 // 2. ring frame `r` is cleared;
 // 3. with `e = (left + right) * (level * 0.5)` of the frame as it was read, unless that is 0 or not a number:
-//    from `x = r + predelay`, for each tap, with `i = trunc(x)` and `f = x - i`, ring frame `i` receives `(1
+//    from `x = r + predelay`, for each tap, with `i = trunc(x)` in 64 bits (-2^63 for what does not fit or is
+//    not a number) and `f = x - i`, ring frame `i` receives `(1
 // - f) * e * gain` and ring frame `i + 1` receives `f * e * gain` of each channel's gain; then `x += spread *
 //   distance`;
 // 4. both positions advance by one.
@@ -3048,7 +3055,7 @@ function waveEffectMaximizer64(dst, src: PWaveBuffer; look_position, write_posit
 // Ring frames are taken modulo 524288. So an echo is heard 199 frames before its delay is over, and one of
 // less than 200 frames never. Calls that pass on the ring and both positions make one continuous reverb.
 // Frames outside the buffer are silence, and only clear the ring.
-//   buffer: The sound. A buffer of 0 frames is refused.
+//   buffer: The sound. A count of 0 is refused; a negative one is silence.
 //   frame_position: The first frame; advanced by `count`. At least 1 words.
 //   ring: A 64-bit buffer of at least 524288 frames by its count, whatever its channels used as 524288 frames of
 //     two doubles: its data must be 8 MiB, cleared by the host before the first call. Its format and count may say
@@ -3062,8 +3069,8 @@ function waveEffectMaximizer64(dst, src: PWaveBuffer; look_position, write_posit
 //   tap_table: 10000 left gains, 10000 right gains, 10000 distances from a tap to the next in frames; the first
 //     `taps` of each are read. At least 30000 doubles.
 //   Result 0: Done.
-//   Result 1: The count is below 1; the buffer is invalid or has 0 frames; the ring is invalid, has fewer frames
-//     or other bits; or there is no memory for the distances of the taps, 8 bytes each.
+//   Result 1: The count is below 1; the buffer is invalid or has a count of 0; the ring is invalid, has fewer
+//     frames or other bits; or there is no memory for the distances of the taps, 8 bytes each.
 function waveEffectReverbA1(buffer: PWaveBuffer; frame_position: PInteger; ring: PWaveBuffer; ring_position: PInteger; count: Integer; level: Double; predelay, spread, taps: Integer; tap_table: PDouble): Integer;
   {$IFDEF WIN32} stdcall {$ELSE} cdecl {$ENDIF}; external TessaroLibrary name 'waveEffectReverbA1';
 
@@ -3083,7 +3090,8 @@ function wavefft(buffer: PWaveBuffer; start, n: Integer; re, im: PDouble): Integ
 // Magnitude and angle: after `wavefft`, `re[k]` becomes `sqrt(re * re + im * im)` and `im[k]` becomes `atan2(re,
 // im)`, in radians from the imaginary axis.
 //
-// The arrays are converted whatever the result, if `n` is at least 1: what they hold must be defined.
+// The arctangent is within one unit in the last place of the exact one, and the same on every target. The
+// arrays are converted whatever the result, if `n` is at least 1: what they hold must be defined.
 //   buffer: The sound.
 //   start: The first frame.
 //   n: The length of the run and of both arrays.

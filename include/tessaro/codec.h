@@ -471,10 +471,11 @@ TESSARO_API int32_t TESSARO_CALL c2fDecoder(const void* stream, void* destinatio
  * @brief Decode a picture file that lies in memory.
  *
  * Windows loads it with the OLE picture loader and knows what that knows. Elsewhere JPEG, PNG, GIF (the first
- * image) and bitmap files (1 to 32 bits, those of 4 and 8 bits also run-length coded) are known, up to 32767
- * pixels an edge and 512 MiB of pixels, in a PNG file together with its samples; JPEG, PNG and GIF files only
- * where `libtessaro-pictures.so.0` lies beside the library. Rows that a damaged file does not give are not
- * drawn; pixels that a run-length coded bitmap skips are black.
+ * image) and bitmap files (1, 4, 8, 16, 24 or 32 bits, those of 4 and 8 bits also run-length coded) are
+ * known, up to 32767 pixels an edge and 512 MiB of pixels, in a PNG file together with its samples; JPEG, PNG
+ * and GIF files only where `libtessaro-pictures.so.0` lies beside the library. Rows that a damaged file does
+ * not give are not drawn; pixels that a run-length coded bitmap skips are black. A sample of `n` bits becomes
+ * the byte `(v * 255 + max / 2) / max` with `max = 2^n - 1`; 16-bit bitmaps without masks are 555.
  *
  * @param[in] file [size bytes] The file as it lies on disk.
  * @param size [bytes, 64..8388608, trusted] Its size.

@@ -121,7 +121,8 @@ TESSARO_API int32_t TESSARO_CALL BBIDrawAlphaLine(ImageRecord* image, const Imag
  * The box is clipped as the destination rectangle of a stretched blit (transform.h) whose source rectangle is
  * all of an image of this one's width W and height H. So 1 is returned not only when nothing is visible, but
  * also when the clipped source rectangle loses its width or its height: where about `visible width * W < cx`,
- * heights alike. Of the box (-1000, -1000, 2000, 2000) a 16 x 16 image shows nothing.
+ * heights alike. Of the box (-1000, -1000, 2000, 2000) a 16 x 16 image shows nothing. Only 0 counts as lost:
+ * a box that is cut at the top and hundreds of millions of rows high may leave a height of -1, and is drawn.
  *
  * @param x, y [pixels] The upper left corner.
  * @param cx, cy [pixels] The size.
@@ -158,7 +159,7 @@ TESSARO_API int32_t TESSARO_CALL BBIDrawColorTile(ImageRecord* image, int32_t x,
  * With (sx, sy, sw, sh) the clipped source rectangle, the visible part begins at `(float)(sx / W)` and ends
  * at `(float)((sx + sw) / W)` across, down likewise with H. Column i of n visible ones lies at
  * `u = (1 - f) * begin + f * end` with `f = i / (n - 1)`; rows likewise, but v is rounded to float. A weight
- * is `trunc(min(u, 1) * 256)`. With the weights wu and wv the pixel is
+ * is `trunc(max(min(u, 1), 0) * 256)`. With the weights wu and wv the pixel is
  * `mix(mix(top_left, bottom_left, wv), mix(top_right, bottom_right, wv), wu)`.
  *
  * Where one column (row) is visible, its weight is 0: it shows the left (top) colours, wherever it lies in

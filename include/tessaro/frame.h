@@ -244,9 +244,10 @@ TESSARO_API intptr_t TESSARO_CALL StdCallBack(TessaroCallback2 fn, intptr_t a, i
  * Draws a random number below a limit.
  *
  * The generator is the Mersenne Twister MT19937 of M. Matsumoto and T. Nishimura (1998) with the seeding of
- * its first published version, seeded from the clock when the library is loaded. It has one state for the
- * process and no lock: of two threads that draw at the same moment both may get the same number, and a host
- * that minds locks for itself.
+ * its revision of October 1999 (each word joins the high halves of two steps of `s = 69069 * s + 1`), seeded
+ * with the milliseconds since the system started when the library is loaded. It has one state for the process
+ * and no lock: of two threads that draw at the same moment both may get the same number, and a host that
+ * minds locks for itself.
  *
  * @param n [count, 1.., trusted] The limit, unsigned. 0 divides by zero and faults.
  * @return [value, 0..n - 1] The next output modulo `n`; each call draws one, also with 1.

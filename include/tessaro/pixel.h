@@ -135,8 +135,8 @@ TESSARO_API int32_t TESSARO_CALL BBIBltKeying(ImageRecord* dst, const ImageRecor
 /**
  * Cross-fades: a mix with the weight `level`, of all pixels or of all but those that equal a key.
  *
- * At 255 and above it is `BBIBlt`, with `keyed` on `BBIBltKeying`. At 0 and below nothing changes, and the
- * result is 0.
+ * At 255 and above it is `BBIBlt`, with `keyed` on `BBIBltKeying`. At 0 and below nothing changes; the result
+ * is 0, or 1 where clipping leaves nothing.
  *
  * @param keyed [flag] Whether pixels that equal the key of `BBIBltKeying` are left out.
  * @param level [level, 0..255] How much of the source.
@@ -503,8 +503,8 @@ enum TessaroTurn {
  *   quarter.
  * @param[in] src [image] The image that is read.
  * @param mode [one of TessaroTurn] Which turn.
- * @retval 0 Done; also, without anything done, for any other mode and for images without pixels whose sizes
- *   fit.
+ * @retval 0 Done; also, without anything done, for any other mode, whatever the sizes, and for images without
+ *   pixels whose sizes fit.
  * @retval 1 [untouched] The sizes do not fit.
  */
 TESSARO_API int32_t TESSARO_CALL BBIRotation(ImageRecord* dst, const ImageRecord* src, int32_t mode);

@@ -13,9 +13,9 @@
  * are. Flags are on when they are not 0.
  *
  * **Numbers.** Integers are exact, however large the sums become, where a description does not say that they
- * wrap. `trunc` drops what lies behind the point, toward zero, and gives -2147483648 for what does not fit in
- * 32 bits and for what is not a number. `/` between integers drops the remainder, `>>` rounds down. Where the
- * precision of a product shows, the text names it.
+ * wrap. `trunc` drops what lies behind the point, toward zero, and gives, unless told otherwise, -2147483648
+ * for what does not fit in 32 bits and for what is not a number. `/` between integers drops the remainder,
+ * `>>` rounds down. Where the precision of a product shows, the text names it.
  *
  * **Results.** Unless a description says otherwise a function returns a status: 0 = done, 1 = nothing done
  * because an argument was unusable or clipping left nothing.

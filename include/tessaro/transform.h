@@ -192,9 +192,10 @@ enum TessaroRender {
  * Brings each sample into d by a table of weights and a mode.
  *
  * @param[in] table [256 words] Weights of 0..256 by alpha, for example from BBIAlphaTableCreate. With larger
- *     ones channels run over into their neighbours, since two go through one sum of 32 bits:
- *     `((x & 0x00FF00FF) * (256 - w) + (y & 0x00FF00FF) * w) >> 8`. Read once, before the first pixel is
- *     written.
+ *   ones channels run over into their neighbours: with `L = 0x00FF00FF` and sums modulo 2^32, mixing `d` and
+ *   `s` gives `((d & L) * (256 - w) + (s & L) * w) >> 8 & L | ((d >> 8 & L) * (256 - w) + (s >> 8 & L) * w) &
+ *   ~L`, the tint likewise, and adding the saturated sum of `d` and that with `d` and `256 - w` left out.
+ *   Read once, before the first pixel is written.
  * @param mode [one of TessaroRender] What becomes of the sample.
  * @param smooth [flag] Interpolate; off: always the nearest sample.
  * @param tint [colour] The colour of the tint.

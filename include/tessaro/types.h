@@ -40,7 +40,9 @@ extern "C" {
  * The pixel at column x, row y is the 32-bit word 0xAARRGGBB at `record + pixel_offset + y * pitch + 4 * x`;
  * in memory that is the bytes blue, green, red, alpha. Row 0 is the top one. Neither record, dimensions nor
  * pixels need any alignment. The record must be consistent: the `4 * width` bytes of each row belong to the
- * host. An image whose width or height is below 1 has no pixels.
+ * host. An image whose width or height is below 1 has no pixels. Rows should not share memory (a pitch
+ * shorter than a row): what `BBIMirror`, `BBIVMirror`, `BBIPaint` and `BBIPaintChoose` then make of the
+ * pixels is undefined.
  */
 typedef struct ImageRecord {
   int16_t dims_offset;  /**< Bytes from the start of the record to its ImageDims. */

@@ -28,9 +28,10 @@
  * integers read a little below -1.
  *
  * **Mono.** A mono frame is read as two equal channels. Written to one, both values are first brought to the
- * stored width as in the table (8-bit ones as bytes with the 128 in them); the mean of the two is `(l + r) /
- * 2`, truncated toward zero, and its low bits are stored. Only at the 16-bit scale into 24 bits is the mean
- * taken before the shift. Integer sums wrap in 32 bits; doubles are `(l + r) * 0.5`.
+ * stored width as in the table (8-bit ones as bytes with the 128 in them); the mean of the two, before high
+ * bits are dropped, is `(l + r) / 2`, truncated toward zero, and its low bits are stored. Only at the 16-bit
+ * scale into 24 bits is the mean taken before the shift. Integer sums wrap in 32 bits; doubles are `(l + r) *
+ * 0.5`.
  *
  * **Places.** Positions are frames, any 32-bit integer: frames outside a buffer read as silence, and writing
  * them does nothing. Functions go frame after frame in increasing order, each read before it is written.
@@ -187,8 +188,7 @@ TESSARO_API int32_t TESSARO_CALL waveFormat(const WaveBuffer* dst, const WaveBuf
  *
  * For `i = 0..count - 1`, `s` is frame `src_start + i` of `src`, `d` is frame `dst_start + i` of `dst`, and
  * the result is written to the latter, each channel for itself. Results saturate to the range of their scale
- * unless said otherwise. `trunc` drops the fraction. Products with a `float` parameter are formed in single
- * precision before they are truncated.
+ * unless said otherwise. `trunc` drops the fraction.
  *
  * @param[in,out] dst [sound] The buffer that is written.
  * @param[in] src [sound] The buffer that is read.
@@ -249,8 +249,9 @@ TESSARO_API int32_t TESSARO_CALL waveBltAddNoise(const WaveBuffer* dst, const Wa
  *
  * From `phase = modulation = 0` and `increment = frequency`, after every frame: `phase += increment` (the old
  * one), `modulation += rate`, `increment += sin(modulation) * depth` (the new modulation). The three are kept
- * in single precision; sines, and the sum that becomes the increment, are formed in double. Every call begins
- * anew. From a far negative position the tone is worked through.
+ * in single precision; sines, the product `sin(phase) * amplitude * 32768` and the sum that becomes the
+ * increment are formed in double. Every call begins anew. From a far negative position the tone is worked
+ * through.
  *
  * @param amplitude [factor, -1..1] Limited to this range; not a number counts as -1.
  * @param frequency [radians] The first increment: radians a frame, not hertz. `2 * pi * hertz /
@@ -356,7 +357,8 @@ TESSARO_API int32_t TESSARO_CALL waveExpand(const WaveBuffer* dst, const WaveBuf
  * 1 with bit 22 (the highest that is set decides). The gain thus grows once a call. Frames at the write
  * position are multiplied by `old, old + step, old + 2 * step, ...` with `step = (new - old) / count`, by
  * repeated addition, and truncated. Where a loud block follows, the first products may not fit and then wrap;
- * beyond 32 bits they count as -2^31.
+ * beyond 32 bits, and where the gain is not a number, they count as -2^31. A gain that is not a number stays
+ * so.
  *
  * @param[in,out] buffer [sound] The sound.
  * @param growth [factor, 1.0001..1.7] Limited to this range; not a number counts as 1.0001.
@@ -391,7 +393,8 @@ TESSARO_API int32_t TESSARO_CALL waveEffectMaximizer24(const WaveBuffer* buffer,
  * | 3.99 | 0.125 |
  * | 7.99 | 0 |
  *
- * The gain moves over the block as in `waveEffectMaximizer24`, from `old state + 16` to `new state + 16`.
+ * A state that is not a number stays so; samples that are not a number do not count in the peak. The gain
+ * moves over the block as in `waveEffectMaximizer24`, from `old state + 16` to `new state + 16`.
  *
  * @param[in,out] dst [sound] The buffer that is written.
  * @param[in] src [sound] The buffer that is read.
@@ -411,7 +414,8 @@ TESSARO_API int32_t TESSARO_CALL waveEffectMaximizer64(const WaveBuffer* dst, co
  * 1. ring frame `r + 199`, times 0.005, is added to the frame, which is written clamped;
  * 2. ring frame `r` is cleared;
  * 3. with `e = (left + right) * (level * 0.5)` of the frame as it was read, unless that is 0 or not a number:
- *    from `x = r + predelay`, for each tap, with `i = trunc(x)` and `f = x - i`, ring frame `i` receives `(1
+ *    from `x = r + predelay`, for each tap, with `i = trunc(x)` in 64 bits (-2^63 for what does not fit or is
+ *    not a number) and `f = x - i`, ring frame `i` receives `(1
  * - f) * e * gain` and ring frame `i + 1` receives `f * e * gain` of each channel's gain; then `x += spread *
  *   distance`;
  * 4. both positions advance by one.
@@ -420,7 +424,7 @@ TESSARO_API int32_t TESSARO_CALL waveEffectMaximizer64(const WaveBuffer* dst, co
  * less than 200 frames never. Calls that pass on the ring and both positions make one continuous reverb.
  * Frames outside the buffer are silence, and only clear the ring.
  *
- * @param[in,out] buffer [sound] The sound. A buffer of 0 frames is refused.
+ * @param[in,out] buffer [sound] The sound. A count of 0 is refused; a negative one is silence.
  * @param[in,out] frame_position [1 words] The first frame; advanced by `count`.
  * @param[in,out] ring [sound, 8388608 bytes] A 64-bit buffer of at least 524288 frames by its count, whatever
  *   its channels used as 524288 frames of two doubles: its data must be 8 MiB, cleared by the host before the
@@ -435,8 +439,8 @@ TESSARO_API int32_t TESSARO_CALL waveEffectMaximizer64(const WaveBuffer* dst, co
  * @param[in] tap_table [30000 doubles] 10000 left gains, 10000 right gains, 10000 distances from a tap to the
  *   next in frames; the first `taps` of each are read.
  * @retval 0 Done.
- * @retval 1 [untouched] The count is below 1; the buffer is invalid or has 0 frames; the ring is invalid, has
- *   fewer frames or other bits; or there is no memory for the distances of the taps, 8 bytes each.
+ * @retval 1 [untouched] The count is below 1; the buffer is invalid or has a count of 0; the ring is invalid,
+ *   has fewer frames or other bits; or there is no memory for the distances of the taps, 8 bytes each.
  */
 TESSARO_API int32_t TESSARO_CALL waveEffectReverbA1(const WaveBuffer* buffer, int32_t* frame_position,
                                                     const WaveBuffer* ring, int32_t* ring_position,
@@ -452,8 +456,11 @@ TESSARO_API int32_t TESSARO_CALL waveEffectReverbA1(const WaveBuffer* buffer, in
  * `re[k]` and `im[k]` become bin `k` of the transform of left plus right (a mono frame counts twice) at the
  * float scale: the sum over `i` of `x[i] * exp(+2 * pi * I * i * k / n)`, the exponent positive, without a
  * window and not normalised. Method: radix-2 decimation in frequency, in place, then reordering by reversed
- * bits (Cooley and Tukey, Math. Comp. 19, 1965; Gentleman and Sande, AFIPS 29, 1966). `n` is meant to be a
- * power of two; others run through the same steps to no useful result.
+ * bits (Cooley and Tukey, Math. Comp. 19, 1965; Gentleman and Sande, AFIPS 29, 1966): for spans `m = n, n /
+ * 2, ...` with `k = m / 2` and an angle `t`, first `6.28318530717959 / n` (no misprint), then doubled with
+ * each span, the values `a` and `b` at a distance of `k`, the `j`-th pair of a span, become `a + b` and `(a -
+ * b) * (cos(j * t) + I * sin(j * t))`, the product as `re * c - im * s` and `re * s + im * c`, all in double
+ * precision. `n` is meant to be a power of two; others run through the same steps to no useful result.
  *
  * @param[in] buffer [sound] The sound.
  * @param start [frames] The first frame.
@@ -475,7 +482,8 @@ TESSARO_API int32_t TESSARO_CALL wavefft(const WaveBuffer* buffer, int32_t start
  * @brief Magnitude and angle: after `wavefft`, `re[k]` becomes `sqrt(re * re + im * im)` and `im[k]` becomes
  * `atan2(re, im)`, in radians from the imaginary axis.
  *
- * The arrays are converted whatever the result, if `n` is at least 1: what they hold must be defined.
+ * The arctangent is within one unit in the last place of the exact one, and the same on every target. The
+ * arrays are converted whatever the result, if `n` is at least 1: what they hold must be defined.
  *
  * @retval 0 Done.
  * @retval 1 The format is invalid; the arrays are converted all the same.

@@ -1270,7 +1270,7 @@ end
 --- With (sx, sy, sw, sh) the clipped source rectangle, the visible part begins at `(float)(sx / W)` and ends
 --- at `(float)((sx + sw) / W)` across, down likewise with H. Column i of n visible ones lies at
 --- `u = (1 - f) * begin + f * end` with `f = i / (n - 1)`; rows likewise, but v is rounded to float. A weight
---- is `trunc(min(u, 1) * 256)`. With the weights wu and wv the pixel is
+--- is `trunc(max(min(u, 1), 0) * 256)`. With the weights wu and wv the pixel is
 --- `mix(mix(top_left, bottom_left, wv), mix(top_right, bottom_right, wv), wu)`.
 ---
 --- Where one column (row) is visible, its weight is 0: it shows the left (top) colours, wherever it lies in
@@ -1742,9 +1742,11 @@ jit.off(functions.StdCallBack)  -- compiled code cannot be called back
 --- Draws a random number below a limit.
 ---
 --- The generator is the Mersenne Twister MT19937 of M. Matsumoto and T. Nishimura (1998) with the seeding of
---- its first published version, seeded from the clock when the library is loaded. It has one state for the
---- process and no lock: of two threads that draw at the same moment both may get the same number, and a host
---- that minds locks for itself.
+--- its revision of October 1999 (each word joins the high halves of two steps of `s = 69069 * s + 1`), seeded
+--- with the milliseconds since the system started when the library is loaded. It has one state for the
+--- process
+--- and no lock: of two threads that draw at the same moment both may get the same number, and a host that
+--- minds locks for itself.
 ---@param n integer The limit, unsigned. 0 divides by zero and faults.
 ---@return integer The next output modulo `n`; each call draws one, also with 1.
 function functions.GetRandom(n)
@@ -2520,8 +2522,9 @@ end
 
 --- Cross-fades: a mix with the weight `level`, of all pixels or of all but those that equal a key.
 ---
---- At 255 and above it is `BBIBlt`, with `keyed` on `BBIBltKeying`. At 0 and below nothing changes, and the
---- result is 0.
+--- At 255 and above it is `BBIBlt`, with `keyed` on `BBIBltKeying`. At 0 and below nothing changes; the
+--- result
+--- is 0, or 1 where clipping leaves nothing.
 ---@param dst tessaro.Image|tessaro.Buffer The image that is changed.
 ---@param src tessaro.Image|tessaro.Buffer The image that is read.
 ---@param dx integer Left column and top row of the rectangle in `dst`.
@@ -3083,8 +3086,8 @@ end
 ---  exchanged for a quarter.
 ---@param src tessaro.Image|tessaro.Buffer The image that is read.
 ---@param mode integer Which turn.
----@return integer 0: Done; also, without anything done, for any other mode and for images without pixels
----  whose sizes fit.
+---@return integer 0: Done; also, without anything done, for any other mode, whatever the sizes, and for
+---  images without pixels whose sizes fit.
 ---  1: The sizes do not fit.
 function functions.BBIRotation(dst, src, mode)
   return library.BBIRotation(
@@ -3522,9 +3525,10 @@ end
 ---@param sw integer The size of the rectangle in `src`.
 ---@param sh integer The size of the rectangle in `src`.
 ---@param table tessaro.Buffer Weights of 0..256 by alpha, for example from BBIAlphaTableCreate. With
----  larger ones channels run over into their neighbours, since two go through one sum of 32 bits: `((x &
----  0x00FF00FF) * (256 - w) + (y & 0x00FF00FF) * w) >> 8`. Read once, before the first pixel is written. At
----  least 256 words.
+---  larger ones channels run over into their neighbours: with `L = 0x00FF00FF` and sums modulo 2^32, mixing
+---  `d` and `s` gives `((d & L) * (256 - w) + (s & L) * w) >> 8 & L | ((d >> 8 & L) * (256 - w) + (s >> 8 & L)
+---  * w) & ~L`, the tint likewise, and adding the saturated sum of `d` and that with `d` and `256 - w` left
+---  out. Read once, before the first pixel is written. At least 256 words.
 ---@param mode integer What becomes of the sample.
 ---@param smooth integer Interpolate; off: always the nearest sample.
 ---@param tint integer The colour of the tint.
@@ -4399,9 +4403,9 @@ end
 --- old
 --- one), `modulation += rate`, `increment += sin(modulation) * depth` (the new modulation). The three are
 --- kept
---- in single precision; sines, and the sum that becomes the increment, are formed in double. Every call
---- begins
---- anew. From a far negative position the tone is worked through.
+--- in single precision; sines, the product `sin(phase) * amplitude * 32768` and the sum that becomes the
+--- increment are formed in double. Every call begins anew. From a far negative position the tone is worked
+--- through.
 ---@param dst tessaro.Sound The buffer that is written.
 ---@param src tessaro.Sound The buffer that is read.
 ---@param dst_start integer The first frame written; may be negative or past the end.
@@ -4574,7 +4578,8 @@ end
 --- position are multiplied by `old, old + step, old + 2 * step, ...` with `step = (new - old) / count`, by
 --- repeated addition, and truncated. Where a loud block follows, the first products may not fit and then
 --- wrap;
---- beyond 32 bits they count as -2^31.
+--- beyond 32 bits, and where the gain is not a number, they count as -2^31. A gain that is not a number stays
+--- so.
 ---@param buffer tessaro.Sound The sound.
 ---@param look_position tessaro.Buffer The first frame whose loudness is looked at. A host keeps it a
 ---  block or more ahead of the write position. At least 1 words.
@@ -4621,7 +4626,8 @@ end
 --- | 3.99 | 0.125 |
 --- | 7.99 | 0 |
 ---
---- The gain moves over the block as in `waveEffectMaximizer24`, from `old state + 16` to `new state + 16`.
+--- A state that is not a number stays so; samples that are not a number do not count in the peak. The gain
+--- moves over the block as in `waveEffectMaximizer24`, from `old state + 16` to `new state + 16`.
 ---@param dst tessaro.Sound The buffer that is written.
 ---@param src tessaro.Sound The buffer that is read.
 ---@param look_position tessaro.Buffer The first frame whose loudness is looked at. A host keeps it a
@@ -4653,7 +4659,9 @@ end
 --- 2. ring frame `r` is cleared;
 --- 3. with `e = (left + right) * (level * 0.5)` of the frame as it was read, unless that is 0 or not a
 --- number:
----    from `x = r + predelay`, for each tap, with `i = trunc(x)` and `f = x - i`, ring frame `i` receives `(1
+---    from `x = r + predelay`, for each tap, with `i = trunc(x)` in 64 bits (-2^63 for what does not fit or
+--- is
+---    not a number) and `f = x - i`, ring frame `i` receives `(1
 --- - f) * e * gain` and ring frame `i + 1` receives `f * e * gain` of each channel's gain; then `x += spread
 --- *
 ---   distance`;
@@ -4662,7 +4670,7 @@ end
 --- Ring frames are taken modulo 524288. So an echo is heard 199 frames before its delay is over, and one of
 --- less than 200 frames never. Calls that pass on the ring and both positions make one continuous reverb.
 --- Frames outside the buffer are silence, and only clear the ring.
----@param buffer tessaro.Sound The sound. A buffer of 0 frames is refused.
+---@param buffer tessaro.Sound The sound. A count of 0 is refused; a negative one is silence.
 ---@param frame_position tessaro.Buffer The first frame; advanced by `count`. At least 1 words.
 ---@param ring tessaro.Sound A 64-bit buffer of at least 524288 frames by its count, whatever its channels
 ---  used as 524288 frames of two doubles: its data must be 8 MiB, cleared by the host before the first call.
@@ -4677,8 +4685,8 @@ end
 ---@param tap_table tessaro.Buffer 10000 left gains, 10000 right gains, 10000 distances from a tap to the
 ---  next in frames; the first `taps` of each are read. At least 30000 doubles.
 ---@return integer 0: Done.
----  1: The count is below 1; the buffer is invalid or has 0 frames; the ring is invalid, has fewer frames
----  or other bits; or there is no memory for the distances of the taps, 8 bytes each.
+---  1: The count is below 1; the buffer is invalid or has a count of 0; the ring is invalid, has fewer
+---  frames or other bits; or there is no memory for the distances of the taps, 8 bytes each.
 function functions.waveEffectReverbA1(buffer, frame_position, ring, ring_position, count, level, predelay, spread, taps, tap_table)
   return library.waveEffectReverbA1(
     check.sound("buffer", buffer, 0),
@@ -4717,7 +4725,8 @@ end
 --- Magnitude and angle: after `wavefft`, `re[k]` becomes `sqrt(re * re + im * im)` and `im[k]` becomes
 --- `atan2(re, im)`, in radians from the imaginary axis.
 ---
---- The arrays are converted whatever the result, if `n` is at least 1: what they hold must be defined.
+--- The arctangent is within one unit in the last place of the exact one, and the same on every target. The
+--- arrays are converted whatever the result, if `n` is at least 1: what they hold must be defined.
 ---@param buffer tessaro.Sound The sound.
 ---@param start integer The first frame.
 ---@param n integer The length of the run and of both arrays.

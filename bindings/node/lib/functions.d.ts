@@ -783,7 +783,7 @@ export function BBIDrawColorTile(image: ImageLike, x: number, y: number, cx: num
  * With (sx, sy, sw, sh) the clipped source rectangle, the visible part begins at `(float)(sx / W)` and ends
  * at `(float)((sx + sw) / W)` across, down likewise with H. Column i of n visible ones lies at
  * `u = (1 - f) * begin + f * end` with `f = i / (n - 1)`; rows likewise, but v is rounded to float. A weight
- * is `trunc(min(u, 1) * 256)`. With the weights wu and wv the pixel is
+ * is `trunc(max(min(u, 1), 0) * 256)`. With the weights wu and wv the pixel is
  * `mix(mix(top_left, bottom_left, wv), mix(top_right, bottom_right, wv), wu)`.
  *
  * Where one column (row) is visible, its weight is 0: it shows the left (top) colours, wherever it lies in
@@ -1153,9 +1153,10 @@ export function StdCallBack(fn: TessaroCallback2, a: number, b: number): number;
  * Draws a random number below a limit.
  *
  * The generator is the Mersenne Twister MT19937 of M. Matsumoto and T. Nishimura (1998) with the seeding of
- * its first published version, seeded from the clock when the library is loaded. It has one state for the
- * process and no lock: of two threads that draw at the same moment both may get the same number, and a host
- * that minds locks for itself.
+ * its revision of October 1999 (each word joins the high halves of two steps of `s = 69069 * s + 1`), seeded
+ * with the milliseconds since the system started when the library is loaded. It has one state for the process
+ * and no lock: of two threads that draw at the same moment both may get the same number, and a host that
+ * minds locks for itself.
  * @param n The limit, unsigned. 0 divides by zero and faults.
  * @returns The next output modulo `n`; each call draws one, also with 1.
  */
@@ -1672,8 +1673,8 @@ export function BBIBltKeying(dst: ImageLike, src: ImageLike, dx: number, dy: num
 /**
  * Cross-fades: a mix with the weight `level`, of all pixels or of all but those that equal a key.
  *
- * At 255 and above it is `BBIBlt`, with `keyed` on `BBIBltKeying`. At 0 and below nothing changes, and the
- * result is 0.
+ * At 255 and above it is `BBIBlt`, with `keyed` on `BBIBltKeying`. At 0 and below nothing changes; the result
+ * is 0, or 1 where clipping leaves nothing.
  * @param dst The image that is changed.
  * @param src The image that is read.
  * @param dx Left column and top row of the rectangle in `dst`.
@@ -2062,8 +2063,8 @@ export function BBIVMirror(image: ImageLike): number;
  * @param dst The turned image, of the size of `src`, with width and height exchanged for a quarter.
  * @param src The image that is read.
  * @param mode Which turn.
- * @returns 0: Done; also, without anything done, for any other mode and for images without pixels whose sizes
- *   fit.
+ * @returns 0: Done; also, without anything done, for any other mode, whatever the sizes, and for images
+ *   without pixels whose sizes fit.
  *   1: The sizes do not fit.
  */
 export function BBIRotation(dst: ImageLike, src: ImageLike, mode: number): number;
@@ -2380,8 +2381,10 @@ export function BBILinearBlt(dst: ImageLike, src: ImageLike, dx: number, dy: num
  * @param sw The size of the rectangle in `src`.
  * @param sh The size of the rectangle in `src`.
  * @param table (at least 256 words) Weights of 0..256 by alpha, for example from BBIAlphaTableCreate. With
- *   larger ones channels run over into their neighbours, since two go through one sum of 32 bits: `((x &
- *   0x00FF00FF) * (256 - w) + (y & 0x00FF00FF) * w) >> 8`. Read once, before the first pixel is written.
+ *   larger ones channels run over into their neighbours: with `L = 0x00FF00FF` and sums modulo 2^32,
+ *   mixing `d` and `s` gives `((d & L) * (256 - w) + (s & L) * w) >> 8 & L | ((d >> 8 & L) * (256 - w) +
+ *   (s >> 8 & L) * w) & ~L`, the tint likewise, and adding the saturated sum of `d` and that with `d`
+ *   and `256 - w` left out. Read once, before the first pixel is written.
  * @param mode What becomes of the sample.
  * @param smooth Interpolate; off: always the nearest sample.
  * @param tint The colour of the tint.
@@ -2993,8 +2996,9 @@ export function waveBltAddNoise(dst: Sound, src: Sound, dst_start: number, src_s
  *
  * From `phase = modulation = 0` and `increment = frequency`, after every frame: `phase += increment` (the old
  * one), `modulation += rate`, `increment += sin(modulation) * depth` (the new modulation). The three are kept
- * in single precision; sines, and the sum that becomes the increment, are formed in double. Every call begins
- * anew. From a far negative position the tone is worked through.
+ * in single precision; sines, the product `sin(phase) * amplitude * 32768` and the sum that becomes the
+ * increment are formed in double. Every call begins anew. From a far negative position the tone is worked
+ * through.
  * @param dst The buffer that is written.
  * @param src The buffer that is read.
  * @param dst_start The first frame written; may be negative or past the end.
@@ -3119,7 +3123,8 @@ export function waveExpand(dst: Sound, src: Sound, ratio: number): number;
  * 1 with bit 22 (the highest that is set decides). The gain thus grows once a call. Frames at the write
  * position are multiplied by `old, old + step, old + 2 * step, ...` with `step = (new - old) / count`, by
  * repeated addition, and truncated. Where a loud block follows, the first products may not fit and then wrap;
- * beyond 32 bits they count as -2^31.
+ * beyond 32 bits, and where the gain is not a number, they count as -2^31. A gain that is not a number stays
+ * so.
  * @param buffer The sound.
  * @param look_position (at least 1 words) The first frame whose loudness is looked at. A host keeps it a
  *   block or more ahead of the write position.
@@ -3158,7 +3163,8 @@ export function waveEffectMaximizer24(buffer: Sound, look_position: Memory, writ
  * | 3.99 | 0.125 |
  * | 7.99 | 0 |
  *
- * The gain moves over the block as in `waveEffectMaximizer24`, from `old state + 16` to `new state + 16`.
+ * A state that is not a number stays so; samples that are not a number do not count in the peak. The gain
+ * moves over the block as in `waveEffectMaximizer24`, from `old state + 16` to `new state + 16`.
  * @param dst The buffer that is written.
  * @param src The buffer that is read.
  * @param look_position (at least 1 words) The first frame whose loudness is looked at. A host keeps it a
@@ -3180,7 +3186,8 @@ export function waveEffectMaximizer64(dst: Sound, src: Sound, look_position: Mem
  * 1. ring frame `r + 199`, times 0.005, is added to the frame, which is written clamped;
  * 2. ring frame `r` is cleared;
  * 3. with `e = (left + right) * (level * 0.5)` of the frame as it was read, unless that is 0 or not a number:
- *    from `x = r + predelay`, for each tap, with `i = trunc(x)` and `f = x - i`, ring frame `i` receives `(1
+ *    from `x = r + predelay`, for each tap, with `i = trunc(x)` in 64 bits (-2^63 for what does not fit or is
+ *    not a number) and `f = x - i`, ring frame `i` receives `(1
  * - f) * e * gain` and ring frame `i + 1` receives `f * e * gain` of each channel's gain; then `x += spread *
  *   distance`;
  * 4. both positions advance by one.
@@ -3188,7 +3195,7 @@ export function waveEffectMaximizer64(dst: Sound, src: Sound, look_position: Mem
  * Ring frames are taken modulo 524288. So an echo is heard 199 frames before its delay is over, and one of
  * less than 200 frames never. Calls that pass on the ring and both positions make one continuous reverb.
  * Frames outside the buffer are silence, and only clear the ring.
- * @param buffer The sound. A buffer of 0 frames is refused.
+ * @param buffer The sound. A count of 0 is refused; a negative one is silence.
  * @param frame_position (at least 1 words) The first frame; advanced by `count`.
  * @param ring A 64-bit buffer of at least 524288 frames by its count, whatever its channels used as 524288
  *   frames of two doubles: its data must be 8 MiB, cleared by the host before the first call. Its format
@@ -3203,7 +3210,7 @@ export function waveEffectMaximizer64(dst: Sound, src: Sound, look_position: Mem
  * @param tap_table (at least 30000 doubles) 10000 left gains, 10000 right gains, 10000 distances from a tap
  *   to the next in frames; the first `taps` of each are read.
  * @returns 0: Done.
- *   1: The count is below 1; the buffer is invalid or has 0 frames; the ring is invalid, has fewer
+ *   1: The count is below 1; the buffer is invalid or has a count of 0; the ring is invalid, has fewer
  *   frames or other bits; or there is no memory for the distances of the taps, 8 bytes each.
  */
 export function waveEffectReverbA1(buffer: Sound, frame_position: Memory, ring: Sound, ring_position: Memory, count: number, level: number, predelay: number, spread: number, taps: number, tap_table: Memory): number;
@@ -3226,7 +3233,8 @@ export function wavefft(buffer: Sound, start: number, n: number, re: Memory, im:
  * Magnitude and angle: after `wavefft`, `re[k]` becomes `sqrt(re * re + im * im)` and `im[k]` becomes
  * `atan2(re, im)`, in radians from the imaginary axis.
  *
- * The arrays are converted whatever the result, if `n` is at least 1: what they hold must be defined.
+ * The arctangent is within one unit in the last place of the exact one, and the same on every target. The
+ * arrays are converted whatever the result, if `n` is at least 1: what they hold must be defined.
  * @param buffer The sound.
  * @param start The first frame.
  * @param n The length of the run and of both arrays.

@@ -2017,7 +2017,7 @@ def BBIDrawBox(
     With (sx, sy, sw, sh) the clipped source rectangle, the visible part begins at `(float)(sx / W)` and ends
     at `(float)((sx + sw) / W)` across, down likewise with H. Column i of n visible ones lies at
     `u = (1 - f) * begin + f * end` with `f = i / (n - 1)`; rows likewise, but v is rounded to float. A weight
-    is `trunc(min(u, 1) * 256)`. With the weights wu and wv the pixel is
+    is `trunc(max(min(u, 1), 0) * 256)`. With the weights wu and wv the pixel is
     `mix(mix(top_left, bottom_left, wv), mix(top_right, bottom_right, wv), wu)`.
 
     Where one column (row) is visible, its weight is 0: it shows the left (top) colours, wherever it lies in
@@ -2976,9 +2976,10 @@ def GetRandom(n: int) -> int:
     """Draws a random number below a limit.
 
     The generator is the Mersenne Twister MT19937 of M. Matsumoto and T. Nishimura (1998) with the seeding of
-    its first published version, seeded from the clock when the library is loaded. It has one state for the
-    process and no lock: of two threads that draw at the same moment both may get the same number, and a host
-    that minds locks for itself.
+    its revision of October 1999 (each word joins the high halves of two steps of `s = 69069 * s + 1`), seeded
+    with the milliseconds since the system started when the library is loaded. It has one state for the process
+    and no lock: of two threads that draw at the same moment both may get the same number, and a host that
+    minds locks for itself.
 
     Parameters
     ----------
@@ -4446,8 +4447,8 @@ def BBIBltKeyingFX(
 ) -> int:
     """Cross-fades: a mix with the weight `level`, of all pixels or of all but those that equal a key.
 
-    At 255 and above it is `BBIBlt`, with `keyed` on `BBIBltKeying`. At 0 and below nothing changes, and the
-    result is 0.
+    At 255 and above it is `BBIBlt`, with `keyed` on `BBIBltKeying`. At 0 and below nothing changes; the result
+    is 0, or 1 where clipping leaves nothing.
 
     Parameters
     ----------
@@ -5553,8 +5554,8 @@ def BBIRotation(dst: WritableImage, src: AnyImage, mode: int) -> int:
     Returns
     -------
     int
-        0: Done; also, without anything done, for any other mode and for images without pixels whose sizes
-          fit.
+        0: Done; also, without anything done, for any other mode, whatever the sizes, and for images without
+          pixels whose sizes fit.
         1: The sizes do not fit.
     """
     return _BBIRotation(
@@ -6369,8 +6370,10 @@ def BBILinearRender(
         The size of the rectangle in `src`.
     table : buffer of 256 words
         Weights of 0..256 by alpha, for example from BBIAlphaTableCreate. With larger ones channels run over
-        into their neighbours, since two go through one sum of 32 bits: `((x & 0x00FF00FF) * (256 - w) + (y
-        & 0x00FF00FF) * w) >> 8`. Read once, before the first pixel is written.
+        into their neighbours: with `L = 0x00FF00FF` and sums modulo 2^32, mixing `d` and `s` gives `((d &
+        L) * (256 - w) + (s & L) * w) >> 8 & L | ((d >> 8 & L) * (256 - w) + (s >> 8 & L) * w) & ~L`, the
+        tint likewise, and adding the saturated sum of `d` and that with `d` and `256 - w` left out. Read
+        once, before the first pixel is written.
     mode : Render
         What becomes of the sample.
     smooth : int, flag
@@ -7977,8 +7980,9 @@ def waveBltSin(
 
     From `phase = modulation = 0` and `increment = frequency`, after every frame: `phase += increment` (the old
     one), `modulation += rate`, `increment += sin(modulation) * depth` (the new modulation). The three are kept
-    in single precision; sines, and the sum that becomes the increment, are formed in double. Every call begins
-    anew. From a far negative position the tone is worked through.
+    in single precision; sines, the product `sin(phase) * amplitude * 32768` and the sum that becomes the
+    increment are formed in double. Every call begins anew. From a far negative position the tone is worked
+    through.
 
     Parameters
     ----------
@@ -8296,7 +8300,8 @@ def waveEffectMaximizer24(
     1 with bit 22 (the highest that is set decides). The gain thus grows once a call. Frames at the write
     position are multiplied by `old, old + step, old + 2 * step, ...` with `step = (new - old) / count`, by
     repeated addition, and truncated. Where a loud block follows, the first products may not fit and then wrap;
-    beyond 32 bits they count as -2^31.
+    beyond 32 bits, and where the gain is not a number, they count as -2^31. A gain that is not a number stays
+    so.
 
     Parameters
     ----------
@@ -8366,7 +8371,8 @@ def waveEffectMaximizer64(
     | 3.99 | 0.125 |
     | 7.99 | 0 |
 
-    The gain moves over the block as in `waveEffectMaximizer24`, from `old state + 16` to `new state + 16`.
+    A state that is not a number stays so; samples that are not a number do not count in the peak. The gain
+    moves over the block as in `waveEffectMaximizer24`, from `old state + 16` to `new state + 16`.
 
     Parameters
     ----------
@@ -8422,7 +8428,8 @@ def waveEffectReverbA1(
     1. ring frame `r + 199`, times 0.005, is added to the frame, which is written clamped;
     2. ring frame `r` is cleared;
     3. with `e = (left + right) * (level * 0.5)` of the frame as it was read, unless that is 0 or not a number:
-       from `x = r + predelay`, for each tap, with `i = trunc(x)` and `f = x - i`, ring frame `i` receives `(1
+       from `x = r + predelay`, for each tap, with `i = trunc(x)` in 64 bits (-2^63 for what does not fit or is
+       not a number) and `f = x - i`, ring frame `i` receives `(1
     - f) * e * gain` and ring frame `i + 1` receives `f * e * gain` of each channel's gain; then `x += spread *
       distance`;
     4. both positions advance by one.
@@ -8434,7 +8441,7 @@ def waveEffectReverbA1(
     Parameters
     ----------
     buffer : sound, changed
-        The sound. A buffer of 0 frames is refused.
+        The sound. A count of 0 is refused; a negative one is silence.
     frame_position : buffer of 1 words, changed
         The first frame; advanced by `count`.
     ring : sound, 8388608 bytes of samples, changed
@@ -8461,7 +8468,7 @@ def waveEffectReverbA1(
     -------
     int
         0: Done.
-        1: The count is below 1; the buffer is invalid or has 0 frames; the ring is invalid, has fewer
+        1: The count is below 1; the buffer is invalid or has a count of 0; the ring is invalid, has fewer
           frames or other bits; or there is no memory for the distances of the taps, 8 bytes each.
     """
     return _waveEffectReverbA1(
@@ -8525,7 +8532,8 @@ _wavefft2 = _function("wavefft2", _i32, _pointer, _i32, _i32, _pointer, _pointer
 def wavefft2(buffer: AnySound, start: int, n: int, re: WritableBuffer, im: WritableBuffer) -> int:
     """Magnitude and angle: after `wavefft`, `re[k]` becomes `sqrt(re * re + im * im)` and `im[k]` becomes `atan2(re, im)`, in radians from the imaginary axis.
 
-    The arrays are converted whatever the result, if `n` is at least 1: what they hold must be defined.
+    The arctangent is within one unit in the last place of the exact one, and the same on every target. The
+    arrays are converted whatever the result, if `n` is at least 1: what they hold must be defined.
 
     Parameters
     ----------
