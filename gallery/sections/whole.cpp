@@ -91,7 +91,7 @@ void show_comparisons(Gallery& page) {
   std::vector<Tile> tiles;
   for (int y = 0; y < h; y += Tile::side)
     for (int x = 0; x < w; x += Tile::side) tiles.push_back({x, y});
-  Picture map(w, h), retouched = photo, reduced = photo;
+  Picture map(w, h), retouched = photo, blurred = photo;
   BBIDrawAlphaLine(retouched, Picture(2, 1, 0xFFFFFFFF), w / 5, h / 4, w * 4 / 5, h * 2 / 3);
   page.show(
       "Which tiles differ", map,
@@ -101,13 +101,14 @@ void show_comparisons(Gallery& page) {
       }),
       "A thin white line was drawn on a copy of the photograph: white tiles are those in which at least one "
       "pixel differs.");
-  BBIColorCutDown4444(reduced);
+  BBIBltUBlur(blurred, photo, 0, 0, w, h, 0, 0, 3);
   page.show(
-      "How many pixels differ, a little", map,
+      "How many pixels differ", map,
       CALL(for (const Tile& t
-                : tiles) { heat(map, t, BBICompareAny(t.of(photo), t.of(reduced), 0x00FFFFFF, 8), 256); }),
-      "Against the photograph dithered to four bits a channel: the brighter a tile, the more of its 256 "
-      "pixels differ.");
+                : tiles) { heat(map, t, BBICompareAny(t.of(photo), t.of(blurred), 0x00E0E0E0, 1), 256); }),
+      "Against a blurred copy, in the three top bits of each colour: black tiles are smooth, and the hottest "
+      "are "
+      "full of detail.");
   page.show("How many colours", map,
             CALL(for (const Tile& t
                       : tiles) { heat(map, t, BBIColorCount(t.of(photo), 0), 256); }),
@@ -123,12 +124,14 @@ void show_comparisons(Gallery& page) {
               BBIBltColor(swatches, i % 16 * 28, i / 16 * 28, 26, 26, 0, 0, palette[i] | 0xFF000000);
             }),
             "The colours of the photograph with two bits a channel, in the order in which they appear.");
-  Picture numbers(w, h);
-  BBIColorPalette(indexed, palette, 256);
+  std::vector<uint8_t> numbers(static_cast<size_t>(w * h));
   page.show(
-      "The numbers of its colours", numbers, CALL(BBIBltShiftAlpha(numbers, indexed, 0, 0, w, h, 0, 0)),
-      "BBIColorPalette leaves each pixel's colour number in its alpha, seen as grey here: a picture of one "
-      "byte a pixel.");
+      "A picture by numbers", map,
+      CALL(BBIColorPalette(indexed, palette, 256); BBIBltTo8AsAlpha(numbers.data(), indexed.pixels(), w * h);
+           BBIBltTo32from8(map, numbers.data() + (h - 1) * w, palette, -w)),
+      "BBIColorPalette leaves the number of each pixel's colour in its alpha: one byte a pixel, and the "
+      "palette, "
+      "bring the picture back.");
 }
 
 namespace {
