@@ -19,6 +19,14 @@
 
 namespace tessaro::test {
 
+#if defined(_WIN32)
+// A function of its own: a lambda has not the convention that 32-bit Windows calls threads by.
+inline DWORD WINAPI run_on_thread(void* what) {
+  (*static_cast<std::function<void()>*>(what))();
+  return 0;
+}
+#endif
+
 inline void on_a_small_stack(const std::function<void()>& run) {
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__) || TESSARO_CHECKED_BY_CLANG
   constexpr size_t bytes = size_t{512} << 10;  // checked code takes several times the room
@@ -27,11 +35,8 @@ inline void on_a_small_stack(const std::function<void()>& run) {
 #endif
   auto* const what = const_cast<std::function<void()>*>(&run);
 #if defined(_WIN32)
-  const auto start = [](void* at) -> DWORD {
-    (*static_cast<std::function<void()>*>(at))();
-    return 0;
-  };
-  const HANDLE thread = CreateThread(nullptr, bytes, start, what, STACK_SIZE_PARAM_IS_A_RESERVATION, nullptr);
+  const HANDLE thread =
+      CreateThread(nullptr, bytes, run_on_thread, what, STACK_SIZE_PARAM_IS_A_RESERVATION, nullptr);
   WaitForSingleObject(thread, INFINITE);
   CloseHandle(thread);
 #else
